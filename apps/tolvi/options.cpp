@@ -1,0 +1,284 @@
+#include "apps/tolvi/options.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+#include <tolvi/foundation/text.h>
+
+namespace tolvi {
+namespace {
+
+constexpr TOptionInfo OptionTable[] = {
+    {"model", "FILE", "the data model", "", false},
+    {"query", "FILE", "the query", "", false},
+    {"db", "FILE", "the SQLite database; it is only read", "", false},
+    {"syntax", "SYNTAX", "how the statement is written: sql1, sql2 (default), oracle, access or nexusdb",
+     "sql1|sql2|oracle|access|nexusdb", false},
+    {"top", "T", "only the first rows, as TOP: a number, or \"10 PERCENT\"", "", false},
+    {"limit", "L", "only the first rows, as LIMIT: a number, \"10 OFFSET 20\" or \"20,10\"", "", false},
+    {"bound", "STYLE", "values as markers \"?\", \":name\" or \"$1\", and the list of the values below", "?|:name|$1",
+     false},
+    {"param", "NAME=VALUE", "the value of a parameter; may be repeated", "", true},
+    {"format", "FORMAT", "table (default), csv or json", "table|csv|json", false},
+};
+
+constexpr TCommandInfo CommandTable[] = {
+    {"sql", "", "print the SELECT statement of a query", 0, 0, false, "model query", "syntax top limit bound",
+     R"help(  tolvi sql --model shop.model --query late.qry
+      prints the statement with JOIN and dates in single quotes.
+  tolvi sql --model shop.model --query late.qry --syntax oracle
+      prints it with joins in WHERE, " (+)" for outer joins, and TO_DATE.
+  tolvi sql --model shop.model --query late.qry --limit 10
+      adds LIMIT 10.
+  tolvi sql --model shop.model --query late.qry --bound :name
+      prints the statement with a marker for each value, then each value in a line of its own:
+      -- NUMBER NAME KIND TYPE TEXT
+      KIND is value, param (a parameter of the query) or missing (a parameter without a value, and no TEXT follows).
+      TEXT is all that follows the blank; a line break in it is written \n, a carriage return \r, a backslash \\.
+)help"},
+    {"filters", "", "print the conditions of each table", 0, 0, false, "model query", "syntax",
+     R"help(  tolvi filters --model shop.model --query late.qry
+      prints a line for each table on which the query has conditions: alias, tab, conditions. What belongs to no table
+      has an empty alias.
+)help"},
+    {"path", "A B", "print the chain of linked tables from alias A to alias B", 2, 2, false, "model", "",
+     R"help(  tolvi path --model shop.model Customers Products
+      prints the aliases of the shortest chain, both ends included, with a blank between them.
+)help"},
+    {"model", "MODEL", "print a data model in the current version of the format", 1, 1, true, "", "",
+     R"help(  tolvi model old.model >new.model
+)help"},
+    {"query", "QUERY", "print a query in the current version of the format", 1, 1, true, "model", "",
+     R"help(  tolvi query --model shop.model old.qry >new.qry
+      What the query names and the model lacks is kept, and told on standard error.
+)help"},
+    {"explain", "", "print a query in sentences", 0, 0, false, "model query", "",
+     R"help(  tolvi explain --model shop.model --query late.qry
+      prints the conditions as the query panel shows them, two blanks more for each bracket, then the result columns
+      and the sorting. Rows that are switched off begin with "(off)".
+)help"},
+    {"check", "[QUERY...]", "print what is wrong or suspicious in a model and in queries", 0,
+     static_cast<std::size_t>(-1), true, "model", "",
+     R"help(  tolvi check --model shop.model
+      checks the model.
+  tolvi check --model shop.model queries/*.qry
+      checks queries against it, too. Each finding is a line FILE:LINE: error: ... or FILE:LINE: warning: ...; the exit
+      status is 1 if there is an error.
+)help"},
+    {"run", "", "run a query on an SQLite database and print the rows", 0, 0, false, "model query db",
+     "param format limit syntax",
+     R"help(  tolvi run --model shop.model --query late.qry --db shop.sqlite
+      prints the rows as a table; the widths of its columns are those of the first 100 rows.
+  tolvi run --model shop.model --query since.qry --db shop.sqlite --param Since=2025-04-01
+      gives a parameter its value. On a terminal, values that are missing are asked for.
+  tolvi run --model shop.model --query late.qry --db shop.sqlite --format csv >late.csv
+      prints comma separated values (RFC 4180, lines ended by LF); NULL is an empty field, an empty text "".
+  tolvi run --model shop.model --query late.qry --db shop.sqlite --format json
+      prints an array of objects, one in a line; NULL is null, bytes are written as hexadecimal digits.
+)help"},
+};
+
+bool IsListed(std::string_view names, std::string_view name) {
+  while (!names.empty()) {
+    const std::string_view word = names.substr(0, names.find(' '));
+    if (word == name) return true;
+    names.remove_prefix(std::min(names.size(), word.size() + 1));
+  }
+  return false;
+}
+
+const TCommandInfo& FindCommand(std::string_view name) {
+  for (const TCommandInfo& command : CommandTable) {
+    if (command.Name == name) return command;
+  }
+  throw EUsageError("there is no command \"" + std::string(name) + "\"; `tolvi --help` lists them");
+}
+
+const TOptionInfo& FindOption(const TCommandInfo& command, std::string_view name) {
+  for (const TOptionInfo& option : OptionTable) {
+    if (option.Name == name && (IsListed(command.Required, name) || IsListed(command.Optional, name))) return option;
+  }
+  throw EUsageError(std::string(command.Name) + " has no option --" + std::string(name));
+}
+
+void CheckChoice(const TOptionInfo& option, std::string_view value) {
+  if (option.Choices.empty()) return;
+  for (std::string_view rest = option.Choices; !rest.empty();) {
+    const std::string_view choice = rest.substr(0, rest.find('|'));
+    if (choice == value) return;
+    rest.remove_prefix(std::min(rest.size(), choice.size() + 1));
+  }
+  throw EUsageError("--" + std::string(option.Name) + " is one of " + std::string(option.Choices) + ", not \"" +
+                    std::string(value) + "\"");
+}
+
+/// What can be seen only when all arguments are there.
+void CheckWhole(const TArguments& arguments) {
+  const TCommandInfo& command = *arguments.Command;
+  const std::string name(command.Name);
+  for (const TOptionInfo& option : OptionTable) {
+    if (IsListed(command.Required, option.Name) && !arguments.Has(option.Name)) {
+      throw EUsageError(name + " needs --" + std::string(option.Name) + " " + std::string(option.Argument));
+    }
+  }
+  if (arguments.Operands.size() < command.MinOperands) {
+    throw EUsageError(name + " needs " + std::string(command.Operands));
+  }
+  if (arguments.Operands.size() > command.MaxOperands) {
+    throw EUsageError(name + " takes no \"" + arguments.Operands[command.MaxOperands] + "\"");
+  }
+  auto stdinCount = (arguments.Value("model") == "-" ? 1 : 0) + (arguments.Value("query") == "-" ? 1 : 0);
+  if (command.OperandsAreFiles) {
+    stdinCount += static_cast<int>(std::count(arguments.Operands.begin(), arguments.Operands.end(), "-"));
+  }
+  if (stdinCount > 1) throw EUsageError("only one file can be standard input (\"-\")");
+}
+
+std::string Padded(std::string_view text, std::size_t width) {
+  return std::string(text) + std::string(text.size() < width ? width - text.size() : 1, ' ');
+}
+
+bool IsNumber(std::string_view text) {
+  return !text.empty() && text.size() <= 18 &&
+         std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+/// Words separated by blanks; a comma is a word.
+std::vector<std::string> Words(std::string_view text) {
+  std::vector<std::string> words;
+  bool open = false;
+  for (const char c : text) {
+    if (c == ' ' || c == ',') {
+      open = false;
+      if (c == ',') words.emplace_back(",");
+      continue;
+    }
+    if (!open) words.emplace_back();
+    open = true;
+    words.back() += c;
+  }
+  return words;
+}
+
+}  // namespace
+
+std::span<const TCommandInfo> Commands() { return CommandTable; }
+std::span<const TOptionInfo> Options() { return OptionTable; }
+
+const std::string* TArguments::Find(std::string_view option) const {
+  for (const auto& [name, value] : FOptions) {
+    if (name == option) return &value;
+  }
+  return nullptr;
+}
+
+std::string_view TArguments::Value(std::string_view option, std::string_view byDefault) const {
+  const std::string* value = Find(option);
+  return value ? std::string_view(*value) : byDefault;
+}
+
+std::vector<std::string_view> TArguments::Values(std::string_view option) const {
+  std::vector<std::string_view> values;
+  for (const auto& [name, value] : FOptions) {
+    if (name == option) values.emplace_back(value);
+  }
+  return values;
+}
+
+TArguments ParseArguments(std::span<const std::string> arguments) {
+  TArguments result;
+  bool onlyOperands = false;
+  for (std::size_t at = 0; at < arguments.size(); ++at) {
+    const std::string_view argument = arguments[at];
+    const bool isOption = !onlyOperands && argument.size() > 1 && argument.front() == '-';
+    if (isOption && (argument == "--help" || argument == "-h")) {
+      result.Help = true;
+      return result;
+    }
+    if (isOption && !result.Command && argument == "--version") {
+      result.Version = true;
+      return result;
+    }
+    if (isOption && argument == "--") {
+      onlyOperands = true;
+    } else if (!result.Command) {
+      if (isOption) throw EUsageError("the command comes first, not " + std::string(argument));
+      result.Command = &FindCommand(argument);
+    } else if (!isOption) {
+      result.Operands.emplace_back(argument);
+    } else {
+      if (!argument.starts_with("--")) throw EUsageError("options begin with \"--\", not " + std::string(argument));
+      const auto [name, value] = GetNameAndValueSep(argument.substr(2), "=");
+      const TOptionInfo& option = FindOption(*result.Command, name);
+      const bool hasValue = argument.find('=') != std::string_view::npos;
+      if (!hasValue && at + 1 == arguments.size()) {
+        throw EUsageError("--" + std::string(name) + " needs " + std::string(option.Argument));
+      }
+      const std::string_view given = hasValue ? value : std::string_view(arguments[++at]);
+      if (result.Has(name) && !option.Repeatable) throw EUsageError("--" + std::string(name) + " is given twice");
+      CheckChoice(option, given);
+      result.Add(name, given);
+    }
+  }
+  if (!result.Command) throw EUsageError("a command is missing; `tolvi --help` lists them");
+  CheckWhole(result);
+  return result;
+}
+
+std::string HelpText() {
+  std::string text =
+      "usage: tolvi COMMAND ...\n\n"
+      "Makes SQL from a data model and a query written in its words, and runs it.\n\n";
+  for (const TCommandInfo& command : CommandTable) {
+    text += "  " + Padded(command.Name, 9) + std::string(command.Summary) + "\n";
+  }
+  text +=
+      "\nFor example:\n"
+      "  tolvi explain --model shop.model --query late.qry\n"
+      "  tolvi sql --model shop.model --query late.qry\n"
+      "  tolvi run --model shop.model --query late.qry --db shop.sqlite\n\n"
+      "`tolvi COMMAND --help` shows more. Files are UTF-8; \"-\" is standard input. The exit status is 0 when all is\n"
+      "well, 1 when the input is at fault, 2 for wrong usage.\n";
+  return text;
+}
+
+std::string HelpText(const TCommandInfo& command) {
+  const auto spelled = [](const TOptionInfo& option) {
+    return "--" + std::string(option.Name) + " " + std::string(option.Argument);
+  };
+  std::string usage = "usage: tolvi " + std::string(command.Name), list;
+  for (const TOptionInfo& option : OptionTable) {
+    const bool required = IsListed(command.Required, option.Name);
+    if (!required && !IsListed(command.Optional, option.Name)) continue;
+    usage += required ? " " + spelled(option) : " [" + spelled(option) + "]";
+    if (option.Repeatable) usage += "...";
+    list += "  " + Padded(spelled(option), 20) + std::string(option.Help) + "\n";
+  }
+  if (!command.Operands.empty()) usage += " " + std::string(command.Operands);
+  std::string summary(command.Summary);
+  summary.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(summary.front())));
+  if (!list.empty()) list = "\n" + list;
+  return usage + "\n\n" + summary + ".\n" + list + "\n" + std::string(command.Help);
+}
+
+std::string TopClause(std::string_view argument) {
+  const std::vector<std::string> words = Words(argument);
+  const bool isPercent = words.size() == 2 && AsciiSameText(words[1], "PERCENT");
+  if (words.empty() || !IsNumber(words[0]) || (words.size() != 1 && !isPercent)) {
+    throw EUsageError("--top is a number or \"N PERCENT\", not \"" + std::string(argument) + "\"");
+  }
+  return words[0] + (isPercent ? " PERCENT" : "");
+}
+
+std::string LimitClause(std::string_view argument) {
+  const std::vector<std::string> words = Words(argument);
+  const bool isPair = words.size() == 3 && (words[1] == "," || AsciiSameText(words[1], "OFFSET")) && IsNumber(words[2]);
+  if (words.empty() || !IsNumber(words[0]) || (words.size() != 1 && !isPair)) {
+    throw EUsageError("--limit is a number, \"N OFFSET M\" or \"M,N\", not \"" + std::string(argument) + "\"");
+  }
+  if (!isPair) return words[0];
+  return words[1] == "," ? words[0] + "," + words[2] : words[0] + " OFFSET " + words[2];
+}
+
+}  // namespace tolvi

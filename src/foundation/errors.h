@@ -1,0 +1,110 @@
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include <tolvi/foundation/format.h>
+
+namespace tolvi {
+
+/// Base of every exception that the library raises. `what()` is the message, ready to be shown to a person.
+class EException : public std::runtime_error {
+ public:
+  explicit EException(const std::string& message) : std::runtime_error(message) {}
+  EException(std::string_view message, std::initializer_list<TFormatArg> args)
+      : std::runtime_error(Format(message, args)) {}
+
+  std::string Message() const { return what(); }
+};
+
+/// Text that cannot be converted to a number, a date or an enumeration.
+class EConvertError : public EException {
+ public:
+  using EException::EException;
+};
+
+/// An index outside a list.
+class EListError : public EException {
+ public:
+  using EException::EException;
+  /// "List index out of bounds (%d)" with the index.
+  static EListError OutOfBounds(std::int64_t index);
+};
+
+/// A file that cannot be read or written; the message names it and the reason.
+class EFileError : public EException {
+ public:
+  using EException::EException;
+};
+
+/// A component text that cannot be read; the message names the line.
+class EStreamError : public EException {
+ public:
+  using EException::EException;
+};
+
+/// Base of the errors that carry a code besides their message.
+class EJTarvelonError : public EException {
+ public:
+  EJTarvelonError(std::int32_t errorCode, const std::string& message) : EException(message), FErrorCode(errorCode) {}
+  EJTarvelonError(std::int32_t errorCode, std::string_view message, std::initializer_list<TFormatArg> args)
+      : EException(message, args), FErrorCode(errorCode) {}
+
+  std::int32_t ErrorCode() const noexcept { return FErrorCode; }
+
+ private:
+  std::int32_t FErrorCode;
+};
+
+/// Raised by the data model.
+class EJDBStructError : public EJTarvelonError {
+ public:
+  using EJTarvelonError::EJTarvelonError;
+};
+
+/// Raised by the query definition and the query panel.
+class EJQueryPanelError : public EJTarvelonError {
+ public:
+  using EJTarvelonError::EJTarvelonError;
+};
+
+/// Raised by the catalogue source.
+class EJDBInfoError : public EJTarvelonError {
+ public:
+  using EJTarvelonError::EJTarvelonError;
+};
+
+/// Raised by the query store.
+class EJQueryBaseError : public EJTarvelonError {
+ public:
+  using EJTarvelonError::EJTarvelonError;
+};
+
+/// Raised by the SQL parser.
+class ESQLParserError : public EException {
+ public:
+  using EException::EException;
+};
+
+/// Raised by the result fields panel.
+class ERFPanelError : public EException {
+ public:
+  using EException::EException;
+};
+
+/// Raised by the structure designer.
+class EStructureDesignError : public EException {
+ public:
+  using EException::EException;
+};
+
+/// Raised by the drop-down label controls.
+class EDDLabelError : public EException {
+ public:
+  using EException::EException;
+};
+
+}  // namespace tolvi

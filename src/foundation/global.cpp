@@ -1,0 +1,24 @@
+#include <tolvi/foundation/global.h>
+#include <tolvi/foundation/text.h>
+
+namespace tolvi {
+namespace {
+
+constexpr std::string_view FieldKindNames[] = {"jfkData", "jfkVirtual"};
+
+}  // namespace
+
+std::string_view FldKindToStr(TJFieldKind kind) { return FieldKindNames[kind]; }
+
+TJFieldKind StrToFldKind(std::string_view text) {
+  for (const TJFieldKind kind : {jfkData, jfkVirtual}) {
+    if (AsciiSameText(FieldKindNames[kind], text)) return kind;
+  }
+  throw EConvertError("'%s' is not a valid field kind", {text});
+}
+
+std::string TvDateTimeToStr(TDateTime value, const TFormatSettings& settings) { return FloatToStr(value, settings); }
+
+TDateTime TvStrToDateTime(std::string_view text, const TFormatSettings& settings) { return StrToFloat(text, settings); }
+
+}  // namespace tolvi

@@ -1,0 +1,93 @@
+#include <cstddef>
+#include <functional>
+
+#include <tolvi/foundation/text.h>
+#include <tolvi/query/explain.h>
+#include <tolvi/query/paramvalues.h>
+#include <tolvi/query/querpnl.h>
+
+namespace tolvi {
+namespace {
+
+/// Whether the call has changed the parameter.
+using TParamCall = std::function<bool(TSQLParam&)>;
+
+/// Visits parameters in the order in which a statement numbers them: those of the query, then those of the sub-queries
+/// of its WHERE and of its HAVING.
+class TParamWalk {
+ public:
+  explicit TParamWalk(const TParamCall& call) : FCall(call) {}
+
+  /// Whether a parameter has changed.
+  bool Run(TJQueryPanel& panel) {
+    bool changed = false;
+    for (TSQLParam& param : panel.QResult().Params()) changed |= FCall(param);
+    FTaken = panel.QResult().Params().GetParentParamCount() + panel.QResult().GetParamCount();
+    changed |= WalkBracket(panel.RootBracket(), false);
+    changed |= WalkBracket(panel.RootBracket(), true);
+    return changed;
+  }
+
+ private:
+  bool WalkBracket(TFilterBracket& bracket, bool having) {
+    bool changed = false;
+    for (TFilterRow& row : bracket) {
+      // The root takes part in both clauses, any other row in one.
+      if (!row.GetEnabled() || row.GetIsHavingRow() != having) continue;
+      changed |= row.GetRowType() == frtBracket ? WalkBracket(static_cast<TFilterBracket&>(row), having)
+                                                : WalkSubQuery(static_cast<TFilterCond&>(row));
+    }
+    return changed;
+  }
+
+  bool WalkSubQuery(TFilterCond& condition) {
+    if (condition.GetValueCount() == 0 || condition.GetValueKind(1) != vkSubQuery || condition.GetSubQuery().Empty()) {
+      return false;
+    }
+    TJQueryPanel panel;
+    panel.SetDBStruct(condition.GetQueryPanel().GetDBStruct());
+    panel.SetFormatSettings(condition.GetQueryPanel().GetFormatSettings());
+    panel.LoadFromStrings(condition.GetSubQuery());
+    panel.QResult().Params().SetParentParamCount(FTaken);
+    panel.QResult().ReindexParams();
+    TParamWalk walk(FCall);
+    const bool changed = walk.Run(panel);
+    FTaken = walk.FTaken;
+    if (changed) {
+      TStrings lines;
+      panel.SaveToStrings(lines);
+      condition.SetSubQuery(lines);
+    }
+    return changed;
+  }
+
+  const TParamCall& FCall;
+  std::size_t FTaken = 0;
+};
+
+}  // namespace
+
+std::vector<TParamInfo> ListParams(TJQueryPanel& panel) {
+  std::vector<TParamInfo> params;
+  const TParamCall call = [&params](TSQLParam& param) {
+    params.push_back({param.GetParamName(), param.GetDisplayName(), ExplainCondition(param.GetCondition()),
+                      param.GetValue(), param.GetFullValue(), param.GetParamType()});
+    return false;
+  };
+  TParamWalk(call).Run(panel);
+  return params;
+}
+
+bool SetParamValue(TJQueryPanel& panel, std::string_view name, std::string_view value) {
+  bool found = false;
+  const TParamCall call = [&](TSQLParam& param) {
+    if (!SameText(param.GetParamName(), name)) return false;
+    param.SetValue(value);
+    found = true;
+    return true;
+  };
+  TParamWalk(call).Run(panel);
+  return found;
+}
+
+}  // namespace tolvi

@@ -1,0 +1,240 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <tolvi/foundation/components.h>
+#include <tolvi/foundation/numbers.h>
+#include <tolvi/model/dbstruc.h>
+#include <tolvi/query/panelview.h>
+#include <tolvi/query/queryresult.h>
+#include <tolvi/query/rows.h>
+#include <tolvi/query/titles.h>
+
+namespace tolvi {
+
+class TSQLBuilder;
+
+/// A query in the words of a data model: conditions in a tree of brackets, result columns, name and description; and
+/// the statement that it stands for. Holds no pixel: a view shows it, programs use it without one.
+///
+///   TJQueryPanel panel;
+///   panel.SetDBStruct(&model);
+///   panel.SetActive(true);
+///   panel.QResult().RFields().Add(*model.FieldByName(fnFullName, "Orders.ID"));
+///   std::string sql = panel.GetQueryText();
+///
+/// 1. The root bracket exists always; rows belong to their brackets, parameters to the query result.
+/// 2. After each completed change the order is: indexes, view, `OnChange`.
+/// 3. When the model loses a field, operator or condition that a row names, the row stays and keeps its ID or name.
+class TJQueryPanel : public TComponent, private TDSListener {
+ public:
+  using TPanelEvent = std::function<void(TJQueryPanel&)>;
+  /// May change the SQL of a condition.
+  using TBuildSQLEvent = std::function<void(TFilterCond&, std::string& sqlExpr)>;
+
+  TJQueryPanel();
+  ~TJQueryPanel() override;
+  std::string_view ClassName() const override { return "TJQueryPanel"; }
+
+  /// The data model; not owned. Exchanging it looks everything up anew by its ID or name; when the model goes, the
+  /// panel is deactivated and cleared.
+  TJCustomDBStructure* GetDBStruct() const { return FDBStruct.Get(); }
+  void SetDBStruct(TJCustomDBStructure* dbStruct);
+  /// Raises `EJQueryPanelError` "DBStruct is not specified" without a model.
+  void CheckIfDBStructAssigned() const;
+  /// Whether the conditions take part in the statement and views show them. Default false. Activating needs a model.
+  bool GetActive() const { return FActive; }
+  void SetActive(bool active);
+
+  // Conditions
+
+  TFilterBracket& RootBracket() { return *FRoot; }
+  const TFilterBracket& RootBracket() const { return *FRoot; }
+  /// Adds a condition, a bracket, a predefined condition at the end of the bracket, or so that it gets the number. It
+  /// becomes the current row.
+  TSimpleCond& AddCondition(TFilterBracket& bracket, TDSField& field);
+  TSimpleCond& AddConditionNum(TFilterBracket& bracket, int rowNum, TDSField& field);
+  TFilterBracket& AddBracket(TFilterBracket& bracket);
+  TFilterBracket& AddBracketNum(TFilterBracket& bracket, int rowNum);
+  TCustomCond& AddCustomCondition(TFilterBracket& bracket, TDSCondition& condition);
+  /// Adds a condition with everything set. The current row stays.
+  TSimpleCond& AddSimpleCond(TFilterBracket& bracket, TDSField& field, TDSOperator& op, std::string_view value1,
+                             std::string_view value2 = {});
+  TSimpleCond& ManualAddCond(TFilterBracket& bracket, TDSField& field, TDSOperator& op, std::string_view value) {
+    return AddSimpleCond(bracket, field, op, value);
+  }
+  /// The row in that display place (0 the root); null when there is none.
+  TFilterRow* RowByNum(int rowNum) const;
+  /// The row that keys and menus act on; null for none.
+  TFilterRow* GetCurrentRow() const { return FCurrentRow; }
+  void SetCurrentRow(TFilterRow* row);
+  /// Moves to the next (previous) row in display order; false at the end.
+  bool NextRow();
+  bool PrevRow();
+  /// Destroys the current row, unless it is the root; the next row, else the previous one, becomes the current one.
+  void DeleteCurrentRow();
+  /// Numbers the rows of the panel in display order. Rows number themselves when asked; a call is never needed.
+  void EnumerateBracket(const TFilterBracket& bracket) const;
+  /// Empties the tree; the tree, the columns, name, description and user data.
+  void ClearRows();
+  void ClearAll();
+
+  // The statement
+
+  TQueryResult& QResult() { return *FQResult; }
+  const TQueryResult& QResult() const { return *FQResult; }
+  TRFieldList& RFields() { return FQResult->RFields(); }
+  /// Collects tables and clauses. Raises `EJQueryPanelError` when there is nothing to build from, two tables have no
+  /// path, a value does not fit its type, or an enabled row names what the model lacks.
+  void BuildQuery();
+  /// `BuildQuery` and the whole statement: one text, lines joined by CR LF; lines.
+  const std::string& GetQueryText();
+  TStrings GetSQL();
+  /// The statement with markers for its values.
+  TBoundStatement GetBoundStatement(TMarkerStyle style = msQuestion);
+  /// Fills `TableFilters` with the conditions of each table, joined by " AND ".
+  void BuildFilters();
+  const TJTableFilterList& TableFilters() const { return FQResult->FTableFilters; }
+  /// The literal of value 1 or 2 of a condition, as the statement writes it.
+  std::string ExtractValue(const TFilterCond& condition, int index) const;
+  /// The first table of every statement: the model's default main table; null when it has none.
+  TDSTable* GetMainTable() const { return FMainTable; }
+  void RefreshMainTable();
+
+  TSQLOptions GetSQLOptions() const { return FQResult->GetSQLOptions(); }
+  void SetSQLOptions(TSQLOptions options) { FQResult->SetSQLOptions(options); }
+  TSQLSyntax GetSQLSyntax() const { return FQResult->GetSQLSyntax(); }
+  void SetSQLSyntax(TSQLSyntax syntax) { FQResult->SetSQLSyntax(syntax); }
+  /// Written after SELECT as " TOP ..." and as the last line "LIMIT ..."; the host's own SQL, as it stands. Default
+  /// empty.
+  const std::string& GetSQLTopClause() const { return FSQLTopClause; }
+  void SetSQLTopClause(std::string_view clause);
+  const std::string& GetSQLLimitClause() const { return FSQLLimitClause; }
+  void SetSQLLimitClause(std::string_view clause);
+  /// The locale in which values are read and shown. Default the C locale.
+  const TFormatSettings& GetFormatSettings() const { return FFormatSettings; }
+  void SetFormatSettings(const TFormatSettings& settings);
+
+  // The query as text
+
+  const std::string& GetQueryName() const { return FQueryName; }
+  void SetQueryName(std::string_view name);
+  const TStrings& GetDescription() const { return FDescription; }
+  void SetDescription(const TStrings& lines);
+  const TStrings& GetUserData() const { return FUserData; }
+  void SetUserData(const TStrings& lines);
+  /// Whether query texts hold the SQL options (default true), the titles (default false).
+  bool GetSaveSQLOptions() const { return FSaveSQLOptions; }
+  void SetSaveSQLOptions(bool on) { FSaveSQLOptions = on; }
+  bool GetSaveTitles() const { return FSaveTitles; }
+  void SetSaveTitles(bool on) { FSaveTitles = on; }
+  /// Saving clears `Modified`. Loading replaces the query and activates the panel; when the text cannot be read
+  /// (`EJQueryPanelError`, `EConvertError`) the panel keeps its old query. What the text names and the model lacks is
+  /// kept and listed in `LoadWarnings`.
+  void SaveToStrings(TStrings& lines);
+  void LoadFromStrings(const TStrings& lines);
+  std::string SaveToText();
+  void LoadFromText(std::string_view text);
+  void SaveToFile(const std::filesystem::path& file);
+  void LoadFromFile(const std::filesystem::path& file);
+  const std::vector<TQueryWarning>& LoadWarnings() const { return FLoadWarnings; }
+  void AddLoadWarning(std::string_view rowID, std::string_view text);
+  bool GetModified() const { return FModified; }
+  void SetModified(bool modified) { FModified = modified; }
+
+  // Titles
+
+  TTitles& Titles() { return FTitles; }
+  const TTitles& Titles() const { return FTitles; }
+  std::string GetTitle(std::string_view name) const { return FTitles.GetTitle(name); }
+  void SetTitle(std::string_view name, std::string_view text);
+  void SetTitles(const TStrings& lines);
+  void LoadDefTitles();
+
+  // Change notification
+
+  /// Null for none; must outlive the panel or be taken off.
+  TQueryPanelView* GetView() const { return FView; }
+  void SetView(TQueryPanelView* view) { FView = view; }
+  /// After any change of the query.
+  TPanelEvent OnChange;
+  TPanelEvent OnActiveChange;
+  TPanelEvent OnCurrentRowChange;
+  TBuildSQLEvent OnBuildSQL;
+
+ protected:
+  void DefineProperties(TPropertyFiler& filer) override;
+  void Loaded() override;
+
+ private:
+  friend class TFilterRow;
+  friend class TFilterBracket;
+  friend class TFilterCond;
+  friend class TSimpleCond;
+  friend class TCustomCond;
+  friend class TSQLBuilder;
+  friend class TQueryResult;
+  friend class TQueryReader;
+  friend class TSQLParam;
+
+  void FieldRemoved(TDSField& field) override;
+  void OperatorRemoved(TDSOperator& op) override;
+  void ConditionRemoved(TDSCondition& condition) override;
+  void TablesChanging() override;
+  void StructureClearing() override;
+  void StructureLoaded() override;
+
+  // A change of what the statement consists of; of one value only.
+  void ShapeChanged();
+  void ContentChanged();
+  // Between these, `OnChange` is held back and fired once at the end.
+  void HoldBack() { ++FHeldBack; }
+  void Release();
+  // The view, unless a query is being read.
+  TQueryPanelView* Viewer() const { return FLoading > 0 ? nullptr : FView; }
+  void RowInserted(TFilterRow& row);
+  // Before a row is taken out: moves the current row out of it. After that: tells the view.
+  void LeaveRow(const TFilterRow& row);
+  void RowRemoved(TFilterRow& row);
+  void RowsMoved() { FNumbered = false; }
+  void EachCondition(TFilterBracket& bracket, const std::function<void(TFilterCond&)>& call);
+  TDSField* GetDefaultField() const;
+  TDSOperator* GetDefaultOperator(const TDSField& field) const;
+  void ModelDestroyed();
+  void ReadQuery(std::string_view text);
+
+  TRef<TJCustomDBStructure> FDBStruct;
+  TQueryPanelView* FView = nullptr;
+  std::unique_ptr<TQueryResult> FQResult;
+  std::unique_ptr<TSQLBuilder> FBuilder;
+  std::unique_ptr<TFilterBracket> FRoot;
+  TFilterRow* FCurrentRow = nullptr;
+  TDSTable* FMainTable = nullptr;
+  TTitles FTitles;
+  TFormatSettings FFormatSettings;
+  std::string FQueryName, FSQLTopClause, FSQLLimitClause;
+  TStrings FDescription, FUserData, FStoredRFields;
+  std::vector<TQueryWarning> FLoadWarnings;
+  bool FActive = false, FModified = false, FSaveSQLOptions = true, FSaveTitles = false, FStoredActive = false;
+  // Whether the rows' numbers are up to date.
+  mutable bool FNumbered = false;
+  std::uint64_t FShapeRevision = 1;
+  int FLoading = 0, FHeldBack = 0;
+  bool FChangePending = false;
+};
+
+/// Reads all query files ("*.qry") of a folder, by name. Raises `EFileError` when the folder cannot be read.
+struct TStoredQuery {
+  std::string FileName;
+  TStrings Lines;
+};
+std::vector<TStoredQuery> ReadQueries(const std::filesystem::path& folder);
+
+}  // namespace tolvi

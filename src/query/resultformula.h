@@ -1,0 +1,35 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+#include <tolvi/query/querytext.h>
+
+namespace tolvi {
+
+class TDSField;
+class TJCustomDBStructure;
+
+/// Splits a formula at its placeholders "@1" to "@9" for the first `count` fields: calls `literal(text)` and
+/// `place(index from 0)` in the order of the text. Of a longer number the first digit counts.
+template <typename TLiteral, typename TPlace>
+void ForEachPlaceholder(std::string_view formula, std::size_t count, TLiteral literal, TPlace place) {
+  std::size_t done = 0;
+  for (std::size_t at = formula.find('@'); at != std::string_view::npos; at = formula.find('@', at + 1)) {
+    const std::size_t digit = at + 1 < formula.size() ? static_cast<std::size_t>(formula[at + 1] - '0') : 0;
+    if (digit < 1 || digit > std::min<std::size_t>(count, 9)) continue;
+    if (at > done) literal(formula.substr(done, at - done));
+    place(digit - 1);
+    done = at + 2;
+  }
+  if (done < formula.size()) literal(formula.substr(done));
+}
+
+/// The field that a query text of that version means: by its ID since version 2.0, by column name before 1.4, by full
+/// name, else column name, in between; newer texts so name a field that an old text named and the model lacked.
+/// Null when the model lacks it.
+TDSField* FindStoredField(const TJCustomDBStructure& model, std::string_view text,
+                          double version = CurrentQueryVersion);
+
+}  // namespace tolvi

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <tolvi/foundation/strings.h>
+
+namespace tolvi {
+
+/// The texts of the query panel and of the result fields editor: lines "key=text" in two sections, which a host may
+/// replace or translate. "@" marks the place of a link word, "%s" that of a field name, "&" a menu accelerator.
+class TTitles final {
+ public:
+  /// Starts with the default texts.
+  TTitles() { LoadDefTitles(); }
+
+  /// Back to the default texts (English).
+  void LoadDefTitles();
+  /// The text of that key, ignoring case; empty when there is none.
+  std::string GetTitle(std::string_view name) const;
+  /// Replaces the text of a key; an unknown key is ignored.
+  void SetTitle(std::string_view name, std::string_view text);
+  const TStrings& Lines() const { return FLines; }
+  /// Default texts, replaced by those that `lines` hold in the same section. The section "[PanelTitles]" is the older
+  /// name of "[Query Panel]". Unknown keys are ignored.
+  void Assign(const TStrings& lines);
+  /// The older form: keys and texts without a division into sections, over the present texts.
+  void AssignOld(const TStrings& lines);
+  bool IsDefault() const { return FLines == DefaultLines(); }
+  static const TStrings& DefaultLines();
+
+ private:
+  TStrings FLines;
+};
+
+}  // namespace tolvi

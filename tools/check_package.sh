@@ -1,0 +1,45 @@
+#!/bin/sh
+# Builds programs that are not part of Tolvi against it: one with find_package from an install tree, one with
+# add_subdirectory. Says nothing when both work.
+#
+#   check_package.sh [BUILD-DIR]     the build to install; default: build/release, which `./run build` makes
+set -eu
+cd "$(dirname "$0")/.."
+root=$PWD
+build=${1:-build/release}
+work=$root/build/package
+rm -rf "$work/installed" "$work/embed" "$work/wrong" # the host's build stays: it compiles the core once more
+mkdir -p "$work/host" "$work/wrong"
+
+# expect_success / expect_failure COMMAND...: the output is in $work/log, and shown when the outcome is the other one.
+expect_success() {
+  "$@" >"$work/log" 2>&1 || { cat "$work/log" && echo "failed: $*" && exit 1; }
+}
+expect_failure() {
+  if "$@" >"$work/log" 2>&1; then cat "$work/log" && echo "should have failed: $*" && exit 1; fi
+}
+
+expect_success cmake --install "$build" --prefix "$work/installed"
+
+expect_success cmake -G Ninja -S examples/embed -B "$work/embed" -D CMAKE_PREFIX_PATH="$work/installed"
+expect_success cmake --build "$work/embed"
+expect_success "$work/embed/embed"
+
+cat >"$work/host/CMakeLists.txt" <<TEXT
+cmake_minimum_required(VERSION 3.25)
+project(host LANGUAGES CXX)
+add_subdirectory($root tolvi)
+add_executable(host $root/examples/embed/main.cpp)
+target_link_libraries(host PRIVATE Tolvi::Core)
+TEXT
+expect_success cmake -G Ninja -S "$work/host" -B "$work/host/build"
+expect_success cmake --build "$work/host/build" --target host
+expect_success "$work/host/build/host"
+
+cat >"$work/wrong/CMakeLists.txt" <<TEXT
+cmake_minimum_required(VERSION 3.25)
+project(wrong LANGUAGES CXX)
+find_package(Tolvi REQUIRED COMPONENTS Core Nonesuch)
+TEXT
+expect_failure cmake -G Ninja -S "$work/wrong" -B "$work/wrong/build" -D CMAKE_PREFIX_PATH="$work/installed"
+grep -q 'Tolvi has no component "Nonesuch"' "$work/log" || { cat "$work/log" && echo "the message names no component" && exit 1; }
