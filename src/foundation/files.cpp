@@ -13,11 +13,11 @@
 #endif
 
 #include <tolvi/foundation/errors.h>
+#include <tolvi/foundation/text.h>
 
 namespace tolvi {
 namespace {
 
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 constexpr int MaxTemporaryNames = 1000;
 
 struct TCloser {
@@ -109,7 +109,7 @@ std::string ReadFile(const std::filesystem::path& file) {
     content.append(block.data(), count);
   if (std::ferror(handle.get()) != 0) throw ReadFailed(file, errno);
 
-  if (content.starts_with(Utf8Mark)) content.erase(0, Utf8Mark.size());
+  if (content.starts_with(ByteOrderMark)) content.erase(0, ByteOrderMark.size());
   return content;
 }
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <tolvi/foundation/global.h>
 #include <tolvi/foundation/text.h>
 
@@ -20,5 +22,12 @@ TJFieldKind StrToFldKind(std::string_view text) {
 std::string TvDateTimeToStr(TDateTime value, const TFormatSettings& settings) { return FloatToStr(value, settings); }
 
 TDateTime TvStrToDateTime(std::string_view text, const TFormatSettings& settings) { return StrToFloat(text, settings); }
+
+std::unique_ptr<char[]> GetStringsAsAnsiChar(const TStrings& strings) {
+  const std::string text = strings.GetText();
+  auto copy = std::make_unique<char[]>(text.size() + 1);
+  std::copy(text.begin(), text.end(), copy.get());
+  return copy;
+}
 
 }  // namespace tolvi

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include <tolvi/foundation/datetime.h>
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/fieldtypes.h>
+#include <tolvi/foundation/strings.h>
 
 namespace tolvi {
 
@@ -25,5 +27,8 @@ std::string TvDateTimeToStr(TDateTime value, const TFormatSettings& settings = {
 
 /// The inverse of `TvDateTimeToStr`. Raises `EConvertError` when the text is no number.
 TDateTime TvStrToDateTime(std::string_view text, const TFormatSettings& settings = {});
+
+/// The lines, each followed by CR LF, as a new text that ends with a zero byte: for callers that know no C++ text.
+std::unique_ptr<char[]> GetStringsAsAnsiChar(const TStrings& strings);
 
 }  // namespace tolvi

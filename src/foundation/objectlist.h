@@ -36,7 +36,10 @@ class TJObjectList {
     FItems.erase(FItems.begin() + static_cast<std::ptrdiff_t>(index));
     return item;
   }
-  void Move(std::size_t from, std::size_t to) { Insert(to, Delete(from)); }
+  void Move(std::size_t from, std::size_t to) {
+    Checked(to);
+    Insert(to, Delete(from));
+  }
   /// Destroys the entries from the last to the first.
   void Clear() {
     while (!FItems.empty()) FItems.pop_back();

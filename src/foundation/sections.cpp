@@ -7,7 +7,6 @@
 namespace tolvi {
 namespace {
 
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view EscapedSuffix = ":escaped";
 
 /// Cuts the first line off `text`: returned without its LF or CR LF.
@@ -141,7 +140,7 @@ std::string TSection::Where(std::string_view key) const {
 }
 
 TSectionedText::TSectionedText(std::string_view text, THeaderTest isHeader) : FText(text), FIsHeader(isHeader) {
-  if (FText.starts_with(Utf8Mark)) FText.remove_prefix(Utf8Mark.size());
+  if (FText.starts_with(ByteOrderMark)) FText.remove_prefix(ByteOrderMark.size());
   std::string_view rest = FText;
   for (std::size_t number = 1; !rest.empty(); ++number) {
     const std::size_t start = FText.size() - rest.size();

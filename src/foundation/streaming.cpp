@@ -10,13 +10,22 @@
 namespace tolvi {
 namespace {
 
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
-
 using TComponentsByName = std::unordered_map<std::string, const TComponent*, TFoldedHash, TFoldedEqual>;
 
 const TComponent* FindByName(const TComponentsByName& components, std::string_view name) {
   const auto found = components.find(name);
   return found == components.end() ? nullptr : found->second;
+}
+
+// The name of a property, or identifiers joined by points for one of a part ("SQLFormats.Date").
+std::string_view CutPropertyName(std::string_view& text) {
+  const std::string_view whole = text;
+  CutIdentifier(text);
+  while (text.starts_with('.')) {
+    text.remove_prefix(1);
+    CutIdentifier(text);
+  }
+  return whole.substr(0, whole.size() - text.size());
 }
 
 }  // namespace
@@ -118,7 +127,7 @@ class TComponentWriter final : private TPropertyFiler {
 class TComponentReader final : private TPropertyFiler {
  public:
   TComponentReader(std::string_view text, const TComponentRegistry& registry) : FRegistry(registry) {
-    if (text.starts_with(Utf8Mark)) text.remove_prefix(Utf8Mark.size());
+    if (text.starts_with(ByteOrderMark)) text.remove_prefix(ByteOrderMark.size());
     FLines = SplitLines(text);
   }
 
@@ -172,7 +181,7 @@ class TComponentReader final : private TPropertyFiler {
     if (line.empty()) return;
     if (FOpen.empty() && FRoot) Fail(FLine, "nothing may follow the end of the first object; remove it", {});
     std::string_view rest = line;
-    const std::string_view word = CutIdentifier(rest);
+    const std::string_view word = CutPropertyName(rest);
     SkipBlanks(rest);
     if (!FOpen.empty() && !word.empty() && rest.starts_with('='))
       ReadProperty(word, Trim(rest.substr(1)));

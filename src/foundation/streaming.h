@@ -43,6 +43,7 @@ inline constexpr std::size_t MaxComponentNesting = 1000;
 ///         'line 2')
 ///       Model = Structure1
 ///       object Structure1: TJDBStructure
+///         SQLFormats.TrueValue = '1'
 ///       end
 ///     end
 ///

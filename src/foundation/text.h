@@ -12,6 +12,9 @@ namespace tolvi {
 /// Line break of stored texts and of generated SQL.
 inline constexpr std::string_view CrLf = "\r\n";
 
+/// The byte order mark that may stand before a UTF-8 text.
+inline constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
 /// The text with every letter folded by Unicode simple case folding. Bytes that are not UTF-8 stay as they are.
 std::string FoldCase(std::string_view text);
 

@@ -44,6 +44,11 @@ void TDSCondition::Modified() {
   if (FDBStruct) FDBStruct->ConditionsModified();
 }
 
+void TDSCondition::BindTo(TJCustomDBStructure* dbStruct) {
+  FDBStruct = dbStruct;
+  for (TDSValue& value : FValues) TJCustomDBStructure::BindEditor(value.GetValueEditor(), dbStruct);
+}
+
 void TDSCondition::UpdateTables() {
   FTables.Clear();
   TStrings references;
@@ -53,10 +58,9 @@ void TDSCondition::UpdateTables() {
 TDSCondition& TDSConditionList::Add(std::unique_ptr<TDSCondition> condition) {
   if (condition->FID == 0) condition->FID = NextID();
   FMaxID = std::max(FMaxID, condition->FID);
-  if (condition->FDBStruct != &FDBStruct) {
-    condition->FDBStruct = &FDBStruct;
-    condition->UpdateTables();
-  }
+  const bool isNew = condition->FDBStruct != &FDBStruct;
+  condition->BindTo(&FDBStruct);
+  if (isNew) condition->UpdateTables();
   TDSCondition& added = FItems.Add(std::move(condition));
   FDBStruct.Changed();
   return added;
@@ -74,10 +78,9 @@ std::int32_t TDSConditionList::NextID() const {
 
 std::unique_ptr<TDSCondition> TDSConditionList::Delete(std::size_t index) {
   TDSCondition& condition = FItems[index];
-  const std::vector<TDSListener*> listeners = FDBStruct.FListeners;
-  for (TDSListener* listener : listeners) listener->ConditionRemoved(condition);
+  FDBStruct.Tell([&condition](TDSListener& listener) { listener.ConditionRemoved(condition); });
   std::unique_ptr<TDSCondition> removed = FItems.Delete(index);
-  removed->FDBStruct = nullptr;
+  removed->BindTo(nullptr);
   removed->FTables.Clear();
   FDBStruct.ConditionsModified();
   return removed;
@@ -85,9 +88,8 @@ std::unique_ptr<TDSCondition> TDSConditionList::Delete(std::size_t index) {
 
 void TDSConditionList::Clear() {
   if (FItems.Empty()) return;
-  const std::vector<TDSListener*> listeners = FDBStruct.FListeners;
   for (TDSCondition& condition : FItems) {
-    for (TDSListener* listener : listeners) listener->ConditionRemoved(condition);
+    FDBStruct.Tell([&condition](TDSListener& listener) { listener.ConditionRemoved(condition); });
   }
   FItems.Clear();
   FDBStruct.ConditionsModified();

@@ -66,6 +66,8 @@ class TDSCondition final {
   friend class TDSConditionList;
   friend class TJCustomDBStructure;
   void Modified();
+  /// Also the editors of the values that ask the model's database.
+  void BindTo(TJCustomDBStructure* dbStruct);
   void UpdateTables();
 
   TJCustomDBStructure* FDBStruct;

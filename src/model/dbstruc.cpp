@@ -6,6 +6,7 @@
 #include <tolvi/foundation/text.h>
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/model/modeltext.h>
+#include <tolvi/model/pathfinder.h>
 
 namespace tolvi {
 namespace {
@@ -15,18 +16,7 @@ constexpr TFieldTypes HiddenResultTypes{ftVarBytes, ftBlob, ftTypedBinary};
 
 constexpr int VirtualFieldSize = 100;
 
-bool IsColumnUnknown(const TJDBInfo* info) { return info == nullptr || !info->GetConnected(); }
-
 }  // namespace
-
-template <typename TCall>
-void TJCustomDBStructure::Tell(TCall call) const {
-  const std::vector<TDSListener*> listeners = FListeners;
-  for (TDSListener* listener : listeners) {
-    // What another one does may have removed it.
-    if (std::find(FListeners.begin(), FListeners.end(), listener) != FListeners.end()) call(*listener);
-  }
-}
 
 TJCustomDBStructure::TJCustomDBStructure()
     : FVersion(CurrentModelVersion),
@@ -50,8 +40,6 @@ TJCustomDBStructure::TJCustomDBStructure()
   LoadDefsOpertors();
   AddDefOperators(true);
 }
-
-TJCustomDBStructure::~TJCustomDBStructure() = default;
 
 // Tables
 
@@ -190,15 +178,17 @@ std::size_t TJCustomDBStructure::AddFieldRef(std::unique_ptr<TDSField> field) {
   return index;
 }
 
-TDSField& TJCustomDBStructure::AppendField(std::unique_ptr<TDSField> field) {
-  if (field->FID == 0) {
-    if (GetLastFieldID() == std::numeric_limits<std::int32_t>::max()) {
-      throw EJDBStructError(0, "No free field ID is left: a field has the largest one, give that field a smaller ID");
-    }
-    field->FID = GetLastFieldID() + 1;
+std::int32_t TJCustomDBStructure::NextFieldID() const {
+  if (GetLastFieldID() == std::numeric_limits<std::int32_t>::max()) {
+    throw EJDBStructError(0, "No free field ID is left: a field has the largest one, give that field a smaller ID");
   }
+  return GetLastFieldID() + 1;
+}
+
+TDSField& TJCustomDBStructure::AppendField(std::unique_ptr<TDSField> field) {
+  if (field->FID == 0) field->FID = NextFieldID();
   field->FDBStruct = this;
-  BindEditor(field->FValueEditor.get());
+  BindEditor(field->FValueEditor.get(), this);
   if (field->FFieldKind == jfkVirtual) field->UpdateTables();
   if (FLastFieldID) FLastFieldID = std::max(*FLastFieldID, field->FID);
   TDSField& result = FFields.Add(std::move(field));
@@ -207,13 +197,13 @@ TDSField& TJCustomDBStructure::AppendField(std::unique_ptr<TDSField> field) {
   return result;
 }
 
-void TJCustomDBStructure::BindEditor(TDSValueEditor* editor) {
-  if (auto* sqlEditor = dynamic_cast<TDSSQLEditor*>(editor)) sqlEditor->FDBStruct = this;
+void TJCustomDBStructure::BindEditor(TDSValueEditor* editor, TJCustomDBStructure* model) {
+  if (auto* sqlEditor = dynamic_cast<TDSSQLEditor*>(editor)) sqlEditor->FDBStruct = model;
 }
 
 void TJCustomDBStructure::ProcessNewField(TDSField& field) {
   const TDSTable* table = field.GetTable();
-  if (IsColumnUnknown(FDBInfo.Get()) || table == nullptr) return;
+  if (!FDBInfo || !FDBInfo->GetConnected() || table == nullptr) return;
   const TDBFieldInfo* info = FDBInfo->GetFieldList(table->GetFullName()).FindByName(field.FFieldExpr);
   if (info == nullptr) throw EJDBStructError(10, SDBSECantFindFieldInTbl, {field.FFieldExpr, table->GetTableName()});
   field.FFieldType = info->GetFieldType();
@@ -335,151 +325,6 @@ const TDSPath* TJCustomDBStructure::GetPath(const TDSTable& table1, const TDSTab
   }
   return FPathFinder->Find(*this, FRevisions.links, table1, table2, FCurPath) ? &FCurPath : nullptr;
 }
-
-// Clearing
-
-void TJCustomDBStructure::ClearFields() {
-  for (TDSField& field : FFields) {
-    Tell([&field](TDSListener& listener) { listener.FieldRemoved(field); });
-  }
-  for (TDSFieldGroup& group : FFieldGroups) group.FFields.clear();
-  FRootGroup.FFields.clear();
-  FFields.Clear();
-  FLastFieldID = 0;
-  FieldsModified();
-}
-
-void TJCustomDBStructure::ClearTables() {
-  Tell([](TDSListener& listener) { listener.TablesChanging(); });
-  FLinks.Clear();
-  for (std::size_t i = FFields.Count(); i-- > 0;) {
-    TDSField& field = FFields[i];
-    if (field.FFieldKind == jfkData && field.GetTable() != nullptr) {
-      DropField(i);
-    } else {
-      field.FTables.Clear();
-    }
-  }
-  for (TDSCondition& condition : FConditions) condition.FTables.Clear();
-  FCurPath.Clear();
-  FTables.Clear();
-  ++FRevisions.links;
-  TablesModified();
-}
-
-void TJCustomDBStructure::ClearLinks() {
-  Tell([](TDSListener& listener) { listener.TablesChanging(); });
-  for (TDSTable& table : FTables) table.FLinks.clear();
-  FLinks.Clear();
-  LinksModified();
-}
-
-void TJCustomDBStructure::ClearOperators() {
-  for (TDSOperator& op : FOperators) {
-    Tell([&op](TDSListener& listener) { listener.OperatorRemoved(op); });
-  }
-  for (TDSField& field : FFields) field.FOperators.clear();
-  FOperators.Clear();
-  OperatorsModified();
-}
-
-void TJCustomDBStructure::ClearStructure() {
-  TJCustomDBStructure nothing;
-  nothing.FOperators.Clear();
-  nothing.FSQLFormats = FSQLFormats;
-  nothing.FDMOptions = FDMOptions;
-  nothing.FVersion = FVersion;
-  TakeContent(nothing);
-}
-
-/// Exchanges everything that a model text holds. What was here goes with `source`.
-void TJCustomDBStructure::TakeContent(TJCustomDBStructure& source) {
-  Tell([](TDSListener& listener) { listener.StructureClearing(); });
-  std::swap(FVersion, source.FVersion);
-  std::swap(FTables, source.FTables);
-  std::swap(FFields, source.FFields);
-  std::swap(FOperators, source.FOperators);
-  std::swap(FLinks, source.FLinks);
-  std::swap(FConditions.FItems, source.FConditions.FItems);
-  std::swap(FConditions.FMaxID, source.FConditions.FMaxID);
-  std::swap(FFieldGroups.FItems, source.FFieldGroups.FItems);
-  std::swap(FRootGroup.FFields, source.FRootGroup.FFields);
-  std::swap(FDefaultMainTable, source.FDefaultMainTable);
-  std::swap(FRootFieldsFirst, source.FRootFieldsFirst);
-  std::swap(FSpecInfo, source.FSpecInfo);
-  FLastFieldID.reset();
-  FCurPath.Clear();
-  for (TDSTable& table : FTables) table.FDBStruct = this;
-  for (TDSLink& link : FLinks) link.FDBStruct = this;
-  for (TDSOperator& op : FOperators) op.FDBStruct = this;
-  for (TDSFieldGroup& group : FFieldGroups) group.FDBStruct = this;
-  for (TDSField* field : FRootGroup.FFields) field->FGroup = &FRootGroup;
-  for (TDSField& field : FFields) {
-    field.FDBStruct = this;
-    field.FSQLExprRevision = 0;
-    BindEditor(field.FValueEditor.get());
-  }
-  for (TDSCondition& condition : FConditions) {
-    condition.FDBStruct = this;
-    for (TDSValue& value : condition.FValues) BindEditor(value.GetValueEditor());
-  }
-  ++FRevisions.tables;
-  ++FRevisions.fields;
-  ++FRevisions.operators;
-  ++FRevisions.conditions;
-  ++FRevisions.links;
-  {
-    // The settings' own notifications would tell of a model half exchanged.
-    const bool updating = FUpdating;
-    FUpdating = true;
-    FSQLFormats = source.FSQLFormats;
-    FDMOptions = source.FDMOptions;
-    FUpdating = updating;
-  }
-  Tell([](TDSListener& listener) { listener.StructureLoaded(); });
-  Changed();
-}
-
-// Change notification
-
-void TJCustomDBStructure::Changed() {
-  ++FRevision;
-  Tell([](TDSListener& listener) { listener.ModelChanged(); });
-  if (FUpdating || !OnChange) return;
-  const TModelEvent handler = OnChange;
-  handler(*this);
-}
-
-void TJCustomDBStructure::TablesModified() {
-  ++FRevisions.tables;
-  ++FRevisions.fields;
-  Changed();
-}
-
-void TJCustomDBStructure::FieldsModified() {
-  ++FRevisions.fields;
-  FLastFieldID.reset();
-  Changed();
-}
-
-void TJCustomDBStructure::OperatorsModified() {
-  ++FRevisions.operators;
-  Changed();
-}
-
-void TJCustomDBStructure::ConditionsModified() {
-  ++FRevisions.conditions;
-  Changed();
-}
-
-void TJCustomDBStructure::LinksModified() {
-  ++FRevisions.links;
-  Changed();
-}
-
-void TJCustomDBStructure::SettingsModified() { TablesModified(); }
-
-void TJCustomDBStructure::RemoveListener(TDSListener& listener) const { std::erase(FListeners, &listener); }
 
 // Settings
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -26,11 +27,13 @@
 
 namespace tolvi {
 
+class TPathFinder;
+
 /// Buttons of the model editor dialog.
 enum TDMEButton : std::uint8_t { dmbOpenSave, dmbConnect };
 using TDMEButtons = TSet<TDMEButton>;
 
-/// Which name of a table or field a look-up compares. All but `fnSQLExpr` ignore case.
+/// Which name of a table or field a look-up compares, ignoring case. `fnSQLExpr` ignores the quote symbols too.
 enum TTableNameKind : std::uint8_t { tnName, tnAlias, tnDisplayName, tnCompoundName, tnFromExpr, tnFullName };
 enum TFieldNameKind : std::uint8_t { fnFieldExpr, fnDisplayName, fnFullName, fnSQLExpr };
 
@@ -57,7 +60,8 @@ class TDSListener {
 /// The data model: what of a database end users may query, in their words. It owns tables, fields, links, operators,
 /// groups and predefined conditions.
 ///
-/// 1. Every mutating operation, here and on the parts, calls `Changed`, which fires `OnChange`.
+/// 1. Every mutating operation, here and on the parts, calls `Changed`, which fires `OnChange`. Value editors and the
+///    values of conditions do not know their model: who changes one calls `Changed`.
 /// 2. A part that is deleted leaves no reference in the model: links and data fields go with their table, fields and
 ///    groups forget a deleted operator or field.
 /// 3. Look-ups by name or number take constant time and give the first match in list order.
@@ -235,9 +239,11 @@ class TJCustomDBStructure : public TComponent {
 
   // Change notification
 
-  /// Between these, `Changed` fires nothing. They do not nest, and `EndUpdate` sends no notification.
+  /// Between these, `Changed` does not fire `OnChange`. They do not nest, and `EndUpdate` sends no notification.
   void BeginUpdate() { FUpdating = true; }
   void EndUpdate() { FUpdating = false; }
+  /// Tells the listeners, then fires `OnChange`, which may destroy the model. A change that the handler of `OnChange`
+  /// makes does not fire it again; an operation that makes several changes fires it once, at its end.
   virtual void Changed();
   /// A number that grows with every change of the model or its parts.
   std::uint64_t GetRevision() const { return FRevision; }
@@ -311,17 +317,29 @@ class TJCustomDBStructure : public TComponent {
   void ConditionsModified();
   void LinksModified();
   void SettingsModified();
-  std::size_t AddDefOperator(std::string_view name, bool onlyIfAbsent);
+  void AddDefOperator(std::string_view name, bool onlyIfAbsent);
+  void AddDefOperatorRow(const TDefOperator& row, bool onlyIfAbsent);
+  std::int32_t NextFieldID() const;
   TDSField& AppendField(std::unique_ptr<TDSField> field);
-  void BindEditor(TDSValueEditor* editor);
+  static void BindEditor(TDSValueEditor* editor, TJCustomDBStructure* model);
   void ForgetField(TDSField& field);
   void DropField(std::size_t index);
   void DropLink(std::size_t index);
   template <typename TCall>
-  void Tell(TCall call) const;
+  void Tell(TCall call) const {
+    const std::vector<TDSListener*> listeners = FListeners;
+    for (TDSListener* listener : listeners) {
+      // What another one does may have removed it.
+      if (std::find(FListeners.begin(), FListeners.end(), listener) != FListeners.end()) call(*listener);
+    }
+  }
+  void AsOneChange(const std::function<void()>& changes);
+  void ReleaseChanges();
   void LoadText(std::string_view text);
   void TakeContent(TJCustomDBStructure& source);
 
+  // Stands on the stack while others hear of a change, one of whom may destroy the model.
+  struct TFiring;
   struct TRevisions {
     std::uint64_t tables = 1, fields = 1, operators = 1, conditions = 1, links = 1;
   };
@@ -347,6 +365,9 @@ class TJCustomDBStructure : public TComponent {
   int FSEHelpContext = 0;
   bool FStoreStruct = true, FAutoAddFields = true, FRootFieldsFirst = false, FUpdating = false;
 
+  TFiring* FFiring = nullptr;
+  int FHeldChanges = 0;
+  bool FChangePending = false, FInOnChange = false;
   std::uint64_t FRevision = 1;
   TRevisions FRevisions;
   mutable std::optional<std::int32_t> FLastFieldID = 0;

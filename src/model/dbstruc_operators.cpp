@@ -44,19 +44,23 @@ std::size_t TJCustomDBStructure::AddUpdateOperator(bool onlyIfAbsent, std::strin
   return AddOperator(name, displayName, sqlExpr, valFormat, appliedTypes);
 }
 
-std::size_t TJCustomDBStructure::AddDefOperator(std::string_view name, bool onlyIfAbsent) {
-  const TDefOperator& row = DefaultOperator(name);
+void TJCustomDBStructure::AddDefOperator(std::string_view name, bool onlyIfAbsent) {
+  AsOneChange([&] { AddDefOperatorRow(DefaultOperator(name), onlyIfAbsent); });
+}
+
+void TJCustomDBStructure::AddDefOperatorRow(const TDefOperator& row, bool onlyIfAbsent) {
   const std::size_t index =
       AddUpdateOperator(onlyIfAbsent, row.Name, GetDefOperator(row.Name), row.SQLExpr, row.ValFormat, row.Types);
   // Also one that the model had: list templates make no sense with one value.
   if (row.ValueKind == vkList) GetOperator(index).SetValueKind(vkList);
-  return index;
 }
 
 void TJCustomDBStructure::AddDefOperators(bool onlyIfAbsent) {
-  for (const TDefOperator& row : DefaultOperators()) {
-    if (!row.Group || FExOperators.Contains(*row.Group)) AddDefOperator(row.Name, onlyIfAbsent);
-  }
+  AsOneChange([&] {
+    for (const TDefOperator& row : DefaultOperators()) {
+      if (!row.Group || FExOperators.Contains(*row.Group)) AddDefOperatorRow(row, onlyIfAbsent);
+    }
+  });
 }
 
 void TJCustomDBStructure::AddInListOperator(bool onlyIfAbsent) { AddDefOperator("InList", onlyIfAbsent); }
@@ -69,24 +73,28 @@ void TJCustomDBStructure::AddBetweenOperator(bool onlyIfAbsent) { AddDefOperator
 void TJCustomDBStructure::AddNotBetweenOperator(bool onlyIfAbsent) { AddDefOperator("NotBetween", onlyIfAbsent); }
 
 void TJCustomDBStructure::UpdateExOperators() {
-  for (const TDefOperator& row : DefaultOperators()) {
-    if (!row.Group) continue;
-    if (FExOperators.Contains(*row.Group)) {
-      AddDefOperator(row.Name, true);
-    } else {
-      DeleteOperatorByName(row.Name);
+  AsOneChange([this] {
+    for (const TDefOperator& row : DefaultOperators()) {
+      if (!row.Group) continue;
+      if (FExOperators.Contains(*row.Group)) {
+        AddDefOperatorRow(row, true);
+      } else {
+        DeleteOperatorByName(row.Name);
+      }
     }
-  }
+  });
 }
 
 void TJCustomDBStructure::UpdateDefOperators() {
-  for (const TDefOperator& row : DefaultOperators()) {
-    if (!row.Group || FExOperators.Contains(*row.Group)) {
-      UpdateOperatorCaption(row.Name, GetDefOperator(row.Name));
-    } else if (*row.Group != xoStartsWith) {
-      DeleteOperatorByName(row.Name);
+  AsOneChange([this] {
+    for (const TDefOperator& row : DefaultOperators()) {
+      if (!row.Group || FExOperators.Contains(*row.Group)) {
+        UpdateOperatorCaption(row.Name, GetDefOperator(row.Name));
+      } else if (*row.Group != xoStartsWith) {
+        DeleteOperatorByName(row.Name);
+      }
     }
-  }
+  });
 }
 
 void TJCustomDBStructure::UpdateOperatorCaption(std::string_view name, std::string_view caption) {
@@ -95,8 +103,7 @@ void TJCustomDBStructure::UpdateOperatorCaption(std::string_view name, std::stri
 
 void TJCustomDBStructure::DelOperator(std::size_t index) {
   TDSOperator& op = GetOperator(index);
-  const std::vector<TDSListener*> listeners = FListeners;
-  for (TDSListener* listener : listeners) listener->OperatorRemoved(op);
+  Tell([&op](TDSListener& listener) { listener.OperatorRemoved(op); });
   for (TDSField& field : FFields) std::erase(field.FOperators, &op);
   const std::unique_ptr<TDSOperator> removed = FOperators.Delete(index);
   removed->FDBStruct = nullptr;
@@ -145,9 +152,11 @@ void TJCustomDBStructure::GetOperatorNames(TStrings& names) const {
 
 void TJCustomDBStructure::SetDefOperators(const TStrings& lines) {
   const bool differs = FDefOperators != lines;
-  FDefOperators = lines;
-  UpdateDefOperators();
-  if (differs) Changed();
+  AsOneChange([&] {
+    FDefOperators = lines;
+    UpdateDefOperators();
+    if (differs) Changed();
+  });
 }
 
 void TJCustomDBStructure::LoadDefsOpertors() {
@@ -164,10 +173,12 @@ void TJCustomDBStructure::MergeDefOperators() {
 
 void TJCustomDBStructure::SetExOperators(TExOperators groups) {
   if (FExOperators == groups) return;
-  FExOperators = groups;
-  UpdateExOperators();
-  UpdateDefOperators();
-  Changed();
+  AsOneChange([&] {
+    FExOperators = groups;
+    UpdateExOperators();
+    UpdateDefOperators();
+    Changed();
+  });
 }
 
 }  // namespace tolvi

@@ -3,6 +3,7 @@
 #include <tolvi/foundation/global.h>
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/model/modeltext.h>
+#include <tolvi/model/modeltext_keys.h>
 
 // Saving, loading and streaming of the model.
 
@@ -11,20 +12,17 @@ namespace tolvi {
 void TJCustomDBStructure::SaveToStrings(TStrings& lines) const {
   lines.Clear();
   bool processed = false;
-  if (OnSaveModel) OnSaveModel(*this, lines, processed);
+  if (const TInOutModelEvent handler = OnSaveModel) handler(*this, lines, processed);
   if (!processed) lines.SetText(WriteModelText(*this));
 }
 
 void TJCustomDBStructure::LoadFromStrings(const TStrings& lines) {
-  if (OnLoadModel) {
-    TStrings copy = lines;
-    bool processed = false;
-    OnLoadModel(*this, copy, processed);
-    if (processed) return;
-    LoadText(copy.GetText());
-    return;
-  }
-  LoadText(lines.GetText());
+  const TInOutModelEvent handler = OnLoadModel;
+  if (!handler) return LoadText(lines.GetText());
+  TStrings copy = lines;
+  bool processed = false;
+  handler(*this, copy, processed);
+  if (!processed) LoadText(copy.GetText());
 }
 
 // Reads into a model of its own, so that a text that cannot be read changes nothing here.
@@ -64,11 +62,12 @@ void TJCustomDBStructure::AssignTo(TJCustomDBStructure& target) const {
   if (&target == this) return;
   TStrings lines;
   SaveToStrings(lines);
-  target.BeginUpdate();
-  target.FSQLFormats = FSQLFormats;
-  target.FDMOptions = FDMOptions;
-  target.EndUpdate();
-  target.LoadFromStrings(lines);
+  // A text holds only the settings that are not the defaults.
+  target.AsOneChange([&] {
+    target.FSQLFormats = FSQLFormats;
+    target.FDMOptions = FDMOptions;
+    target.LoadFromStrings(lines);
+  });
 }
 
 namespace {
@@ -81,15 +80,6 @@ constexpr TEnumName<TExOperator> ExOperatorNames[] = {
     {xoStartsWith, "xoStartsWith"},
     {xoContains, "xoContains"},
 };
-
-std::string FieldTypesToStr(TFieldTypes types) {
-  std::vector<std::string> names;
-  for (int i = 0; i < FieldTypeCount; ++i) {
-    const auto type = static_cast<TFieldType>(i);
-    if (types.Contains(type)) names.emplace_back(FldTypeToStr(type));
-  }
-  return ComposeCommaText(names);
-}
 
 TFieldTypes StrToFieldTypes(std::string_view text) {
   TFieldTypes types;
@@ -137,9 +127,9 @@ void DefineFormats(TPropertyFiler& filer, TSQLFormats& formats) {
         std::string(1, (byDefault.*setting.get)()));
   }
   filer.Text(
-      "SQLFormats.QuotedTypes", [&] { return FieldTypesToStr(formats.GetQuotedTypes()); },
+      "SQLFormats.QuotedTypes", [&] { return TypesToList(formats.GetQuotedTypes()); },
       [&](const std::string& text) { formats.SetQuotedTypes(StrToFieldTypes(text)); },
-      FieldTypesToStr(byDefault.GetQuotedTypes()));
+      TypesToList(byDefault.GetQuotedTypes()));
   filer.Boolean(
       "SQLFormats.UseOuterKeyword", [&] { return formats.GetUseOuterKeyword(); },
       [&](bool on) { formats.SetUseOuterKeyword(on); }, true);
@@ -198,7 +188,11 @@ void TJDBStructure::DefineProperties(TPropertyFiler& filer) {
   DefineFormats(filer, SQLFormats());
   filer.Reference(
       "DatabaseInfo", [this]() -> TComponent* { return GetDatabaseInfo(); },
-      [this](TComponent* component) { SetDatabaseInfo(dynamic_cast<TJDBInfo*>(component)); });
+      [this](TComponent* component) {
+        auto* info = dynamic_cast<TJDBInfo*>(component);
+        if (info == nullptr) throw EStreamError("%s is no database information", {component->GetName()});
+        SetDatabaseInfo(info);
+      });
   filer.Boolean(
       "AutoAddFields", [this] { return GetAutoAddFields(); }, [this](bool on) { SetAutoAddFields(on); }, true);
   filer.Text(

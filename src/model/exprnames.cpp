@@ -73,7 +73,7 @@ std::optional<TExprName> TExprReader::ReadName() {
   return closer == '\0' ? std::nullopt : ReadQuoted(closer);
 }
 
-// The scanner knows no quoted names, so one is cut out of the text and its tokens are passed over.
+// The scanner knows no quoted names, so one is cut out of the text, whatever it holds.
 std::optional<TExprName> TExprReader::ReadQuoted(char closer) {
   const std::string_view source = FScanner.GetSource();
   const std::size_t start = FScanner.GetTokPos();
@@ -83,7 +83,7 @@ std::optional<TExprName> TExprReader::ReadQuoted(char closer) {
     if (source[pos] == closer) {
       if (pos + 1 == source.size() || source[pos + 1] != closer) {
         name.Written = source.substr(start, pos + 1 - start);
-        while (!AtEnd() && FScanner.GetTokPos() <= pos) FScanner.NextToken();
+        FScanner.SkipTo(pos + 1);
         return name;
       }
       ++pos;

@@ -6,6 +6,8 @@
 
 namespace tolvi {
 
+void TDSField::SetID(std::int32_t id) { Set(FID, id == 0 && FDBStruct != nullptr ? FDBStruct->NextFieldID() : id); }
+
 void TDSField::SetFieldName(std::string_view name) {
   if (FFieldKind == jfkVirtual) throw EJDBStructError(7, std::string(SDBSEAssignVirtFldName));
   Set(FFieldExpr, name);
@@ -29,7 +31,6 @@ const std::string& TDSField::GetSQLExpr() const {
 
 void TDSField::SetSQLExpr(std::string_view expr) {
   if (FFieldKind == jfkData) throw EJDBStructError(8, std::string(SDBSEAssignExpr));
-  if (FFieldExpr == expr) return;
   FFieldExpr = expr;
   UpdateTables();
   Modified();

@@ -30,9 +30,10 @@ class TDSField final {
   /// The model that owns the field; null until it is added to one.
   TJCustomDBStructure* GetDBStruct() const { return FDBStruct; }
 
-  /// The number by which stored queries and groups know the field; 0 until the model gives one.
+  /// The number by which stored queries and groups know the field; 0 until it is in a model, where setting 0 gives it
+  /// the next free one.
   std::int32_t GetID() const { return FID; }
-  void SetID(std::int32_t id) { Set(FID, id); }
+  void SetID(std::int32_t id);
   TJFieldKind GetFieldKind() const { return FFieldKind; }
   /// Changes what the expression means; the tables stay.
   void SetFieldKind(TJFieldKind kind) { Set(FFieldKind, kind); }
@@ -44,8 +45,8 @@ class TDSField final {
   void SetFieldName(std::string_view name);
   /// The SQL that stands for the field: the qualified column, or the expression of a virtual field.
   const std::string& GetSQLExpr() const;
-  /// Setting finds the tables and columns that the expression mentions anew; that of a data field raises
-  /// `EJDBStructError` 8.
+  /// Setting finds the tables and columns that the expression mentions anew, also when it stays the same; that of a
+  /// data field raises `EJDBStructError` 8.
   void SetSQLExpr(std::string_view expr);
   /// The column in the quote symbols where it needs them; without its table.
   std::string GetFilterSQLExpr() const;
@@ -109,7 +110,8 @@ class TDSField final {
   /// Replaces the operators by all those of the model that apply to the field's type, in the model's order.
   void AddAppliedOperators();
 
-  /// The group that lists the field; null before it is in a model. Setting takes it out of its old group.
+  /// The group that lists the field; null before the field is in a model and when its group has deleted it. Setting
+  /// takes it out of its old group.
   TDSFieldGroup* GetGroup() const { return FGroup; }
   void SetGroup(TDSFieldGroup& group);
   /// The name of the group; empty in the root group.

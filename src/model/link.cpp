@@ -105,9 +105,7 @@ std::string TDSLink::GetSQLExpr(TLinkExprMode mode) const {
   if (marks && FLinkType == ltOuterFull) {
     throw EJQueryPanelError(0, FullJoinWithMarks, {NameOf(FTable1), NameOf(FTable2)});
   }
-  static const TSQLFormats defaultQuotes;
-  const TSQLFormats* quotes = nullptr;
-  if (FQuoteFields) quotes = FDBStruct ? &FDBStruct->SQLFormats() : &defaultQuotes;
+  const TSQLFormats* quotes = FQuoteFields ? &FormatsOf(FDBStruct) : nullptr;
   const TSide left{FTable1, quotes, marks && FLinkType == ltOuterRight};
   const TSide right{FTable2, quotes, marks && FLinkType == ltOuterLeft};
 

@@ -153,6 +153,9 @@ class TModelTextReader {
       : FText(text, IsModelHeader), FModel(model), FMain(FindMain()), FVersion(ReadVersion()) {}
 
   double Read() {
+    // The settings first: the expressions of fields and conditions are read by them.
+    if (const auto section = FText.First(SQLFormatsSection)) FModel.SQLFormats() = ReadSQLFormats(*section);
+    if (const auto section = FText.First(DMOptionsSection)) FModel.DMOptions() = ReadDMOptions(*section);
     FModel.SetDefaultMainTable(FMain.Value(MainTableKey));
     FModel.SetRootFieldsFirst(FVersion >= RootFieldsFirstSince && FMain.Boolean(RootFieldsFirstKey, false));
     if (FVersion >= OperatorSectionsSince) {
@@ -170,8 +173,6 @@ class TModelTextReader {
     ReadGroups();
     ReadConditions();
     if (const std::optional<TStrings> lines = FText.NextFree(SpecInfoSection)) FModel.SetSpecInfo(*lines);
-    if (const auto section = FText.First(SQLFormatsSection)) FModel.SQLFormats() = ReadSQLFormats(*section);
-    if (const auto section = FText.First(DMOptionsSection)) FModel.DMOptions() = ReadDMOptions(*section);
     return FVersion;
   }
 
@@ -343,9 +344,11 @@ class TModelTextReader {
   }
 
   void ReadFieldTable(const TSection& section, TDSField& field) const {
+    if (!section.Find(TableAliasKey)) return;
     const std::string alias = section.Value(TableAliasKey);
-    if (alias.empty()) return;
     TDSTable* table = TableByAlias(alias);
+    // A field of no table, unless there is a table with that alias.
+    if (table == nullptr && alias.empty()) return;
     if (table == nullptr) RaiseStructError(4, SDBSENoTable, alias, section, TableAliasKey);
     field.SetTable(table);
   }

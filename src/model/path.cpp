@@ -1,8 +1,9 @@
 #include <algorithm>
+#include <utility>
 
 #include <tolvi/foundation/errors.h>
 #include <tolvi/model/dbstruc.h>
-#include <tolvi/model/path.h>
+#include <tolvi/model/pathfinder.h>
 
 namespace tolvi {
 
@@ -41,12 +42,18 @@ void TPathFinder::Build(const TJCustomDBStructure& model) {
     table.FPathNumber = static_cast<std::uint32_t>(FTables.size());
     FTables.push_back(&table);
   }
+  // Of several links between the same tables, the first decides.
+  FStamps.assign(FTables.size(), 0);
   for (const TDSTable* table : FTables) {
     FStarts.push_back(static_cast<std::uint32_t>(FNeighbours.size()));
-    for (const TDSLink* link : table->Links()) FNeighbours.push_back(link->OtherTable(*table)->FPathNumber);
+    const auto stamp = static_cast<std::uint32_t>(FStarts.size());
+    for (const TDSLink* link : table->Links()) {
+      const std::uint32_t other = link->OtherTable(*table)->FPathNumber;
+      if (std::exchange(FStamps[other], stamp) != stamp) FNeighbours.push_back(other);
+    }
   }
   FStarts.push_back(static_cast<std::uint32_t>(FNeighbours.size()));
-  FStamps.assign(FTables.size(), 0);
+  std::fill(FStamps.begin(), FStamps.end(), 0u);
   FPrevious.resize(FTables.size());
   FQueue.resize(FTables.size());
   FStamp = 0;

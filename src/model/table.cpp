@@ -10,12 +10,19 @@ namespace tolvi {
 void TDSTable::SetTableAlias(std::string_view alias) { Set(FAlias, ReplaceStr(alias, " ", "_")); }
 
 void TDSTable::AddLinkRef(TDSLink& link) {
-  if (std::find(FLinks.begin(), FLinks.end(), &link) == FLinks.end()) FLinks.push_back(&link);
+  if (std::find(FLinks.begin(), FLinks.end(), &link) != FLinks.end()) return;
+  FLinks.push_back(&link);
+  LinksModified();
 }
 
 void TDSTable::DelLink(std::size_t index) {
   GetLink(index);
   FLinks.erase(FLinks.begin() + static_cast<std::ptrdiff_t>(index));
+  LinksModified();
+}
+
+void TDSTable::LinksModified() {
+  if (FDBStruct != nullptr) FDBStruct->LinksModified();
 }
 
 TDSLink& TDSTable::GetLink(std::size_t index) const {

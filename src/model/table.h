@@ -49,7 +49,8 @@ class TDSTable final {
   void SetDesignPositions(const TDesignPositions& positions) { Set(FDesign, positions); }
 
   /// The links in which the table takes part, in the order in which they were added. A link of the table with itself
-  /// stands here once. Adding and deleting here changes only this list: use the model's operations for links.
+  /// stands here once. Adding and deleting here changes only this list, and with it the paths: use the model's
+  /// operations for links. A link that is added must be one of the model's.
   void AddLinkRef(TDSLink& link);
   void DelLink(std::size_t index);
   TDSLink& GetLink(std::size_t index) const;
@@ -75,6 +76,7 @@ class TDSTable final {
   friend class TJCustomDBStructure;
   friend class TPathFinder;
   void Modified();
+  void LinksModified();
   template <typename T, typename V>
   void Set(T& property, const V& value) {
     if (property == value) return;

@@ -1,5 +1,6 @@
 #include <tolvi/foundation/consts.h>
 #include <tolvi/foundation/errors.h>
+#include <tolvi/foundation/text.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/resultformula.h>
 #include <tolvi/query/rows.h>
@@ -268,7 +269,7 @@ TFieldType TCustomCond::GetValueType(int index) const {
 
 int TCustomCond::GetValueSize(int) const { return 0; }
 
-std::string TCustomCond::GetValueName(int) const { return FCondition->GetCaption(); }
+std::string TCustomCond::GetValueName(int) const { return std::string(Trim(FCondition->GetCaption())); }
 
 TDSValueEditor* TCustomCond::GetValueEditor(int index) const {
   const TDSValue* value = ValueOf(*FCondition, index);

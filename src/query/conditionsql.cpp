@@ -77,21 +77,25 @@ class TSQLBuilder::TBindings {
     Append(out, std::move(value));
   }
 
+  /// With names as markers, one name stands for one value.
   void AppendParam(std::string& out, TBoundValue value) {
     value.IsParam = true;
-    if (FStyle == msColonName) {
-      if (const TBoundValue* same = Find(value.Name)) {
-        if (!same->IsParam) {
-          throw EJQueryPanelError(0,
-                                  "The parameter name \"%s\" stands for a value of the statement already: choose "
-                                  "another name",
-                                  {value.Name});
-        }
-        out.append(":").append(value.Name);
-        return;
-      }
+    const TBoundValue* same = Find(value.Name);
+    if (same != nullptr && same->IsParam && same->Value != value.Value) {
+      throw EJQueryPanelError(0, "Two parameters are called \"%s\" and have different values: rename one of them",
+                              {value.Name});
     }
-    Append(out, std::move(value));
+    if (same != nullptr && !same->IsParam && FStyle == msColonName) {
+      throw EJQueryPanelError(0,
+                              "The parameter name \"%s\" stands for a value of the statement already: choose "
+                              "another name",
+                              {value.Name});
+    }
+    if (same != nullptr && FStyle == msColonName) {
+      out.append(":").append(value.Name);
+    } else {
+      Append(out, std::move(value));
+    }
   }
 
   std::vector<TBoundValue> Values;

@@ -22,6 +22,7 @@ class TQueryPanelView {
   virtual void CurrentRowChanged(TFilterRow*) {}
   virtual void ResultFieldsChanged() {}
   virtual void TitlesChanged() {}
+  /// Let go of all rows; show the tree as it is now. Loading tells no more of the rows than this.
   virtual void ActiveChanged(bool) {}
   /// Accept or discard what is being typed.
   virtual void CloseEdit(bool) {}

@@ -50,7 +50,10 @@ void TSQLParam::SetParamName(std::string_view name) {
     throw EJQueryPanelError(0, "\"%s\" is no parameter name: use letters A to Z, digits and \"_\", a letter first",
                             {name});
   }
+  TSQLParamList& list = FCondition.GetQueryPanel().QResult().Params();
+  list.GiveUp(FParamName);
   FParamName = name;
+  list.Take(FParamName);
   Changed();
 }
 
@@ -81,24 +84,54 @@ std::string TSQLParam::GetFullValue() const {
 }
 
 TSQLParam& TSQLParamList::Add(TFilterCond& condition, int valueIndex) {
-  // Among the first Count() + 1 numbers, one is free.
-  std::vector<bool> taken(FItems.Count() + 1, false);
-  for (const TSQLParam& param : FItems) {
-    const std::optional<std::size_t> number = AutomaticNumber(param.FParamName);
-    if (number && *number > FParentParamCount && *number - FParentParamCount <= taken.size()) {
-      taken[*number - FParentParamCount - 1] = true;
-    }
-  }
-  const auto free = static_cast<std::size_t>(std::find(taken.begin(), taken.end(), false) - taken.begin());
-  return FItems.Add(std::make_unique<TSQLParam>(condition, valueIndex, NumberedName(FParentParamCount + free + 1)));
+  FLowestFree = std::max(FLowestFree, FParentParamCount + 1);
+  while (FTaken.contains(FLowestFree)) ++FLowestFree;
+  TSQLParam& param = FItems.Add(std::make_unique<TSQLParam>(condition, valueIndex, NumberedName(FLowestFree)));
+  Take(param.FParamName);
+  return param;
 }
 
-void TSQLParamList::Delete(std::size_t index) { const std::unique_ptr<TSQLParam> deleted = FItems.Delete(index); }
+void TSQLParamList::Delete(std::size_t index) {
+  const std::unique_ptr<TSQLParam> deleted = FItems.Delete(index);
+  GiveUp(deleted->FParamName);
+}
+
+// From the end: rows are cleared from the last to the first.
+void TSQLParamList::Remove(const TSQLParam& param) {
+  for (std::size_t index = FItems.Count(); index-- > 0;) {
+    if (&FItems[index] == &param) {
+      Delete(index);
+      return;
+    }
+  }
+}
 
 void TSQLParamList::DeleteByCondition(const TFilterCond& condition) {
   for (std::size_t index = FItems.Count(); index-- > 0;) {
     if (&FItems[index].FCondition == &condition) Delete(index);
   }
+}
+
+void TSQLParamList::Clear() {
+  while (!FItems.Empty()) Delete(FItems.Count() - 1);
+}
+
+void TSQLParamList::SetParentParamCount(std::size_t count) {
+  FParentParamCount = count;
+  FLowestFree = 1;
+}
+
+void TSQLParamList::Take(std::string_view name) {
+  if (const std::optional<std::size_t> number = AutomaticNumber(name)) ++FTaken[*number];
+}
+
+void TSQLParamList::GiveUp(std::string_view name) {
+  const std::optional<std::size_t> number = AutomaticNumber(name);
+  if (!number) return;
+  const auto taken = FTaken.find(*number);
+  if (taken == FTaken.end() || --taken->second > 0) return;
+  FTaken.erase(taken);
+  FLowestFree = std::min(FLowestFree, *number);
 }
 
 void TSQLParamList::Reindex(std::size_t startIndex) {
@@ -107,7 +140,9 @@ void TSQLParamList::Reindex(std::size_t startIndex) {
     if (!param.HasAutomaticName()) continue;
     std::string name = NumberedName(startIndex++);
     if (name == param.FParamName) continue;
+    GiveUp(param.FParamName);
     param.FParamName = std::move(name);
+    Take(param.FParamName);
     changed = &param;
   }
   if (changed != nullptr) changed->Changed();

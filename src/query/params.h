@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/foundation/objectlist.h>
@@ -32,7 +33,7 @@ class TSQLParam final {
   void SetParamName(std::string_view name);
   /// Whether the name is "Param" and a number.
   bool HasAutomaticName() const;
-  /// What to ask a person for: the text given, else the condition in words.
+  /// What to ask a person for: the text given, else the title "ttlParameter", numbered where there are two values.
   std::string GetDisplayName() const;
   void SetDisplayName(std::string_view name) { FDisplayName = name; }
   /// The type of the value.
@@ -64,8 +65,9 @@ class TSQLParamList final {
   /// Makes a parameter with the smallest free number above `ParentParamCount`.
   TSQLParam& Add(TFilterCond& condition, int valueIndex);
   void Delete(std::size_t index);
+  void Remove(const TSQLParam& param);
   void DeleteByCondition(const TFilterCond& condition);
-  void Clear() { FItems.Clear(); }
+  void Clear();
   /// Gives the automatic names anew, numbered from `startIndex`; names that a user gave stay.
   void Reindex(std::size_t startIndex);
   /// -1 when there is none; names ignore case.
@@ -74,14 +76,21 @@ class TSQLParamList final {
   std::ptrdiff_t IndexOf(const TSQLParam& param) const { return FItems.IndexOf(&param); }
   /// Numbers up to this one are taken by an outer query. Default 0.
   std::size_t GetParentParamCount() const { return FParentParamCount; }
-  void SetParentParamCount(std::size_t count) { FParentParamCount = count; }
+  void SetParentParamCount(std::size_t count);
 
   auto begin() const { return FItems.begin(); }
   auto end() const { return FItems.end(); }
 
  private:
+  friend class TSQLParam;
+  void Take(std::string_view name);
+  void GiveUp(std::string_view name);
+
   TJObjectList<TSQLParam> FItems;
   std::size_t FParentParamCount = 0;
+  // The numbers of automatic names, each with how many parameters bear it; below the lowest free one all are taken.
+  std::unordered_map<std::size_t, std::size_t> FTaken;
+  std::size_t FLowestFree = 1;
 };
 
 }  // namespace tolvi

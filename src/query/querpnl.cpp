@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include <tolvi/foundation/consts.h>
 #include <tolvi/foundation/errors.h>
@@ -18,41 +19,27 @@ TJQueryPanel::TJQueryPanel()
   };
 }
 
+/// An event whose handler runs; where to tell that it has destroyed the panel.
+struct TJQueryPanel::TFiring {
+  TFiring(TJQueryPanel& panel, TEvent event) : panel(panel), event(event), outer(panel.FFiring) {
+    panel.FFiring = this;
+  }
+  TFiring(const TFiring&) = delete;
+  TFiring& operator=(const TFiring&) = delete;
+  ~TFiring() {
+    if (!destroyed) panel.FFiring = outer;
+  }
+
+  TJQueryPanel& panel;
+  TEvent event;
+  TFiring* outer;
+  bool destroyed = false;
+};
+
 TJQueryPanel::~TJQueryPanel() {
+  for (TFiring* firing = FFiring; firing != nullptr; firing = firing->outer) firing->destroyed = true;
+  FQResult->Params().Clear();
   if (FDBStruct) FDBStruct->RemoveListener(*this);
-}
-
-// Model
-
-void TJQueryPanel::SetDBStruct(TJCustomDBStructure* dbStruct) {
-  TJCustomDBStructure* old = FDBStruct.Get();
-  if (old == dbStruct) return;
-  if (dbStruct == nullptr) {
-    SetActive(false);
-    ClearRows();
-    RFields().Clear();
-  }
-  if (old != nullptr) old->RemoveListener(*this);
-  FDBStruct.Set(dbStruct);
-  TablesChanging();
-  FQResult->DbStructChanged();
-  if (dbStruct != nullptr) {
-    dbStruct->AddListener(*this);
-    EachCondition(*FRoot, [](TFilterCond& condition) {
-      condition.Forget(nullptr);
-      condition.Resolve();
-    });
-  }
-  ShapeChanged();
-}
-
-// The model's parts are gone already: nothing here may touch them.
-void TJQueryPanel::ModelDestroyed() {
-  TablesChanging();
-  RFields().Clear();
-  ClearRows();
-  FQResult->DbStructChanged();
-  SetActive(false);
 }
 
 void TJQueryPanel::CheckIfDBStructAssigned() const {
@@ -65,10 +52,7 @@ void TJQueryPanel::SetActive(bool active) {
   FActive = active;
   ++FShapeRevision;
   if (TQueryPanelView* view = Viewer()) view->ActiveChanged(active);
-  if (OnActiveChange && FLoading == 0) {
-    const TPanelEvent handler = OnActiveChange;
-    handler(*this);
-  }
+  Raise(evActiveChange);
 }
 
 TDSField* TJQueryPanel::GetDefaultField() const {
@@ -83,75 +67,40 @@ TDSOperator* TJQueryPanel::GetDefaultOperator(const TDSField& field) const {
   return FDBStruct->GetOperatCount() > 0 ? &FDBStruct->GetOperator(0) : &FDBStruct->GetNullOperator();
 }
 
-void TJQueryPanel::FieldRemoved(TDSField& field) {
-  EachCondition(*FRoot, [&field](TFilterCond& condition) { condition.Forget(&field); });
-  RFields().FieldRemoved(field);
-  ShapeChanged();
-}
-
-void TJQueryPanel::OperatorRemoved(TDSOperator& op) {
-  EachCondition(*FRoot, [&op](TFilterCond& condition) { condition.Forget(&op); });
-  ShapeChanged();
-}
-
-void TJQueryPanel::ConditionRemoved(TDSCondition& condition) {
-  EachCondition(*FRoot, [&condition](TFilterCond& row) { row.Forget(&condition); });
-  ShapeChanged();
-}
-
-void TJQueryPanel::TablesChanging() {
-  FMainTable = nullptr;
-  FQResult->RTables().Clear();
-  FQResult->FTableFilters.Clear();
-  ++FShapeRevision;
-}
-
-void TJQueryPanel::StructureClearing() {
-  TablesChanging();
-  EachCondition(*FRoot, [](TFilterCond& condition) { condition.Forget(nullptr); });
-  RFields().ForgetFields();
-}
-
-void TJQueryPanel::StructureLoaded() {
-  EachCondition(*FRoot, [](TFilterCond& condition) { condition.Resolve(); });
-  RFields().ResolveFields();
-  ShapeChanged();
-}
-
 // Conditions
 
 TSimpleCond& TJQueryPanel::AddCondition(TFilterBracket& bracket, TDSField& field) {
   auto condition = std::make_unique<TSimpleCond>(*this);
   condition->SetField(field);
-  TFilterRow& row = bracket.AddRow(std::move(condition));
-  SetCurrentRow(&row);
-  return static_cast<TSimpleCond&>(row);
+  return AddAsCurrent(bracket, bracket.GetRowCount(), std::move(condition));
 }
 
 TSimpleCond& TJQueryPanel::AddConditionNum(TFilterBracket& bracket, int rowNum, TDSField& field) {
   auto condition = std::make_unique<TSimpleCond>(*this);
   condition->SetField(field);
-  TFilterRow& row = bracket.InsertRow(bracket.IndexForNewRow(rowNum), std::move(condition));
-  SetCurrentRow(&row);
-  return static_cast<TSimpleCond&>(row);
+  return AddAsCurrent(bracket, bracket.IndexForNewRow(rowNum), std::move(condition));
 }
 
 TFilterBracket& TJQueryPanel::AddBracket(TFilterBracket& bracket) {
-  TFilterBracket& row = bracket.AddNewBracket();
-  SetCurrentRow(&row);
-  return row;
+  return AddAsCurrent(bracket, bracket.GetRowCount(), std::make_unique<TFilterBracket>(*this));
 }
 
 TFilterBracket& TJQueryPanel::AddBracketNum(TFilterBracket& bracket, int rowNum) {
-  TFilterBracket& row = bracket.InsertNewBracketByNum(rowNum);
-  SetCurrentRow(&row);
-  return row;
+  return AddAsCurrent(bracket, bracket.IndexForNewRow(rowNum), std::make_unique<TFilterBracket>(*this));
 }
 
 TCustomCond& TJQueryPanel::AddCustomCondition(TFilterBracket& bracket, TDSCondition& condition) {
-  TCustomCond& row = bracket.AddCustomCond(condition);
-  SetCurrentRow(&row);
-  return row;
+  return AddAsCurrent(bracket, bracket.GetRowCount(), std::make_unique<TCustomCond>(*this, condition));
+}
+
+template <typename TRow>
+TRow& TJQueryPanel::AddAsCurrent(TFilterBracket& bracket, std::size_t index, std::unique_ptr<TRow> row) {
+  TRow& result = *row;
+  Together([&] {
+    bracket.InsertRow(index, std::move(row));
+    SetCurrentRow(&result);
+  });
+  return result;
 }
 
 TSimpleCond& TJQueryPanel::AddSimpleCond(TFilterBracket& bracket, TDSField& field, TDSOperator& op,
@@ -161,7 +110,9 @@ TSimpleCond& TJQueryPanel::AddSimpleCond(TFilterBracket& bracket, TDSField& fiel
   condition->SetOperator(op);
   condition->SetValue(1, value1);
   condition->SetValue(2, value2);
-  return static_cast<TSimpleCond&>(bracket.AddRow(std::move(condition)));
+  TSimpleCond& result = *condition;
+  bracket.AddRow(std::move(condition));
+  return result;
 }
 
 void TJQueryPanel::EachCondition(TFilterBracket& bracket, const std::function<void(TFilterCond&)>& call) {
@@ -228,6 +179,7 @@ void TJQueryPanel::EnumerateBracket(const TFilterBracket&) const {
 
 TFilterRow* TJQueryPanel::RowByNum(int rowNum) const {
   if (rowNum == 0) return FRoot.get();
+  if (rowNum < 0 || rowNum > FRoot->GetLastRowNum()) return nullptr;
   const TFilterBracket* bracket = FRoot.get();
   while (true) {
     const std::size_t behind = bracket->IndexForNewRow(rowNum + 1);
@@ -243,10 +195,7 @@ void TJQueryPanel::SetCurrentRow(TFilterRow* row) {
   if (FCurrentRow == row) return;
   FCurrentRow = row;
   if (TQueryPanelView* view = Viewer()) view->CurrentRowChanged(row);
-  if (OnCurrentRowChange && FLoading == 0) {
-    const TPanelEvent handler = OnCurrentRowChange;
-    handler(*this);
-  }
+  Raise(evCurrentRowChange);
 }
 
 bool TJQueryPanel::NextRow() {
@@ -278,22 +227,18 @@ void TJQueryPanel::LeaveRow(const TFilterRow& row) {
 
 void TJQueryPanel::RowInserted(TFilterRow& row) {
   RowsMoved();
-  if (row.GetParentBracket() != nullptr && FLoading == 0) row.GetParentBracket()->CheckIfAllDisabled();
-  if (TQueryPanelView* view = Viewer()) view->RowInserted(row);
-  ShapeChanged();
-}
-
-void TJQueryPanel::RowRemoved(TFilterRow& row) {
-  RowsMoved();
-  row.FRowState = rsDestroying;
-  if (TQueryPanelView* view = Viewer()) view->RowRemoved(row);
-  ShapeChanged();
+  if (FLoading > 0) return;
+  HoldBack();
+  if (TQueryPanelView* view = row.Viewer()) view->RowInserted(row);
+  row.GetParentBracket()->CheckIfAllDisabled();
+  if (row.IsPlaced()) ShapeChanged();
+  Release();
 }
 
 void TJQueryPanel::ClearRows() {
-  FCurrentRow = nullptr;
-  FRoot->ClearRows();
   HoldBack();
+  SetCurrentRow(nullptr);
+  FRoot->ClearRows();
   FRoot->SetLinkType(fltAll);
   FRoot->SetEnabled(true);
   Release();
@@ -321,19 +266,30 @@ void TJQueryPanel::ShapeChanged() {
 void TJQueryPanel::ContentChanged() {
   if (FLoading > 0) return;
   FModified = true;
-  if (FHeldBack > 0) {
-    FChangePending = true;
-    return;
-  }
-  if (!OnChange) return;
-  const TPanelEvent handler = OnChange;
-  handler(*this);
+  Raise(evChange);
 }
 
-void TJQueryPanel::Release() {
-  if (--FHeldBack > 0 || !FChangePending) return;
-  FChangePending = false;
-  ContentChanged();
+void TJQueryPanel::Raise(TEvent event) {
+  if (FLoading > 0) return;
+  for (const TFiring* firing = FFiring; firing != nullptr; firing = firing->outer) {
+    if (firing->event == event) return;
+  }
+  FPending.Include(event);
+  if (FHeldBack == 0) Fire();
+}
+
+void TJQueryPanel::Fire() {
+  for (const auto& [event, member] : {std::pair(evActiveChange, &TJQueryPanel::OnActiveChange),
+                                      std::pair(evCurrentRowChange, &TJQueryPanel::OnCurrentRowChange),
+                                      std::pair(evChange, &TJQueryPanel::OnChange)}) {
+    if (!FPending.Contains(event)) continue;
+    FPending.Exclude(event);
+    if (!(this->*member)) continue;
+    const TPanelEvent handler = this->*member;
+    const TFiring firing(*this, event);
+    handler(*this);
+    if (firing.destroyed) return;
+  }
 }
 
 // Statement

@@ -31,7 +31,8 @@ class TSQLBuilder;
 ///   std::string sql = panel.GetQueryText();
 ///
 /// 1. The root bracket exists always; rows belong to their brackets, parameters to the query result.
-/// 2. After each completed change the order is: indexes, view, `OnChange`.
+/// 2. After each completed change the order is: indexes, view, events, `OnChange` as the last. What an event's handler
+///    does fires that event not again. A handler may destroy the panel.
 /// 3. When the model loses a field, operator or condition that a row names, the row stays and keeps its ID or name.
 class TJQueryPanel : public TComponent, private TDSListener {
  public:
@@ -85,6 +86,10 @@ class TJQueryPanel : public TComponent, private TDSListener {
   /// Empties the tree; the tree, the columns, name, description and user data.
   void ClearRows();
   void ClearAll();
+
+  /// The kinds of brackets that views offer. Default all.
+  TFilterLinkTypes GetLinkTypes() const { return FLinkTypes; }
+  void SetLinkTypes(TFilterLinkTypes linkTypes) { FLinkTypes = linkTypes; }
 
   // The statement
 
@@ -190,25 +195,47 @@ class TJQueryPanel : public TComponent, private TDSListener {
   void TablesChanging() override;
   void StructureClearing() override;
   void StructureLoaded() override;
+  void ModelChanged() override;
 
   // A change of what the statement consists of; of one value only.
   void ShapeChanged();
   void ContentChanged();
-  // Between these, `OnChange` is held back and fired once at the end.
+  // Between these, events are held back and fired once at the end; the panel may be gone then. `Together` is the same
+  // round a call that may throw.
+  enum TEvent : std::uint8_t { evActiveChange, evCurrentRowChange, evChange };
+  struct TFiring;
   void HoldBack() { ++FHeldBack; }
-  void Release();
+  void Release() {
+    if (--FHeldBack == 0) Fire();
+  }
+  template <typename TCall>
+  void Together(TCall call) {
+    HoldBack();
+    try {
+      call();
+    } catch (...) {
+      --FHeldBack;
+      throw;
+    }
+    Release();
+  }
+  void Raise(TEvent event);
+  void Fire();
   // The view, unless a query is being read.
   TQueryPanelView* Viewer() const { return FLoading > 0 ? nullptr : FView; }
   void RowInserted(TFilterRow& row);
-  // Before a row is taken out: moves the current row out of it. After that: tells the view.
+  // Before a row is taken out: moves the current row out of it.
   void LeaveRow(const TFilterRow& row);
-  void RowRemoved(TFilterRow& row);
   void RowsMoved() { FNumbered = false; }
   void EachCondition(TFilterBracket& bracket, const std::function<void(TFilterCond&)>& call);
   TDSField* GetDefaultField() const;
   TDSOperator* GetDefaultOperator(const TDSField& field) const;
+  template <typename TRow>
+  TRow& AddAsCurrent(TFilterBracket& bracket, std::size_t index, std::unique_ptr<TRow> row);
   void ModelDestroyed();
-  void ReadQuery(std::string_view text);
+  void PartGoes(const void* part);
+  struct TQueryParts;
+  void ExchangeParts(TQueryParts& parts);
 
   TRef<TJCustomDBStructure> FDBStruct;
   TQueryPanelView* FView = nullptr;
@@ -219,6 +246,7 @@ class TJQueryPanel : public TComponent, private TDSListener {
   TDSTable* FMainTable = nullptr;
   TTitles FTitles;
   TFormatSettings FFormatSettings;
+  TFilterLinkTypes FLinkTypes{fltAll, fltAny, fltNone, fltNotAll};
   std::string FQueryName, FSQLTopClause, FSQLLimitClause;
   TStrings FDescription, FUserData, FStoredRFields;
   std::vector<TQueryWarning> FLoadWarnings;
@@ -227,7 +255,10 @@ class TJQueryPanel : public TComponent, private TDSListener {
   mutable bool FNumbered = false;
   std::uint64_t FShapeRevision = 1;
   int FLoading = 0, FHeldBack = 0;
-  bool FChangePending = false;
+  // Events that wait; those whose handler runs; whether the model is losing parts.
+  TSet<TEvent> FPending;
+  TFiring* FFiring = nullptr;
+  bool FPartsGoing = false;
 };
 
 /// Reads all query files ("*.qry") of a folder, by name. Raises `EFileError` when the folder cannot be read.

@@ -21,43 +21,70 @@ std::string TJQueryPanel::SaveToText() {
   return text;
 }
 
-void TJQueryPanel::LoadFromText(std::string_view text) {
-  CheckIfDBStructAssigned();
-  const std::string old = WriteQueryText(*this);
-  const TSQLOptions oldOptions = GetSQLOptions();
-  const TTitles oldTitles = FTitles;
-  const bool wasActive = FActive;
-  const bool wasModified = FModified;
-  std::vector<TQueryWarning> oldWarnings = std::exchange(FLoadWarnings, {});
-  try {
-    ReadQuery(text);
-  } catch (...) {
-    ReadQuery(old);
-    SetSQLOptions(oldOptions);
-    FTitles = oldTitles;
-    FLoadWarnings = std::move(oldWarnings);
-    SetActive(wasActive);
-    FModified = wasModified;
-    throw;
-  }
+/// What loading replaces. Parameters go before the rows that they belong to.
+struct TJQueryPanel::TQueryParts {
+  std::unique_ptr<TFilterBracket> root;
+  TSQLParamList params;
+  TRFieldList rFields;
+  TSQLOptions options;
+  TTitles titles;
+  std::string name;
+  TStrings description, userData;
+  std::vector<TQueryWarning> warnings;
+};
+
+void TJQueryPanel::ExchangeParts(TQueryParts& parts) {
+  std::swap(FRoot, parts.root);
+  std::swap(FQResult->FParams, parts.params);
+  std::swap(FTitles, parts.titles);
+  std::swap(FQueryName, parts.name);
+  std::swap(FDescription, parts.description);
+  std::swap(FUserData, parts.userData);
+  std::swap(FLoadWarnings, parts.warnings);
+  RowsMoved();
 }
 
-void TJQueryPanel::ReadQuery(std::string_view text) {
-  SetActive(false);
-  SetCurrentRow(nullptr);
+void TJQueryPanel::LoadFromText(std::string_view text) {
+  CheckIfDBStructAssigned();
+  TQueryParts parts{.root = std::make_unique<TFilterBracket>(*this),
+                    .params = {},
+                    .rFields = TRFieldList(GetDBStruct()),
+                    .options = GetSQLOptions(),
+                    .titles = FTitles,
+                    .name = {},
+                    .description = {},
+                    .userData = {},
+                    .warnings = {}};
+  parts.params.SetParentParamCount(FQResult->Params().GetParentParamCount());
+  parts.rFields.Assign(RFields());
+  HoldBack();
   ++FLoading;
+  ExchangeParts(parts);
   try {
-    ClearAll();
+    RFields().Clear();
     ReadQueryText(text, *this);
   } catch (...) {
+    ExchangeParts(parts);
+    SetSQLOptions(parts.options);
+    RFields().Assign(parts.rFields);
     --FLoading;
+    --FHeldBack;
     throw;
   }
   --FLoading;
-  RowsMoved();
+  SetCurrentRow(nullptr);
+  SetActive(false);
+  // The view has let go of the old rows.
+  parts.params.Clear();
+  parts.root.reset();
+  if (TQueryPanelView* view = Viewer()) {
+    view->TitlesChanged();
+    view->ResultFieldsChanged();
+  }
   SetActive(true);
   ShapeChanged();
   FModified = false;
+  Release();
 }
 
 void TJQueryPanel::SaveToFile(const std::filesystem::path& file) {
@@ -77,6 +104,9 @@ constexpr TEnumName<TSQLSyntax> SyntaxNames[] = {
     {ssSQL1, "ssSQL1"}, {ssSQL2, "ssSQL2"}, {ssOracle, "ssOracle"}, {ssAccess, "ssAccess"}, {ssNexusDB, "ssNexusDB"},
 };
 
+constexpr TEnumName<TFilterLinkType> LinkTypeNames[] = {
+    {fltAll, "fltAll"}, {fltAny, "fltAny"}, {fltNone, "fltNone"}, {fltNotAll, "fltNotAll"}};
+
 constexpr TEnumName<TSQLOption> OptionNames[] = {
     {soASCIIRFields, "soASCIIRFields"},
     {soSelectDistinct, "soSelectDistinct"},
@@ -93,7 +123,11 @@ void TJQueryPanel::DefineProperties(TPropertyFiler& filer) {
   TComponent::DefineProperties(filer);
   filer.Reference(
       "DBStruct", [this]() -> TComponent* { return GetDBStruct(); },
-      [this](TComponent* component) { SetDBStruct(dynamic_cast<TJCustomDBStructure*>(component)); });
+      [this](TComponent* component) {
+        auto* model = dynamic_cast<TJCustomDBStructure*>(component);
+        if (model == nullptr) throw EStreamError("%s is no data model", {component->GetName()});
+        SetDBStruct(model);
+      });
   filer.Boolean(
       "Active", [this] { return GetActive(); }, [this](bool active) { FStoredActive = active; }, false);
   filer.Text(
@@ -103,6 +137,10 @@ void TJQueryPanel::DefineProperties(TPropertyFiler& filer) {
   filer.Text(
       "SQLOptions", [this] { return SetToNames(GetSQLOptions(), OptionNames); },
       [this](const std::string& text) { SetSQLOptions(NamesToSet(text, OptionNames)); }, "");
+  filer.Text(
+      "LinkTypes", [this] { return SetToNames(GetLinkTypes(), LinkTypeNames); },
+      [this](const std::string& text) { SetLinkTypes(NamesToSet(text, LinkTypeNames)); },
+      "fltAll,fltAny,fltNone,fltNotAll");
   filer.Boolean(
       "SaveSQLOptions", [this] { return GetSaveSQLOptions(); }, [this](bool on) { SetSaveSQLOptions(on); }, true);
   filer.Boolean(
@@ -132,7 +170,7 @@ void TJQueryPanel::DefineProperties(TPropertyFiler& filer) {
 void TJQueryPanel::Loaded() {
   TComponent::Loaded();
   const TStrings lines = std::exchange(FStoredRFields, {});
-  if (FDBStruct && !lines.Empty()) RFields().LoadFromStrings(lines);
+  if (!lines.Empty()) RFields().LoadFromStrings(lines);
   if (FStoredActive && FDBStruct) SetActive(true);
   FStoredActive = false;
   FModified = false;

@@ -242,8 +242,8 @@ void TResultField::SetAlias(std::string_view alias) {
 
 std::string TResultField::MakeAlias() const {
   if (FList == nullptr || !FList->FUseAliases || FCaption.empty()) return {};
-  if (FList->FQuoteAliases) return FCaption;
-  std::string name = MakeSQLName(FList->FAsciiAliases ? ReduceToAscii(FCaption) : FCaption);
+  std::string name = FList->FQuoteAliases ? MakeQuotableName(FCaption)
+                                          : MakeSQLName(FList->FAsciiAliases ? ReduceToAscii(FCaption) : FCaption);
   return name.empty() ? NumberedAlias() : name;
 }
 

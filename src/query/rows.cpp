@@ -100,10 +100,8 @@ bool TFilterRow::MoveRight() {
 
 // `index` counts without this row. The row's depth may grow by one: a subtree as deep as the limit stays where it is.
 bool TFilterRow::MoveTo(TFilterBracket& bracket, std::size_t index) {
-  if (&bracket != FParentBracket && FRowType == frtBracket &&
-      bracket.GetRowLevel() + 1 + static_cast<TFilterBracket*>(this)->Depth() > MaxRowLevel) {
-    return false;
-  }
+  const int depth = FRowType == frtBracket ? static_cast<TFilterBracket*>(this)->Depth() : 0;
+  if (&bracket != FParentBracket && bracket.GetRowLevel() + 1 + depth > MaxRowLevel) return false;
   TFilterBracket& old = *FParentBracket;
   FQueryPanel.HoldBack();
   bracket.PlaceRow(index, old.TakeRow(GetRowIndex()));

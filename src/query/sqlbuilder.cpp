@@ -40,7 +40,7 @@ void TSQLBuilder::BuildFilters() {
 
 void TSQLBuilder::Build(bool filters) {
   TQueryResult& result = FPanel.QResult();
-  const TBuilt now{FPanel.FShapeRevision, FPanel.GetDBStruct()->GetRevision(), filters,
+  const TBuilt now{FPanel.FShapeRevision, result.RFields().GetRevision(), FPanel.GetDBStruct()->GetRevision(), filters,
                    static_cast<bool>(FPanel.OnBuildSQL)};
   FFilters = filters;
   result.FHavingClause.clear();
@@ -78,6 +78,8 @@ void TSQLBuilder::BuildShape() {
   if (FPanel.GetActive()) {
     CollectTables(FPanel.RootBracket(), false);
     CollectTables(FPanel.RootBracket(), true);
+  } else if (FPanel.RootBracket().GetRowCount() > 0) {
+    FShapeWarnings.push_back({{}, "All conditions are left out: the panel is not active"});
   }
   if (!FFilters) WarnOfJoins();
 }

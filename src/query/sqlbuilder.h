@@ -36,7 +36,7 @@ class TSQLBuilder final {
 
   // What the last build was made from.
   struct TBuilt {
-    std::uint64_t shape = 0, model = 0;
+    std::uint64_t shape = 0, columns = 0, model = 0;
     bool filters = false, handled = false;
     bool operator==(const TBuilt&) const = default;
   };

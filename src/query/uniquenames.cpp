@@ -102,4 +102,14 @@ std::string MakeSQLName(std::string_view text) {
   return name;
 }
 
+std::string MakeQuotableName(std::string_view text) {
+  const bool isUtf8 = IsValidUtf8(text);
+  std::string name(text);
+  std::erase_if(name, [isUtf8](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte < 0x20 || byte == 0x7F || (byte >= 0x80 && !isUtf8);
+  });
+  return name;
+}
+
 }  // namespace tolvi

@@ -35,4 +35,8 @@ class TUniqueNames final {
 /// that is no letter, digit or "_" is left out; a first digit gets a "C" before it. Empty when nothing is left.
 std::string MakeSQLName(std::string_view text);
 
+/// A name that SQL can hold between quote symbols, made from a text of people: control characters, and bytes outside
+/// ASCII in a text that is no UTF-8, are left out.
+std::string MakeQuotableName(std::string_view text);
+
 }  // namespace tolvi

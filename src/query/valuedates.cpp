@@ -64,7 +64,7 @@ std::optional<TDateValue> TryReadDate(std::string_view text, const TFormatSettin
   TDateValue result;
   if (const auto number = TryReadNumber(text, ftFloat, settings)) {
     result.Value = NumberValue(*number);
-  } else if (const auto value = TryStrToDateTime(text, settings)) {
+  } else if (auto value = TryStrToDateTime(text, settings); value || (value = TryStrToDateTime(text))) {
     result.Value = *value;
   } else {
     return std::nullopt;

@@ -2,8 +2,8 @@
 //
 //   TJDBInfo info;
 //   info.OnTablesRequest = [](TJDBInfo&, TStrings& tables) { tables.Add("orders"); };
-//   info.OnFieldsRequest = [](TJDBInfo&, std::string_view table, TDBFieldList& fields) { fields.Add("id", ftInteger);
-//   }; info.GetFieldList("orders").FindByName("ID");
+//   info.OnFieldsRequest = [](TJDBInfo&, std::string_view, TDBFieldList& fields) { fields.Add("id", ftInteger); };
+//   info.GetFieldList("orders").FindByName("ID");
 #pragma once
 
 #include <cstddef>

@@ -18,8 +18,6 @@ enum : std::uint8_t {
   ccBeyondAscii = 16,  // a byte of a character that folding may change
 };
 
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
 constexpr std::array<std::uint8_t, 256> MakeClasses() {
   std::array<std::uint8_t, 256> classes{};
   for (const char c : {' ', '\t', '\n', '\v', '\f', '\r'}) classes[static_cast<unsigned char>(c)] = ccSpace;
@@ -168,6 +166,12 @@ void TJScanner::FirstToken() { MoveAfter(BeforeFirst(), 0); }
 
 void TJScanner::NextToken() {
   if (!EOS()) MoveAfter(Current(), FIndex + 1);
+}
+
+void TJScanner::SkipTo(std::size_t pos) {
+  TSpan skipped;
+  skipped.End = std::min(pos, FText.size());
+  MoveAfter(skipped, FIndex + 1);
 }
 
 void TJScanner::MoveAfter(const TSpan& previous, std::size_t index) {

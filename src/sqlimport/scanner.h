@@ -108,6 +108,9 @@ class TJScanner final {
   void FirstToken();
   /// Moves to the next token, after the last one to the end of the text; there it does nothing.
   void NextToken();
+  /// Moves to the first token at or behind a byte offset after the current token's, read as if no quote were open
+  /// there: for a piece of text that has rules of its own. GetToken then looks back over at most 7 tokens.
+  void SkipTo(std::size_t pos);
   /// Whether there is no current token.
   [[nodiscard]] bool EOS() const { return Current().Type == ttUnknown; }
 

@@ -51,6 +51,11 @@ TEST(DayNumbers, AreTextsOfTheLocale) {
   EXPECT_EQ(ErrorOf([] { TvStrToDateTime("36526,25"); }), "'36526,25' is not a valid floating point value");
 }
 
+TEST(Lines, AreHandedOutAsOneTextThatEndsWithZero) {
+  EXPECT_STREQ(GetStringsAsAnsiChar({"a", "ż"}).get(), "a\r\nż\r\n");
+  EXPECT_STREQ(GetStringsAsAnsiChar({}).get(), "");
+}
+
 TEST(Errors, CarryTheirCodeAndTheFormattedMessage) {
   const EJDBStructError error(4, "No such table %s", {"Orders"});
   EXPECT_EQ(error.ErrorCode(), 4);

@@ -62,9 +62,16 @@ TEST(Conditions, DeletedOnesAreTakenOutAndForgotten) {
   TConditionListener listener;
   model.AddListener(listener);
   for (int i = 0; i < 3; ++i) AddCondition(model, 0, "Orders.No > 1").SetDisplayFormat("c" + std::to_string(i));
+  auto editor = std::make_unique<TDSSQLEditor>(&model);
+  TDSSQLEditor& query = *editor;
+  model.Conditions()[0].Values().Add(std::make_unique<TDSValue>()).SetValueEditor(std::move(editor));
+  TJDBInfo info;
+  model.SetDatabaseInfo(&info);
+  query.Refresh();
   int changes = 0;
   model.OnChange = [&](TJCustomDBStructure&) { ++changes; };
   const std::unique_ptr<TDSCondition> taken = model.Conditions().Delete(0);
+  EXPECT_THROW(query.Refresh(), EJDBStructError) << "it asks the model no more";
   EXPECT_EQ(taken->GetDBStruct(), nullptr);
   EXPECT_TRUE(taken->Tables().Empty());
   taken->SetDisplayFormat("nobody listens");

@@ -70,6 +70,8 @@ TEST(Model, LookUpsFindTheFirstMatchByEveryKindOfName) {
   EXPECT_EQ(t.model.FieldByID(3), nullptr);
   EXPECT_EQ(t.model.FieldByID(99), &t.model.GetField(2));
   EXPECT_EQ(t.model.GetLastFieldID(), 99);
+  t.model.GetField(0).SetID(0);
+  EXPECT_EQ(t.model.GetField(0).GetID(), 100) << "no field of a model is without";
   t.orders().SetTableName("Bestellung");
   EXPECT_EQ(t.model.FieldByName(fnFullName, "bestellung.ID"), &t.model.GetField(0));
 }
@@ -127,6 +129,12 @@ TEST(Model, FieldKindsGuardTheirExpressions) {
   EXPECT_EQ(twice.GetFieldType(), ftString);
   EXPECT_EQ(twice.GetFieldSize(), 100);
   EXPECT_EQ(twice.GetGroupByFields(), "Orders.ID");
+  t.orders().SetTableAlias("o");
+  twice.SetSQLExpr(twice.GetSQLExpr());
+  EXPECT_EQ(twice.Tables().Count(), 1u) << "found by its name, when set anew";
+  t.orders().SetTableName("Bills");
+  twice.SetSQLExpr(twice.GetSQLExpr());
+  EXPECT_TRUE(twice.Tables().Empty());
   EXPECT_EQ(ErrorOf([&] { column.SetSQLExpr("x"); }),
             std::pair(8, std::string("Can not assign expression to data field")));
   EXPECT_EQ(ErrorOf([&] { twice.SetFieldName("x"); }),
@@ -181,6 +189,74 @@ TEST(Model, TellsOfEveryChangeUnlessUpdating) {
   t.model.AddTable("X", "X");
   t.model.EndUpdate();
   EXPECT_EQ(changes, 5);
+}
+
+TEST(Model, HandlerOfAChangeMayChangeTheModelOrThrow) {
+  TTwoTables t;
+  int changes = 0;
+  t.model.OnChange = [&changes](TJCustomDBStructure& model) {
+    if (++changes == 2) throw EException("enough");
+    model.GetTable(0).SetDisplayName(model.GetTable(0).GetDisplayName() + "!");
+  };
+  t.orders().SetDatabaseName("a");
+  EXPECT_EQ(changes, 1) << "the handler's own change is not told again";
+  EXPECT_EQ(t.orders().GetDisplayName(), "Orders list!");
+  EXPECT_THROW(t.model.DelTable(1), EException);
+  EXPECT_EQ(t.model.GetTableCount(), 1u) << "the change is complete";
+  t.model.SetExOperators({});
+  EXPECT_EQ(changes, 3) << "one change, though it deletes eight operators";
+  t.model.BeginUpdate();
+  TJDBStructure().AssignTo(t.model);
+  t.model.RootGroup().SetGroupName("x");
+  EXPECT_EQ(changes, 3) << "assigning does not end the update";
+}
+
+TEST(Model, HandlerOfAChangeMayDestroyTheModel) {
+  const std::function<void(TJDBStructure&)> actions[] = {
+      [](TJDBStructure& model) { model.SetExOperators({}); },
+      [](TJDBStructure& model) { model.SetDefOperators({"Equal=is"}); },
+      [](TJDBStructure& model) { model.AddDefOperators(false); },
+      [](TJDBStructure& model) { model.AddInListOperator(false); },
+      [](TJDBStructure& model) { model.AddTable("a", "a"); },
+      [](TJDBStructure& model) { model.AddField(jfkVirtual, "1", "1", nullptr); },
+      [](TJDBStructure& model) { model.DelOperator(0); },
+      [](TJDBStructure& model) { model.SQLFormats().SetQuoteBool(false); },
+      [](TJDBStructure& model) { model.FieldGroups().AddGroup("g"); },
+      [](TJDBStructure& model) { model.Conditions().Add(std::make_unique<TDSCondition>()); },
+      [](TJDBStructure& model) { model.ClearStructure(); },
+      [](TJDBStructure& model) { TJDBStructure().AssignTo(model); },
+      [](TJDBStructure& model) { model.SetStructString("[Main]\nVersion=3.6"); },
+  };
+  for (const auto& action : actions) {
+    auto model = std::make_unique<TJDBStructure>();
+    TJDBStructure& sender = *model;
+    int changes = 0;
+    model->OnChange = [&model, &changes](TJCustomDBStructure&) {
+      ++changes;
+      model.reset();
+    };
+    action(sender);
+    EXPECT_EQ(changes, 1);
+  }
+}
+
+TEST(Model, MovingAGroupToABadPlaceLosesNothing) {
+  TTwoTables t;
+  TDSFieldGroup& group = t.model.FieldGroups().AddGroup("Keys");
+  group.Add(t.model.GetField(0));
+  EXPECT_THROW(t.model.FieldGroups().Move(0, 1), EListError);
+  ASSERT_EQ(t.model.FieldGroups().Count(), 1u);
+  EXPECT_EQ(t.model.GetField(0).GetGroup(), &group);
+}
+
+TEST(Model, TablesWithoutALinkLeaveThePaths) {
+  TTwoTables t;
+  EXPECT_NE(t.model.GetPath("Orders", "Order_Lines"), nullptr);
+  t.orders().DelLink(0);
+  EXPECT_EQ(t.model.GetPath("Orders", "Order_Lines"), nullptr);
+  EXPECT_NE(t.model.GetPath("Order_Lines", "Orders"), nullptr) << "the other table still knows it";
+  t.orders().AddLinkRef(t.model.GetLink(0));
+  EXPECT_NE(t.model.GetPath("Orders", "Order_Lines"), nullptr);
 }
 
 TEST(Model, FailedLoadingLeavesTheModelAsItWas) {

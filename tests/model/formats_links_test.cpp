@@ -134,6 +134,9 @@ TEST_F(Links, AreMadeOfTheConditionsThatLinksWrite) {
   EXPECT_EQ(quoted.GetFields2(), TStrings{"Order \"No\""});
   EXPECT_EQ(quoted.GetSQLExpr(), "Orders.\"No\" = Order_Details.\"Order \"\"No\"\"\"");
   EXPECT_EQ(Add("Orders.No = Order_Details.\"Order No\"").GetSQLExpr(), "Orders.No = Order_Details.\"Order No\"");
+  model.SQLFormats().SetQuoteSymbol1('[');
+  model.SQLFormats().SetQuoteSymbol2(']');
+  EXPECT_EQ(Add("Orders.[Buyer's -- \"No\"]]] = c.[No]").GetSQLExpr(), "Orders.[Buyer's -- \"No\"]]] = c.[No]");
 }
 
 TEST_F(Links, TakeTheirKindFromOuterMarks) {

@@ -174,6 +174,30 @@ TEST(ModelText, AnotherModelTakesTheDefaultOperatorsAsTheyStandInTheText) {
   EXPECT_EQ(WriteModelText(copy), WriteModelText(model));
 }
 
+TEST(ModelText, ReadsExpressionsByTheFormatsOfTheText) {
+  TJDBStructure model;
+  model.SQLFormats().SetQuoteSymbol1('[');
+  model.SQLFormats().SetQuoteSymbol2(']');
+  model.DMOptions().SetDefaultDBOwner("dbo");
+  model.AddTable("Order Lines", "Lines");
+  model.AddField(jfkVirtual, "[dbo].[Order Lines].[Unit Price] * 2", "Twice", nullptr);
+  ASSERT_EQ(model.GetField(0).Tables().Count(), 1U);
+  TJDBStructure copy;
+  copy.SetStructString(model.GetStructString());
+  EXPECT_EQ(copy.GetField(0).Tables().Count(), 1U);
+  EXPECT_EQ(copy.GetField(0).GetGroupByFields(), model.GetField(0).GetGroupByFields());
+}
+
+TEST(ModelText, KeepsFieldsOfATableWithoutAlias) {
+  TJDBStructure model;
+  model.AddTable("Orders", "Orders");
+  model.GetTable(0).SetTableAlias("");
+  model.AddField(jfkData, "ID", "ID", &model.GetTable(0));
+  TJDBStructure copy;
+  model.AssignTo(copy);
+  EXPECT_EQ(copy.GetField(0).GetTable(), &copy.GetTable(0));
+}
+
 /// The model of the version files in a few words.
 std::string Describe(const TJCustomDBStructure& model) {
   std::string text = XFloatToStr(model.GetVersion()) + (model.GetRootFieldsFirst() ? " root first" : "");

@@ -144,7 +144,7 @@ TEST_F(QueryText, IsReadAsItsVersionMeantIt) {
   } cases[] = {
       {"unnumbered.qry",
        "First release, options 0\nFirm as FIRM, {Customers.Company}, sorted\n on any\n"
-       ".1 off City Equal 'London'\n.2 on Unrecognized field Equal '1'\n.3 on Sold between   and  '36526' '36890'\n"
+       ".1 off City Equal 'London'\n.2 on Unrecognized field Equal '1'\n.3 on Sold between   and '36526' '36890'\n"
        "warning .2: Unrecognized field \"Fax\"\n"},
       {"v1.2.qry",
        "With parameters, options 2\nSum as SUM_1, sum({Orders.Total}), not sorted\n on alle\n"

@@ -42,7 +42,6 @@ inline std::unique_ptr<TJDBStructure> OrdersModel() {
       {"", "sum(Order_Details.Qty)", "Quantity sold", ftInteger, 0},
   };
   auto model = std::make_unique<TJDBStructure>();
-  model->AddDefOperators(true);
   const std::size_t inQuery = model->AddOperator("InQuery", "is in the sub-query", "@f in (@1)", "", GeneralFieldTypes);
   model->GetOperator(inQuery).SetValueKind(vkSubQuery);
   for (const std::string_view table : {"Customers", "Orders", "Order Details", "Products"}) {
