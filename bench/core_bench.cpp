@@ -229,7 +229,7 @@ void LargeModelReadAndSplit(benchmark::State& state) {
   }
   state.counters["MB"] = static_cast<double>(std::filesystem::file_size(file)) / 1e6;
 }
-BENCHMARK(LargeModelReadAndSplit)->Unit(benchmark::kMillisecond);
+BENCHMARK(LargeModelReadAndSplit)->Unit(benchmark::kMillisecond)->Repetitions(3);
 
 void LargeModelLoad(benchmark::State& state) {
   const std::string& file = LargeModelFile();
@@ -243,7 +243,7 @@ void LargeModelLoad(benchmark::State& state) {
     benchmark::DoNotOptimize(model.Fields().Count());
   }
 }
-BENCHMARK(LargeModelLoad)->Unit(benchmark::kMillisecond);
+BENCHMARK(LargeModelLoad)->Unit(benchmark::kMillisecond)->Repetitions(3);
 
 TJDBStructure& LargeModel() {
   static TJDBStructure model;
@@ -257,7 +257,7 @@ void LargeModelSave(benchmark::State& state) {
   for (auto _ : state) model.SaveToFile(file);
   std::filesystem::remove(file);
 }
-BENCHMARK(LargeModelSave)->Unit(benchmark::kMillisecond);
+BENCHMARK(LargeModelSave)->Unit(benchmark::kMillisecond)->Repetitions(3);
 
 void LookUpByName(benchmark::State& state) {
   const TJDBStructure& model = LargeModel();

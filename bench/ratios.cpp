@@ -45,6 +45,7 @@ namespace {
 /// Keeps the least processor time of each benchmark: the run least disturbed.
 class TCollector final : public benchmark::ConsoleReporter {
  public:
+  TCollector() : ConsoleReporter(OO_None) {}
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs) {
       if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;

@@ -55,7 +55,9 @@ void TSession::TellWarnings(const std::vector<TQueryWarning>& warnings) {
   if (warnings.empty()) return;
   const TPlaces places(QuerySource);
   for (const TQueryWarning& warning : warnings) {
-    const std::string section = warning.RowID.empty() ? std::string() : "Row" + warning.RowID;
+    // Warnings about columns begin with their section.
+    const std::string section =
+        warning.RowID.empty() ? warning.Text.substr(0, warning.Text.find(": ")) : "Row" + warning.RowID;
     Streams.Err << "tolvi: " << places.Of(section) << ": warning: " << warning.Text << '\n';
   }
 }

@@ -49,10 +49,18 @@ void TDSCondition::BindTo(TJCustomDBStructure* dbStruct) {
   for (TDSValue& value : FValues) TJCustomDBStructure::BindEditor(value.GetValueEditor(), dbStruct);
 }
 
-void TDSCondition::UpdateTables() {
+// The model's tables may have come, gone or been renamed since the predicate was read.
+const TSimpleDSTableList& TDSCondition::Tables() const {
+  if (FDBStruct && FTablesStamp != FDBStruct->TablesStamp()) UpdateTables();
+  return FTables;
+}
+
+void TDSCondition::UpdateTables() const {
   FTables.Clear();
+  if (!FDBStruct) return;
   TStrings references;
-  if (FDBStruct) FDBStruct->ExcludeTablesBySQLExpr(FSQLExpr, FTables, references);
+  FDBStruct->ExcludeTablesBySQLExpr(FSQLExpr, FTables, references);
+  FTablesStamp = FDBStruct->TablesStamp();
 }
 
 TDSCondition& TDSConditionList::Add(std::unique_ptr<TDSCondition> condition) {

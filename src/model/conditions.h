@@ -58,7 +58,7 @@ class TDSCondition final {
   TDSValueList& Values() { return FValues; }
   const TDSValueList& Values() const { return FValues; }
   /// The model's tables that the predicate mentions.
-  const TSimpleDSTableList& Tables() const { return FTables; }
+  const TSimpleDSTableList& Tables() const;
   /// Without values the display format, else the values' texts joined by single blanks.
   std::string GetCaption() const;
 
@@ -68,13 +68,14 @@ class TDSCondition final {
   void Modified();
   /// Also the editors of the values that ask the model's database.
   void BindTo(TJCustomDBStructure* dbStruct);
-  void UpdateTables();
+  void UpdateTables() const;
 
   TJCustomDBStructure* FDBStruct;
   std::int32_t FID = 0;
   std::string FSQLExpr, FDisplayFormat;
   TDSValueList FValues;
-  TSimpleDSTableList FTables;
+  mutable TSimpleDSTableList FTables;
+  mutable std::uint64_t FTablesStamp = 0;
 };
 
 /// The predefined conditions of a model.

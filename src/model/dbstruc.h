@@ -340,6 +340,9 @@ class TJCustomDBStructure : public TComponent {
 
   // Stands on the stack while others hear of a change, one of whom may destroy the model.
   struct TFiring;
+  // Another number whenever a table was added, deleted or changed.
+  std::uint64_t TablesStamp() const { return (FRevisions.tables << 32) + FTables.Count(); }
+
   struct TRevisions {
     std::uint64_t tables = 1, fields = 1, operators = 1, conditions = 1, links = 1;
   };

@@ -67,7 +67,7 @@ std::string TDSField::GetCompoundName(std::string_view separator) const {
 
 std::string TDSField::GetGroupByFields() const {
   if (FFieldKind == jfkData) return GetSQLExpr();
-  return FIsAggregate ? std::string() : FDBFields.Joined(", ");
+  return FIsAggregate ? std::string() : DBFields().Joined(", ");
 }
 
 void TDSField::SetTable(TDSTable* table) {
@@ -148,10 +148,16 @@ void TDSField::Modified() {
   if (FDBStruct != nullptr) FDBStruct->FieldsModified();
 }
 
-void TDSField::UpdateTables() {
+void TDSField::RefreshTables() const {
+  if (FDBStruct != nullptr && FTablesStamp != FDBStruct->TablesStamp()) UpdateTables();
+}
+
+void TDSField::UpdateTables() const {
   FTables.Clear();
   FDBFields.Clear();
-  if (FDBStruct != nullptr) FDBStruct->ExcludeTablesBySQLExpr(FFieldExpr, FTables, FDBFields);
+  if (FDBStruct == nullptr) return;
+  FDBStruct->ExcludeTablesBySQLExpr(FFieldExpr, FTables, FDBFields);
+  FTablesStamp = FDBStruct->TablesStamp();
 }
 
 std::size_t TDSField::CheckedOperator(std::size_t index) const {

@@ -63,13 +63,19 @@ class TDSField final {
   void SetDisplayName(std::string_view name) { Set(FDisplayName, name); }
 
   /// The table of a data field; the tables that a virtual field's expression mentions.
-  const TSimpleDSTableList& Tables() const { return FTables; }
+  const TSimpleDSTableList& Tables() const {
+    if (FFieldKind == jfkVirtual) RefreshTables();
+    return FTables;
+  }
   /// The first table; null when there is none.
-  TDSTable* GetTable() const { return FTables.Empty() ? nullptr : &FTables[0]; }
+  TDSTable* GetTable() const { return Tables().Empty() ? nullptr : &FTables[0]; }
   /// Makes `table` the only table; null leaves none.
   void SetTable(TDSTable* table);
   /// The qualified columns that a virtual field's expression mentions.
-  const TStrings& DBFields() const { return FDBFields; }
+  const TStrings& DBFields() const {
+    Tables();
+    return FDBFields;
+  }
 
   /// Whether the column name needs quoting.
   bool GetQuoted() const { return FQuoted; }
@@ -134,7 +140,9 @@ class TDSField final {
     Modified();
   }
   void Modified();
-  void UpdateTables();
+  void UpdateTables() const;
+  // The model's tables may have come, gone or been renamed since the expression was read.
+  void RefreshTables() const;
   std::size_t CheckedOperator(std::size_t index) const;
 
   TJCustomDBStructure* FDBStruct = nullptr;
@@ -145,9 +153,9 @@ class TDSField final {
   bool FQuoted = false, FUseInConditions = true, FUseInResult = true, FIsAggregate = false;
   int FFieldSize = 0;
   std::string FFieldExpr, FDisplayName;
-  TSimpleDSTableList FTables;
+  mutable TSimpleDSTableList FTables;
   std::vector<TDSOperator*> FOperators;
-  TStrings FDBFields;
+  mutable TStrings FDBFields;
   std::unique_ptr<TDSValueEditor> FValueEditor;
   TDSFieldGroup* FGroup = nullptr;
   std::any FOleObject;
@@ -155,6 +163,7 @@ class TDSField final {
   // The qualified column, kept for the revision of the model in which it was made.
   mutable std::string FSQLExpr;
   mutable std::uint64_t FSQLExprRevision = 0;
+  mutable std::uint64_t FTablesStamp = 0;
 };
 
 /// The fields of a model, owned, in the order in which they were added.

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <optional>
+#include <unordered_map>
 
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/text.h>
@@ -74,6 +75,7 @@ class TSQLBuilder::TBindings {
     do {
       value.Name = "Value" + std::to_string(++FLiteralCount);
     } while (FStyle == msColonName && Find(value.Name) != nullptr);
+    if (FStyle == msColonName) FNamed.emplace(value.Name, Values.size());
     Append(out, std::move(value));
   }
 
@@ -85,7 +87,7 @@ class TSQLBuilder::TBindings {
       throw EJQueryPanelError(0, "Two parameters are called \"%s\" and have different values: rename one of them",
                               {value.Name});
     }
-    if (same != nullptr && !same->IsParam && FStyle == msColonName) {
+    if (same != nullptr && !same->IsParam) {
       throw EJQueryPanelError(0,
                               "The parameter name \"%s\" stands for a value of the statement already: choose "
                               "another name",
@@ -93,18 +95,18 @@ class TSQLBuilder::TBindings {
     }
     if (same != nullptr && FStyle == msColonName) {
       out.append(":").append(value.Name);
-    } else {
-      Append(out, std::move(value));
+      return;
     }
+    FNamed.emplace(value.Name, Values.size());
+    Append(out, std::move(value));
   }
 
   std::vector<TBoundValue> Values;
 
  private:
   const TBoundValue* Find(std::string_view name) const {
-    const auto found = std::find_if(Values.begin(), Values.end(),
-                                    [name](const TBoundValue& value) { return SameText(value.Name, name); });
-    return found == Values.end() ? nullptr : &*found;
+    const auto found = FNamed.find(name);
+    return found == FNamed.end() ? nullptr : &Values[found->second];
   }
 
   void Append(std::string& out, TBoundValue value) {
@@ -116,6 +118,8 @@ class TSQLBuilder::TBindings {
 
   TMarkerStyle FStyle;
   std::size_t FLiteralCount = 0;
+  // Where the first value of each name stands; literals have names only where these are markers.
+  std::unordered_map<std::string, std::size_t, TFoldedHash, TFoldedEqual> FNamed;
 };
 
 bool IsCaseInsensitive(const TFilterCond& condition) {
@@ -144,12 +148,16 @@ std::string TemplateValueFormat(const TFilterCond& condition, int index) {
 
 const std::string& TSQLBuilder::TextOf(TFilterCond& condition) {
   if (FBindings == nullptr && condition.FTextStamp == FStamp) return condition.FText;
+  // The values of a predefined condition may have changed their type without the model's knowing; a sub-query is made
+  // anew for its warnings and for the numbers of the parameters behind it.
+  const bool isLasting = condition.GetValueCount() == 0 ||
+                         (condition.GetRowType() == frtSimpleCondition && condition.GetValueKind(1) != vkSubQuery);
   std::string& text = condition.FText;
   condition.FTextStamp = 0;
   text.clear();
   AppendCondition(text, condition);
   if (FPanel.OnBuildSQL) FPanel.OnBuildSQL(condition, text);
-  if (FBindings == nullptr) condition.FTextStamp = FStamp;
+  if (FBindings == nullptr && isLasting) condition.FTextStamp = FStamp;
   return text;
 }
 
@@ -335,6 +343,11 @@ void TSQLBuilder::AppendSubQuery(std::string& out, const TFilterCond& condition)
   inner.FBuilder->FBindings = FBindings;
   inner.BuildQuery();
   out += inner.QResult().GetSQLText();
+  for (const auto* warnings : {&inner.LoadWarnings(), &inner.QResult().Warnings()}) {
+    for (const TQueryWarning& warning : *warnings) {
+      FPanel.QResult().FWarnings.push_back({condition.GetRowID(), "In the sub-query: " + warning.Text});
+    }
+  }
   FSubParamCount += params.Count() + inner.FBuilder->FSubParamCount;
 }
 
@@ -344,16 +357,12 @@ TBoundStatement TSQLBuilder::BuildBound(TMarkerStyle style) {
   TBindings bindings(style);
   TSQLLines where;
   std::string having;
-  FSubParamCount = 0;
   FWhere = &where;
   FHaving = &having;
   FBindings = &bindings;
   const std::vector<TQueryWarning> warnings = FPanel.QResult().FWarnings;
   try {
-    if (FPanel.GetActive()) {
-      WalkRoot(false);
-      WalkRoot(true);
-    }
+    WalkTree();
   } catch (...) {
     FBindings = nullptr;
     throw;

@@ -7,14 +7,14 @@
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/explain.h>
 #include <tolvi/query/querpnl.h>
+#include <tolvi/query/resultformula.h>
+#include <tolvi/query/sqlbuilder.h>
 
 namespace tolvi {
 namespace {
 
 constexpr std::string_view OffMark = "(off) ", EmptyValue = "<empty>", AllColumns = "*";
 constexpr std::string_view SortTitles[] = {"ttlNotSorted", "ttlAscending", "ttlDescending"};
-/// Sub-queries in sub-queries.
-constexpr int MaxSubQueryDepth = 32;
 
 std::string OneLine(std::string_view text) {
   std::string line(text);
@@ -157,7 +157,7 @@ class TExplainer {
       ++FLevel;
       if (condition.GetSubQuery().Empty()) {
         AddLine(EmptyValue);
-      } else if (FDepth == MaxSubQueryDepth) {
+      } else if (FDepth == TSQLBuilder::MaxSubQueryLevel) {
         AddLine("...");
       } else {
         AddLines(condition);
@@ -202,7 +202,7 @@ class TExplainer {
   /// The caption; behind it what is in the column unless the caption is the field's name.
   std::string ColumnText(const TResultField& column) const {
     std::string content;
-    if (column.GetFormula() == "@1" && column.DSFields().size() == 1) {
+    if (column.GetFormula() == "@1" && column.DSFields().size() == 1 && !HoldsUnknown(column)) {
       const TDSField& field = *column.DSFields().front();
       content = FNames.Of(field);
       if (SameText(column.GetCaption(), field.GetDisplayName())) return content;
@@ -212,22 +212,20 @@ class TExplainer {
     return column.GetCaption().empty() ? content : column.GetCaption() + " = " + content;
   }
 
+  bool HoldsUnknown(const TResultField& column) const {
+    const std::vector<TDSField*>& fields = column.DSFields();
+    const TDSField* unknown = FPanel->GetDBStruct() ? &FPanel->GetDBStruct()->GetNullField() : nullptr;
+    return std::find(fields.begin(), fields.end(), unknown) != fields.end();
+  }
+
   /// The formula with the fields' names in braces.
   std::string Expression(const TResultField& column) const {
     const std::vector<TDSField*>& fields = column.DSFields();
-    const TDSField* unknown = FPanel->GetDBStruct() ? &FPanel->GetDBStruct()->GetNullField() : nullptr;
-    if (std::find(fields.begin(), fields.end(), unknown) != fields.end()) return column.GetExpression();
-    const std::string_view formula = column.GetFormula();
+    if (HoldsUnknown(column)) return column.GetExpression();
     std::string text;
-    for (std::size_t at = 0; at < formula.size(); ++at) {
-      const int number = formula[at] == '@' && at + 1 < formula.size() ? formula[at + 1] - '0' : 0;
-      if (number < 1 || static_cast<std::size_t>(number) > std::min<std::size_t>(fields.size(), 9)) {
-        text += formula[at];
-        continue;
-      }
-      text += "{" + FNames.Of(*fields[static_cast<std::size_t>(number) - 1]) + "}";
-      ++at;
-    }
+    ForEachPlaceholder(
+        column.GetFormula(), fields.size(), [&text](std::string_view literal) { text += literal; },
+        [this, &text, &fields](std::size_t index) { text += "{" + FNames.Of(*fields[index]) + "}"; });
     return text;
   }
 

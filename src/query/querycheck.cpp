@@ -4,12 +4,10 @@
 #include <tolvi/foundation/format.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/querycheck.h>
+#include <tolvi/query/sqlbuilder.h>
 
 namespace tolvi {
 namespace {
-
-/// Sub-queries in sub-queries.
-constexpr int MaxSubQueryDepth = 32;
 
 class TQueryChecker {
  public:
@@ -101,7 +99,8 @@ class TQueryChecker {
 
   void CheckSubQuery(const TStrings& lines, bool on, const std::string& rowID) {
     const TCheckSeverity worst = on ? csError : csWarning;
-    if (FDepth == MaxSubQueryDepth) return AddAtRow(csWarning, rowID, "sub-queries deeper than this are not checked");
+    if (FDepth == TSQLBuilder::MaxSubQueryLevel)
+      return AddAtRow(csWarning, rowID, "sub-queries deeper than this are not checked");
     try {
       TJQueryPanel panel;
       panel.SetDBStruct(FPanel.GetDBStruct());

@@ -128,8 +128,17 @@ TStrings TQueryResult::GetSQL() { return GetSQLLines().ToStrings(); }
 const std::string& TQueryResult::GetSQLText() { return GetSQLLines().Text(); }
 
 const TSQLLines& TQueryResult::GetSQLLines() {
+  RefreshClauses();
   if (FSQL.Empty()) Assemble(FSQL, FWhereClause, FHavingClause);
   return FSQL;
+}
+
+void TQueryResult::RefreshClauses() {
+  if (FClausesRevision == FQueryPanel.FShapeRevision) return;
+  FClausesRevision = FQueryPanel.FShapeRevision;
+  FSelectClause.clear();
+  FFromBuilt = false;
+  FSQL.Clear();
 }
 
 void TQueryResult::Assemble(TSQLLines& out, const TSQLLines& where, std::string_view having) {
@@ -138,6 +147,7 @@ void TQueryResult::Assemble(TSQLLines& out, const TSQLLines& where, std::string_
     out.AddLine(keyword);
     out.Append(text);
   };
+  RefreshClauses();
   if (FSelectClause.empty()) FSelectClause = MakeSelectClause();
   BuildFrom();
   out.Clear();
@@ -177,6 +187,7 @@ TStrings TQueryResult::GetFromClause() {
 
 void TQueryResult::BuildFrom() {
   if (FRTables.Empty()) throw EJQueryPanelError(8, std::string(SQueryNotBuilt));
+  RefreshClauses();
   if (FFromBuilt) return;
   constexpr std::string_view indent = "     ";
   FWasSQL1Joins = false;
@@ -270,10 +281,14 @@ std::string TQueryResult::AdjustCondition(std::string_view text) const {
   return "(" + std::string(text) + ")";
 }
 
-void TQueryResult::AddCondition(std::string_view text) { FWhereClause.AddLine(AdjustCondition(text)); }
+void TQueryResult::AddCondition(std::string_view text) {
+  FWhereClause.AddLine(AdjustCondition(text));
+  FSQL.Clear();
+}
 
 void TQueryResult::AddHavingCondition(std::string_view text) {
   FHavingClause.append(" ").append(AdjustCondition(text));
+  FSQL.Clear();
 }
 
 void TQueryResult::AddTableFilterCondition(TDSTable* table, std::string_view text) {

@@ -132,7 +132,8 @@ class TQueryResult final {
   TSQLSyntax GetSQLSyntax() const { return FSQLSyntax; }
   void SetSQLSyntax(TSQLSyntax syntax);
 
-  /// The whole statement, as lines and as one text (lines joined by CR LF).
+  /// The whole statement, as lines and as one text (lines joined by CR LF), with what has been added and set since the
+  /// last `BuildQuery`: conditions, options, TOP and LIMIT.
   TStrings GetSQL();
   const std::string& GetSQLText();
   const TSQLLines& GetSQLLines();
@@ -178,6 +179,7 @@ class TQueryResult final {
   void Assemble(TSQLLines& out, const TSQLLines& where, std::string_view having);
   std::string MakeSelectClause();
   void BuildFrom();
+  void RefreshClauses();
   void BuildTableJoins(std::size_t table, std::string_view indent, std::string& out, bool addTableExpr);
   void AppendJoin(std::size_t joined, bool leftSide, std::string_view indent, std::string& out);
 
@@ -190,6 +192,8 @@ class TQueryResult final {
   std::string FSelectClause, FOrderClause, FGroupClause, FHavingClause;
   TSQLLines FFromLines, FWhereClause, FSQL;
   bool FWasSQL1Joins = false, FFromBuilt = false;
+  // The panel's revision for which the SELECT and FROM clauses and the statement were made.
+  std::uint64_t FClausesRevision = 0;
   std::vector<TQueryWarning> FWarnings;
   TJTableFilterList FTableFilters;
   friend class TJQueryPanel;

@@ -272,8 +272,9 @@ std::unique_ptr<TResultField> TRFieldList::ReadField(const TSection& section, do
 void TRFieldList::Read(TSectionedText& text, double panelVersion, const TMissingHandler& missing) {
   std::vector<std::unique_ptr<TResultField>> fields;
   bool justSorting = false;
+  std::size_t count = 0;
   if (const std::optional<TSection> list = text.First(ListSection)) {
-    const auto count = static_cast<std::size_t>(ReadInt(*list, CountKey, 0, std::numeric_limits<int>::max()));
+    count = static_cast<std::size_t>(ReadInt(*list, CountKey, 0, std::numeric_limits<int>::max()));
     const double version = ReadVersion(*list, panelVersion);
     justSorting = list->Boolean(JustSortingKey, false);
     // Not more sections are looked for than the text has.
@@ -286,6 +287,9 @@ void TRFieldList::Read(TSectionedText& text, double panelVersion, const TMissing
         missing(ListSection, Format(SDBSECantFindSection, {name}));
       }
     }
+  }
+  if (const std::string next = std::string(FieldSection) + std::to_string(count + 1); missing && text.First(next)) {
+    missing(ListSection, Format("Section %s lies beyond the count and was not read", {next}));
   }
   FJustSorting = justSorting;
   Replace(std::move(fields));

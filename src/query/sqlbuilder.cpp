@@ -20,6 +20,16 @@ constexpr bool IsNegated(TFilterLinkType linkType) { return linkType == fltNone 
 
 constexpr std::string_view Opening(TFilterLinkType linkType) { return IsNegated(linkType) ? "NOT (" : "("; }
 
+/// Whether the row is an enabled condition, or a bracket in which there is one.
+bool HoldsCondition(const TFilterRow& row) {
+  if (!row.GetEnabled() || row.GetRowType() != frtBracket) return row.GetEnabled();
+  const auto& bracket = static_cast<const TFilterBracket&>(row);
+  for (const TFilterRow& inner : bracket) {
+    if (HoldsCondition(inner)) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 /// A bracket being walked. What belongs to it is written when its first condition is, so that one without conditions
@@ -54,10 +64,7 @@ void TSQLBuilder::Build(bool filters) {
   result.FWarnings = FShapeWarnings;
   FWhere = &result.FWhereClause;
   FHaving = &result.FHavingClause;
-  if (FPanel.GetActive()) {
-    WalkRoot(false);
-    WalkRoot(true);
-  }
+  WalkTree();
   if (result.FRTables.Empty()) throw EJQueryPanelError(0, std::string(SNotEnoughInfo));
   if (!filters) FBuilt = now;
 }
@@ -65,11 +72,9 @@ void TSQLBuilder::Build(bool filters) {
 void TSQLBuilder::BuildShape() {
   TQueryResult& result = FPanel.QResult();
   ++FStamp;
-  FSubParamCount = 0;
   FShapeWarnings.clear();
   result.FRTables.Clear();
-  result.FFromBuilt = false;
-  result.FSelectClause.clear();
+  result.FClausesRevision = 0;
   result.FOrderClause.clear();
   result.FGroupClause.clear();
   FPanel.RefreshMainTable();
@@ -185,17 +190,25 @@ void TSQLBuilder::BuildResultFields() {
 
 // Conditions
 
-void TSQLBuilder::WalkRoot(bool having) {
-  FHavingPart = having;
-  Walk(FPanel.RootBracket(), nullptr);
+void TSQLBuilder::WalkTree() {
+  FSubParamCount = 0;
+  if (!FPanel.GetActive()) return;
+  const bool hasWhere = WalkRoot(false), hasHaving = WalkRoot(true);
+  if (hasWhere && hasHaving) WarnOfSplit();
+  if (hasHaving && !FFilters) WarnOfMissingGroups();
 }
 
-void TSQLBuilder::Walk(const TFilterBracket& bracket, TFrame* outer) {
+bool TSQLBuilder::WalkRoot(bool having) {
+  FHavingPart = having;
+  return Walk(FPanel.RootBracket(), nullptr);
+}
+
+bool TSQLBuilder::Walk(const TFilterBracket& bracket, TFrame* outer) {
   TFrame frame{bracket, outer};
   for (TFilterRow& row : bracket) {
     if (!row.GetEnabled()) continue;
     if (row.GetIsHavingRow() != FHavingPart) {
-      if (outer != nullptr) WarnOfLeftOut(row);
+      if (outer != nullptr && HoldsCondition(row)) WarnOfLeftOut(row);
       continue;
     }
     if (row.GetRowType() == frtBracket) {
@@ -205,15 +218,16 @@ void TSQLBuilder::Walk(const TFilterBracket& bracket, TFrame* outer) {
     }
   }
   Close(frame);
+  return frame.opened;
 }
 
 void TSQLBuilder::WriteCondition(TFilterCond& condition, TFrame& frame) {
   TQueryResult& result = FPanel.QResult();
   const std::string& text = TextOf(condition);
+  if (FFilters) WarnOfFilter(condition);
   if (FFilters && !FHavingPart) {
     const TSimpleDSTableList& tables = condition.GetTables();
     result.AddTableFilterCondition(tables.Empty() ? nullptr : &tables[0], text);
-    WarnOfFilter(condition);
     return;
   }
   const bool brackets = result.GetSQLOptions().Contains(soBracketConditions);
@@ -271,7 +285,37 @@ void TSQLBuilder::WarnOfLeftOut(const TFilterRow& row) {
                                      "move it out of the bracket"});
 }
 
+// WHERE and HAVING must both be fulfilled: that is what "all" and "none" mean, but not "any" and "not all".
+void TSQLBuilder::WarnOfSplit() {
+  const TFilterBracket& root = FPanel.RootBracket();
+  if (root.GetLinkType() != fltAny && root.GetLinkType() != fltNotAll) return;
+  FPanel.QResult().FWarnings.push_back(
+      {{},
+       Format("The root bracket \"%s\" holds for conditions on aggregates and for the others apart: both parts must "
+              "be fulfilled",
+              {root.GetBracketKind()})});
+}
+
+void TSQLBuilder::WarnOfMissingGroups() {
+  for (const TResultField& field : FPanel.RFields()) {
+    if (field.GetAgregate()) return;
+  }
+  FPanel.QResult().FWarnings.push_back({{},
+                                        "The conditions on aggregates take all rows as one group: only a column that "
+                                        "is an aggregate groups them by the other columns"});
+}
+
 void TSQLBuilder::WarnOfFilter(const TFilterCond& condition) {
+  if (FHavingPart) {
+    FPanel.QResult().FWarnings.push_back(
+        {condition.GetRowID(), "Left out: a table filter cannot hold a condition on an aggregate"});
+    return;
+  }
+  if (condition.GetTables().Count() > 1) {
+    FPanel.QResult().FWarnings.push_back(
+        {condition.GetRowID(), Format("The filter of the table \"%s\" holds a condition on other tables, too",
+                                      {condition.GetTables()[0].GetTableName()})});
+  }
   for (const TFilterBracket* at = condition.GetParentBracket(); at != nullptr; at = at->GetParentBracket()) {
     const bool meansAll = at->GetLinkType() == fltAll || (at->GetRowCount() == 1 && at->GetLinkType() == fltAny);
     if (meansAll) continue;

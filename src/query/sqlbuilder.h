@@ -50,13 +50,17 @@ class TSQLBuilder final {
   void WarnOfJoins();
 
   // Walks the tree for WHERE or HAVING and writes to FWhere and FHaving.
-  void WalkRoot(bool having);
-  void Walk(const TFilterBracket& bracket, TFrame* outer);
+  void WalkTree();
+  // Whether the bracket writes something.
+  bool WalkRoot(bool having);
+  bool Walk(const TFilterBracket& bracket, TFrame* outer);
   void WriteCondition(TFilterCond& condition, TFrame& frame);
   void Open(TFrame& frame);
   void BeginRow(TFrame& frame);
   void Close(const TFrame& frame);
   void WarnOfLeftOut(const TFilterRow& row);
+  void WarnOfSplit();
+  void WarnOfMissingGroups();
   void WarnOfFilter(const TFilterCond& condition);
 
   // One condition.

@@ -174,6 +174,10 @@ TEST_F(CommandLine, WritesTextsInTheCurrentFormat) {
   EXPECT_EQ(lost.status, 0);
   EXPECT_EQ(lost.out, ReplaceStr(late, "FieldID=41", "FieldID=4100"));
   EXPECT_EQ(lost.err, "tolvi: -:97: warning: Unrecognized field \"4100\"\n");
+  const TOutcome column = Run("explain --model MODEL --query -",
+                              "[Main]\nVersion=3.6\n[RFields]\nCount=1\n[RField1]\nFormula=@1\nFields=4100\n[Row]\n");
+  EXPECT_EQ(column.out, "Choose records where all of the following apply\nResult fields:\n  {4100}\n");
+  EXPECT_EQ(column.err, "tolvi: -:5: warning: RField1: Unrecognized field \"4100\"\n");
 }
 
 TEST_F(CommandLine, ChecksModelAndQueries) {

@@ -121,6 +121,21 @@ TEST(Model, DeletingATableTakesItsLinksAndColumnsAlong) {
   EXPECT_EQ(t.model.RootGroup().Count(), 3u);
 }
 
+TEST(Model, ExpressionsFindTablesThatComeOrAreRenamedLater) {
+  TJDBStructure model;
+  model.AddField(jfkVirtual, "Orders.Total * 2", "Twice", nullptr);
+  auto condition = std::make_unique<TDSCondition>();
+  condition->SetSQLExpr("Orders.Total > 5");
+  const TDSCondition& large = model.Conditions().Add(std::move(condition));
+  EXPECT_TRUE(model.GetField(0).Tables().Empty());
+  model.AddTable("Bills", "");
+  EXPECT_TRUE(large.Tables().Empty());
+  model.GetTable(0).SetTableAlias("Orders");
+  EXPECT_EQ(model.GetField(0).GetTable(), &model.GetTable(0));
+  EXPECT_TRUE(large.Tables().Contains(model.GetTable(0)));
+  EXPECT_EQ(model.GetField(0).GetGroupByFields(), "Orders.Total");
+}
+
 TEST(Model, FieldKindsGuardTheirExpressions) {
   TTwoTables t;
   TDSField& column = t.model.GetField(0);

@@ -198,6 +198,9 @@ TEST_F(QueryText, TellsOfRowsThatNoCountTakesIn) {
   Panel.LoadFromText("[Main]\nQueryName=Cut off");
   ASSERT_EQ(Panel.LoadWarnings().size(), 1U);
   EXPECT_EQ(Panel.LoadWarnings()[0].Text, "Can not find section Row");
+  Panel.LoadFromText("[Main]\n[RFields]\nCount=1\n[RField1]\nFormula=1\n[RField2]\nFormula=2\n[Row]\nRowCount=0\n");
+  ASSERT_EQ(Panel.LoadWarnings().size(), 1U);
+  EXPECT_EQ(Panel.LoadWarnings()[0].Text, "RFields: Section RField2 lies beyond the count and was not read");
 }
 
 TEST_F(QueryText, HoldsTitlesOnDemand) {

@@ -263,6 +263,71 @@ TEST_F(Statement, SubQueriesAreBuiltIntoTheirPlace) {
   const TBoundStatement bound = panel.GetBoundStatement();
   ASSERT_EQ(bound.Values.size(), 2u);
   EXPECT_EQ(bound.Values[0].Name, "Param2");
+  EXPECT_NE(panel.GetQueryText().find("Orders.Total >:Param2"), std::string::npos) << "numbers do not grow";
+  TFilterBracket& mixed = inner.RootBracket().AddNewBracket();
+  inner.AddSimpleCond(mixed, FieldOf(*model, "Orders.OrderNo"), OperatorOf(*model, "Equal"), "1");
+  inner.AddSimpleCond(mixed, FieldOf(*model, "Quantity sold"), OperatorOf(*model, "Equal"), "2");
+  inner.SaveToStrings(text);
+  outer.SetSubQuery(text);
+  for (int build = 0; build < 2; ++build) {
+    SQL();
+    EXPECT_EQ(Warnings(),
+              ".1 In the sub-query: Left out: a condition on an aggregate stands in a bracket of other conditions; "
+              "move it out of the bracket\n");
+  }
+}
+
+TEST_F(Statement, TellsWhereConditionsOnAggregatesChangeTheMeaning) {
+  const std::string left =
+      "Left out: a condition that is not on an aggregate stands in a bracket of conditions on "
+      "aggregates; move it out of the bracket\n";
+  const std::string noGroups =
+      " The conditions on aggregates take all rows as one group: only a column that is an "
+      "aggregate groups them by the other columns\n";
+  const std::string split =
+      "\" holds for conditions on aggregates and for the others apart: both parts must be "
+      "fulfilled\n";
+  Column("Customers.City");
+  Where("Quantity sold", "Equal", "1");
+  SQL();
+  EXPECT_EQ(Warnings(), noGroups);
+  Column("Quantity sold");
+  TSimpleCond& city = Where("Customers.City", "Equal", "Oslo");
+  for (const auto& [linkType, warning] :
+       {std::pair(fltAll, std::string()), std::pair(fltAny, " The root bracket \"any" + split),
+        std::pair(fltNone, std::string()), std::pair(fltNotAll, " The root bracket \"not all" + split)}) {
+    panel.RootBracket().SetLinkType(linkType);
+    SQL();
+    EXPECT_EQ(Warnings(), warning);
+  }
+  city.SetEnabled(false);
+  TFilterBracket& bracket = Bracket(fltAll);
+  Where("Quantity sold", "Equal", "3", {}, &bracket);
+  Bracket(fltAll, &bracket).SetEnabled(true);
+  TSimpleCond& inner = Where("Customers.City", "Equal", "Rome", {}, &Bracket(fltAll, &bracket));
+  SQL();
+  EXPECT_EQ(Warnings(), ".3.3 " + left);
+  inner.SetEnabled(false);
+  SQL();
+  EXPECT_EQ(Warnings(), "");
+  panel.BuildFilters();
+  EXPECT_EQ(Warnings(),
+            ".1 Left out: a table filter cannot hold a condition on an aggregate\n"
+            ".3.1 Left out: a table filter cannot hold a condition on an aggregate\n");
+}
+
+TEST_F(Statement, HoldsWhatWasAddedAndSetAfterTheBuild) {
+  Column("Customers.Company");
+  EXPECT_EQ(SQL(), "SELECT Customers.Company|FROM |     Customers");
+  TQueryResult& result = panel.QResult();
+  panel.SetSQLOptions({soSelectDistinct, soBracketConditions});
+  panel.SetSQLTopClause("3");
+  panel.SetSQLLimitClause("7");
+  result.AddCondition("1=1");
+  result.AddHavingCondition("2=2");
+  EXPECT_EQ(result.GetSQL().Joined("|"),
+            "SELECT DISTINCT  TOP 3 Customers.Company|FROM |     Customers|WHERE|(1=1)|HAVING  (2=2)|LIMIT 7");
+  EXPECT_EQ(SQL(), "SELECT DISTINCT  TOP 3 Customers.Company|FROM |     Customers|LIMIT 7");
 }
 
 TEST_F(Statement, PlaceholdersOfTablesAndTheHandlerHaveTheirSay) {
@@ -293,6 +358,13 @@ TEST_F(Statement, FiltersHoldTheConditionsOfEachTable) {
   EXPECT_EQ(Warnings(),
             ".4.1 A table filter cannot keep the meaning of the bracket \"any\"\n"
             ".4.2 A table filter cannot keep the meaning of the bracket \"any\"\n");
+  panel.ClearRows();
+  Where("Item price", "GreaterThan", "5");
+  panel.BuildFilters();
+  EXPECT_EQ(Warnings(), ".1 The filter of the table \"Order Details\" holds a condition on other tables, too\n");
+  panel.ClearRows();
+  Where("Orders.Total", "GreaterThan", "100");
+  Where("Customers.City", "Equal", "Oslo");
   panel.SetSQLOptions({soFilter});
   EXPECT_NE(SQL().find("Orders.Total >100"), std::string::npos) << "two tables: names stay qualified";
 }
