@@ -66,6 +66,20 @@ std::string WithWildcard(std::string_view text, char wildcard) {
 
 }  // namespace
 
+namespace {
+
+/// One value of a parameter. A format that a user gave goes before the template's, and makes the value a text.
+TBoundValue ToBoundParam(const TSQLParam& param, std::string_view value, const TValueContext& context,
+                         std::string_view before, std::string_view after) {
+  const std::string& format = param.GetValueFormat();
+  if (format.empty()) return ToBoundValue(value, param.GetParamType(), context, before, after);
+  const TBoundValue plain = ToBoundValue(value, param.GetParamType(), context);
+  if (format == "@v") return plain;
+  return ToBoundValue(ReplaceStr(format, "@v", plain.Text), ftString, context);
+}
+
+}  // namespace
+
 /// The values of a bound statement, in the order of their markers.
 class TSQLBuilder::TBindings {
  public:
@@ -74,8 +88,7 @@ class TSQLBuilder::TBindings {
   void AppendLiteral(std::string& out, TBoundValue value) {
     do {
       value.Name = "Value" + std::to_string(++FLiteralCount);
-    } while (FStyle == msColonName && Find(value.Name) != nullptr);
-    if (FStyle == msColonName) FNamed.emplace(value.Name, Values.size());
+    } while (Find(value.Name) != nullptr);
     Append(out, std::move(value));
   }
 
@@ -83,22 +96,18 @@ class TSQLBuilder::TBindings {
   void AppendParam(std::string& out, TBoundValue value) {
     value.IsParam = true;
     const TBoundValue* same = Find(value.Name);
-    if (same != nullptr && same->IsParam && same->Value != value.Value) {
-      throw EJQueryPanelError(0, "Two parameters are called \"%s\" and have different values: rename one of them",
-                              {value.Name});
-    }
-    if (same != nullptr && !same->IsParam) {
+    if (same == nullptr) return Append(out, std::move(value));
+    if (!same->IsParam) {
       throw EJQueryPanelError(0,
                               "The parameter name \"%s\" stands for a value of the statement already: choose "
                               "another name",
                               {value.Name});
     }
-    if (same != nullptr && FStyle == msColonName) {
-      out.append(":").append(value.Name);
-      return;
+    if (same->Value != value.Value) {
+      throw EJQueryPanelError(0, "Two parameters are called \"%s\" and stand for different values: rename one of them",
+                              {value.Name});
     }
-    FNamed.emplace(value.Name, Values.size());
-    Append(out, std::move(value));
+    out.append(":").append(same->Name);
   }
 
   std::vector<TBoundValue> Values;
@@ -110,6 +119,7 @@ class TSQLBuilder::TBindings {
   }
 
   void Append(std::string& out, TBoundValue value) {
+    if (FStyle == msColonName) FNamed.emplace(value.Name, Values.size());
     Values.push_back(std::move(value));
     if (FStyle == msQuestion) out += '?';
     if (FStyle == msColonName) out.append(":").append(Values.back().Name);
@@ -118,7 +128,7 @@ class TSQLBuilder::TBindings {
 
   TMarkerStyle FStyle;
   std::size_t FLiteralCount = 0;
-  // Where the first value of each name stands; literals have names only where these are markers.
+  // Where the value of each name stands, if names are the markers.
   std::unordered_map<std::string, std::size_t, TFoldedHash, TFoldedEqual> FNamed;
 };
 
@@ -300,21 +310,12 @@ void TSQLBuilder::AppendParam(std::string& out, const TFilterCond& condition, in
     FBindings->AppendParam(out, std::move(missing));
     return;
   }
-  std::string_view head = before, tail = after;
-  const std::string& format = param.GetValueFormat();
-  std::string escaped;
-  if (!format.empty()) {
-    escaped = ReplaceStr(format, "'", "''");
-    const std::size_t place = std::min(escaped.find("@v"), escaped.size());
-    head = std::string_view(escaped).substr(0, place);
-    tail = std::string_view(escaped).substr(std::min(place + 2, escaped.size()));
-  }
   std::vector<std::string> items{param.GetValue()};
   if (condition.GetValueKind(index) == vkList) items = SplitCommaText(param.GetValue());
   const std::string name = condition.GetValueName(index);
   for (std::size_t i = 0; i < items.size(); ++i) {
     if (i > 0) out += ',';
-    TBoundValue value = ToBoundValue(items[i], param.GetParamType(), ContextOf(name), head, tail);
+    TBoundValue value = ToBoundParam(param, items[i], ContextOf(name), before, after);
     value.Name = param.GetParamName();
     if (i > 0) value.Name += "_" + std::to_string(i + 1);
     FBindings->AppendParam(out, std::move(value));

@@ -117,6 +117,10 @@ class TQueryResult final {
   TJQueryPanel& GetQueryPanel() const { return FQueryPanel; }
   TRFieldList& RFields() { return FRFields; }
   const TRFieldList& RFields() const { return FRFields; }
+  /// Other names of the columns, the tables and the parameters.
+  TRFieldList& ResultFields() { return FRFields; }
+  TRTableList& ResultTables() { return FRTables; }
+  TSQLParamList& Parameters() { return FParams; }
   /// Copies the columns.
   void SetResultFields(const TRFieldList& fields) { FRFields.Assign(fields); }
   /// The captions of the columns, one a line.

@@ -230,6 +230,8 @@ TEST_F(Statement, ParametersAndBoundValuesStandForTheSameLiterals) {
   EXPECT_EQ(std::get<double>(bound.Values[2].Value), 36527);
   EXPECT_EQ(bound.Values[2].Text, "2000-01-02");
   EXPECT_EQ(std::get<std::int64_t>(bound.Values[4].Value), 4);
+  company.GetParam(1)->SetValueFormat("@v, or @v's");
+  EXPECT_EQ(std::get<std::string>(panel.GetBoundStatement().Values[0].Value), company.GetParam(1)->GetFullValue());
   qty.SetValueIsParam(1, true);
   qty.GetParam(1)->SetParamName("Sizes");
   qty.GetParam(1)->SetValue("");
@@ -237,6 +239,15 @@ TEST_F(Statement, ParametersAndBoundValuesStandForTheSameLiterals) {
   const TBoundStatement named = panel.GetBoundStatement(msColonName);
   EXPECT_NE(named.SQL.find("between :Value1 and :Value2 AND\r\nOrder_Details.Qty in (:Sizes)"), std::string::npos);
   EXPECT_TRUE(named.Values[3].IsMissing);
+  // One name for two values is wrong only where names are the markers.
+  company.GetParam(1)->SetParamName("Sizes");
+  EXPECT_EQ(panel.GetBoundStatement().Values.size(), 5u);
+  EXPECT_EQ(ErrorOf([&] { panel.GetBoundStatement(msColonName); }),
+            "Two parameters are called \"Sizes\" and stand for different values: rename one of them");
+  company.GetParam(1)->SetParamName("Value1");
+  qty.SetValueIsParam(1, false);
+  qty.SetValue(1, "5");
+  EXPECT_EQ(panel.GetBoundStatement(msColonName).Values[1].Name, "Value2");
 }
 
 TEST_F(Statement, SubQueriesAreBuiltIntoTheirPlace) {
