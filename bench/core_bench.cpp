@@ -6,6 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/parser_bench.h"
 #include "bench/ratios.h"
 #include "support/models.h"
 #include <tolvi/foundation/files.h>
@@ -346,4 +347,9 @@ constexpr TRatio Ratios[] = {
 }  // namespace
 }  // namespace tolvi::bench
 
-int main(int argc, char** argv) { return tolvi::bench::RunAndCompare(argc, argv, tolvi::bench::Ratios); }
+int main(int argc, char** argv) {
+  using namespace tolvi::bench;
+  std::vector<TRatio> ratios(std::begin(Ratios), std::end(Ratios));
+  ratios.insert(ratios.end(), ParserRatios().begin(), ParserRatios().end());
+  return RunAndCompare(argc, argv, ratios);
+}

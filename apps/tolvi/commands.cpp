@@ -20,8 +20,8 @@ struct THandler {
   int (*run)(TSession& session);
 };
 constexpr THandler Handlers[] = {
-    {"sql", RunSql},     {"filters", RunFilters}, {"path", RunPath},   {"model", RunModel},
-    {"query", RunQuery}, {"explain", RunExplain}, {"check", RunCheck}, {"run", RunRun},
+    {"sql", RunSql},         {"filters", RunFilters}, {"path", RunPath}, {"model", RunModel}, {"query", RunQuery},
+    {"explain", RunExplain}, {"check", RunCheck},     {"run", RunRun},   {"parse", RunParse},
 };
 
 int RunCommand(const TArguments& arguments, TStreams& streams) {

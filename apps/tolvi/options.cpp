@@ -12,6 +12,7 @@ namespace {
 constexpr TOptionInfo OptionTable[] = {
     {"model", "FILE", "the data model", "", false},
     {"query", "FILE", "the query", "", false},
+    {"sql", "FILE", "the SELECT statement", "", false},
     {"db", "FILE", "the SQLite database; it is only read", "", false},
     {"syntax", "SYNTAX", "how the statement is written: sql1, sql2 (default), oracle, access or nexusdb",
      "sql1|sql2|oracle|access|nexusdb", false},
@@ -77,6 +78,12 @@ constexpr TCommandInfo CommandTable[] = {
   tolvi run --model shop.model --query late.qry --db shop.sqlite --format json
       prints an array of objects, one in a line; NULL is null, bytes are written as hexadecimal digits.
 )help"},
+    {"parse", "", "print what is understood of an SQL statement", 0, 0, false, "sql", "",
+     R"help(  tolvi parse --sql late.sql
+      prints a JSON object: the fields of the select list with their sorting, the tables, and the conditions as a tree.
+      Join conditions, GROUP BY and what follows the last clause are not in it. If the statement is wrong, the message
+      and the line stand on standard error, and the exit status is 1.
+)help"},
 };
 
 bool IsListed(std::string_view names, std::string_view name) {
@@ -128,7 +135,8 @@ void CheckWhole(const TArguments& arguments) {
   if (arguments.Operands.size() > command.MaxOperands) {
     throw EUsageError(name + " takes no \"" + arguments.Operands[command.MaxOperands] + "\"");
   }
-  auto stdinCount = (arguments.Value("model") == "-" ? 1 : 0) + (arguments.Value("query") == "-" ? 1 : 0);
+  auto stdinCount = 0;
+  for (const std::string_view file : {"model", "query", "sql"}) stdinCount += arguments.Value(file) == "-" ? 1 : 0;
   if (command.OperandsAreFiles) {
     stdinCount += static_cast<int>(std::count(arguments.Operands.begin(), arguments.Operands.end(), "-"));
   }

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <unordered_set>
 
+#include <tolvi/foundation/json.h>
 #include <tolvi/foundation/text.h>
 
 namespace tolvi {
@@ -180,23 +181,6 @@ class TCsvWriter final : public TRowWriter {
   std::string FLine;
   bool FFirst = true;
 };
-
-void AppendJsonString(std::string& out, std::string_view text) {
-  out += '"';
-  while (!text.empty()) {
-    const TCharacter character = CutCharacter(text);
-    if (character.code == '"' || character.code == '\\') {
-      out.append("\\").append(character.bytes);
-    } else if (character.code == '\n') {
-      out += "\\n";
-    } else if (character.code < 0x20 || character.code == 0x7F) {
-      out.append("\\u00").append(HexDigits(character.bytes));
-    } else {
-      out += character.valid ? character.bytes : "\xEF\xBF\xBD";
-    }
-  }
-  out += '"';
-}
 
 class TJsonWriter final : public TRowWriter {
  public:

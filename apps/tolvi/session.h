@@ -49,5 +49,6 @@ int RunQuery(TSession& session);
 int RunExplain(TSession& session);
 int RunCheck(TSession& session);
 int RunRun(TSession& session);
+int RunParse(TSession& session);
 
 }  // namespace tolvi

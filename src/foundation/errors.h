@@ -83,10 +83,16 @@ class EJQueryBaseError : public EJTarvelonError {
   using EJTarvelonError::EJTarvelonError;
 };
 
-/// Raised by the SQL parser.
+/// Raised by the SQL parser. The message ends with a line break, CR LF, and "Line:" with the number of the line.
 class ESQLParserError : public EException {
  public:
-  using EException::EException;
+  ESQLParserError(std::string_view message, std::int32_t line);
+
+  /// Counted from 1.
+  std::int32_t Line() const noexcept { return FLine; }
+
+ private:
+  std::int32_t FLine;
 };
 
 /// Raised by the result fields panel.

@@ -218,6 +218,38 @@ TEST_F(CommandLine, RunsWithParametersGivenOrAsked) {
       "Param2 (Order date is between <Param2> and <Param3>): Param3 (Order date is between <Param2> and <Param3>): ");
 }
 
+TEST_F(CommandLine, ParsesStatementsIntoJson) {
+  const std::string statement = "select Company\r\nfrom Customers c\r\nwhere City = \"Oslo\"\r\norder by 1 desc;\r\n";
+  const std::string expected = R"({
+  "distinct": false,
+  "allFields": false,
+  "justSorting": false,
+  "fields": [
+    {"expr": "Company", "alias": "", "caption": "Company", "sorting": 2, "sortOrder": 1}
+  ],
+  "tables": [
+    {"name": "Customers", "alias": "c"}
+  ],
+  "where": {"kind": "bracket", "op": "", "negative": false, "nodes": [
+    {"kind": "condition", "left": "City", "op": "=", "right": "'Oslo'", "negative": false, "subQuery": false}
+  ]}
+}
+)";
+  EXPECT_EQ(Run("parse --sql " + Write("good.sql", statement)).out, expected);
+  EXPECT_EQ(Run("parse --sql -", "\xEF\xBB\xBF" + ReplaceStr(statement, "\r\n", "\n")).out, expected);
+  const std::pair<std::string_view, std::string_view> faults[] = {
+      {"select Company\r\nfrom Customers\r\nwhere (City = 'Oslo'\r\n", "Lost bracket\nLine:3\n"},
+      {"delete from Customers", "Wrong SQL statement\nLine:1\n"},
+      {"select a from b\norder by 1, 2", "List index out of bounds (1)\nLine:2\n"},
+      {"select '\xFF' from b", "tolvi: -: the text is no UTF-8\n"},
+  };
+  for (const auto& [wrong, message] : faults) {
+    const TOutcome outcome = Run("parse --sql -", wrong);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out + outcome.err, message);
+  }
+}
+
 TEST_F(CommandLine, TellsThatTheOutputCannotBeWritten) {
   const std::vector<std::string> arguments{"--help"};
   std::istringstream in;

@@ -1,0 +1,4 @@
+select Company from Customers
+where (City = 'Linz'
+  or City = 'Lyon'
+order by 1

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tolvi {
+
+/// Appends a text as a JSON string, its quotes included. A byte that is no UTF-8 becomes U+FFFD.
+void AppendJsonString(std::string& out, std::string_view text);
+
+}  // namespace tolvi
