@@ -21,7 +21,7 @@ struct THandler {
 };
 constexpr THandler Handlers[] = {
     {"sql", RunSql},         {"filters", RunFilters}, {"path", RunPath}, {"model", RunModel}, {"query", RunQuery},
-    {"explain", RunExplain}, {"check", RunCheck},     {"run", RunRun},   {"parse", RunParse},
+    {"explain", RunExplain}, {"check", RunCheck},     {"run", RunRun},   {"parse", RunParse}, {"import", RunImport},
 };
 
 int RunCommand(const TArguments& arguments, TStreams& streams) {

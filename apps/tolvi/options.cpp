@@ -22,6 +22,7 @@ constexpr TOptionInfo OptionTable[] = {
      false},
     {"param", "NAME=VALUE", "the value of a parameter; may be repeated", "", true},
     {"format", "FORMAT", "table (default), csv or json", "table|csv|json", false},
+    {"strict", "", "exit status 1 if there is any warning", "", false},
 };
 
 constexpr TCommandInfo CommandTable[] = {
@@ -83,6 +84,12 @@ constexpr TCommandInfo CommandTable[] = {
       prints a JSON object: the fields of the select list with their sorting, the tables, and the conditions as a tree.
       Join conditions, GROUP BY and what follows the last clause are not in it. If the statement is wrong, the message
       and the line stand on standard error, and the exit status is 1.
+)help"},
+    {"import", "", "print the query that an SQL statement stands for", 0, 0, false, "model sql", "strict",
+     R"help(  tolvi import --model shop.model --sql late.sql >late.qry
+      makes a query of the statement. What it cannot keep is told on standard error as FILE:LINE: warning: ...
+  tolvi import --model shop.model --sql late.sql --strict >late.qry
+      does the same; any warning makes the exit status 1.
 )help"},
 };
 
@@ -219,11 +226,13 @@ TArguments ParseArguments(std::span<const std::string> arguments) {
       if (!argument.starts_with("--")) throw EUsageError("options begin with \"--\", not " + std::string(argument));
       const auto [name, value] = GetNameAndValueSep(argument.substr(2), "=");
       const TOptionInfo& option = FindOption(*result.Command, name);
+      const bool isFlag = option.Argument.empty();
       const bool hasValue = argument.find('=') != std::string_view::npos;
-      if (!hasValue && at + 1 == arguments.size()) {
+      if (isFlag && hasValue) throw EUsageError("--" + std::string(name) + " takes no argument");
+      if (!isFlag && !hasValue && at + 1 == arguments.size()) {
         throw EUsageError("--" + std::string(name) + " needs " + std::string(option.Argument));
       }
-      const std::string_view given = hasValue ? value : std::string_view(arguments[++at]);
+      const std::string_view given = hasValue || isFlag ? value : std::string_view(arguments[++at]);
       if (result.Has(name) && !option.Repeatable) throw EUsageError("--" + std::string(name) + " is given twice");
       CheckChoice(option, given);
       result.Add(name, given);
@@ -253,7 +262,7 @@ std::string HelpText() {
 
 std::string HelpText(const TCommandInfo& command) {
   const auto spelled = [](const TOptionInfo& option) {
-    return "--" + std::string(option.Name) + " " + std::string(option.Argument);
+    return "--" + std::string(option.Name) + (option.Argument.empty() ? "" : " ") + std::string(option.Argument);
   };
   std::string usage = "usage: tolvi " + std::string(command.Name), list;
   for (const TOptionInfo& option : OptionTable) {

@@ -16,8 +16,9 @@ class EUsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// An option of the command line; all options take an argument.
+/// An option of the command line.
 struct TOptionInfo {
+  /// `Argument` is empty for an option without one.
   std::string_view Name, Argument, Help;
   /// The arguments that are allowed, separated by "|"; empty for any.
   std::string_view Choices;

@@ -50,5 +50,6 @@ int RunExplain(TSession& session);
 int RunCheck(TSession& session);
 int RunRun(TSession& session);
 int RunParse(TSession& session);
+int RunImport(TSession& session);
 
 }  // namespace tolvi

@@ -15,10 +15,13 @@
 #include <tolvi/query/panelview.h>
 #include <tolvi/query/queryresult.h>
 #include <tolvi/query/rows.h>
+#include <tolvi/query/sqlmapping.h>
 #include <tolvi/query/titles.h>
+#include <tolvi/sqlimport/sqlresult.h>
 
 namespace tolvi {
 
+class TJSQLParser;
 class TSQLBuilder;
 
 /// A query in the words of a data model: conditions in a tree of brackets, result columns, name and description; and
@@ -39,6 +42,7 @@ class TJQueryPanel : public TComponent, private TDSListener {
   using TPanelEvent = std::function<void(TJQueryPanel&)>;
   /// May change the SQL of a condition.
   using TBuildSQLEvent = std::function<void(TFilterCond&, std::string& sqlExpr)>;
+  using TImportWarningEvent = std::function<void(TJQueryPanel&, const TImportWarning&)>;
 
   TJQueryPanel();
   ~TJQueryPanel() override;
@@ -154,6 +158,30 @@ class TJQueryPanel : public TComponent, private TDSListener {
   bool GetModified() const { return FModified; }
   void SetModified(bool modified) { FModified = modified; }
 
+  // The query from SQL
+
+  /// Replaces the query by what a SELECT statement says, as nearly as the model can say it; `ImportWarnings` lists what
+  /// was dropped, guessed or replaced. The panel stays active or inactive.
+  ///
+  /// Raises `EJQueryPanelError` without a model, before anything changes; `ESQLParserError` and `EListError` for a
+  /// wrong statement, `EConvertError` for a wrong time: the query is then empty and the panel inactive.
+  void ParseSQL(const TStrings& sql, const TSQLImportOptions& options = {});
+  void ParseSQL(std::string_view sql, const TSQLImportOptions& options = {});
+  /// Those of the last import, in the order of the statement's lines.
+  const std::vector<TImportWarning>& ImportWarnings() const { return FImportWarnings; }
+  /// The steps of which an import consists. Sets the link type of a bracket and adds its rows; columns without a table
+  /// are those of the first one.
+  void ProcessSQLBracket(TFilterBracket& filterBracket, const TSQLBracket& sqlBracket, const TSQLTableList& tables);
+  /// The first predefined condition of the same SQL, ignoring case and white space; null when there is none.
+  TDSCondition* FindCustomCondition(const TSQLCondition& condition);
+  /// The first operator whose template fits, with its values; those of a list go to `values`, too. For a "like" that
+  /// none fits, "contains" or else "startswith". Null when there is none.
+  TDSOperator* OperatorBySQLCond(const TSQLCondition& condition, std::string& value1, std::string& value2,
+                                 TStrings& values);
+  /// The text of a date or time as conditions keep it. What is no date is today; what is no time raises
+  /// `EConvertError`.
+  std::string ProcessSQLDateValue(TFieldType fieldType, std::string_view text) const;
+
   // Titles
 
   TTitles& Titles() { return FTitles; }
@@ -173,6 +201,8 @@ class TJQueryPanel : public TComponent, private TDSListener {
   TPanelEvent OnActiveChange;
   TPanelEvent OnCurrentRowChange;
   TBuildSQLEvent OnBuildSQL;
+  /// After an import, for each of its warnings.
+  TImportWarningEvent OnImportWarning;
 
  protected:
   void DefineProperties(TPropertyFiler& filer) override;
@@ -185,6 +215,7 @@ class TJQueryPanel : public TComponent, private TDSListener {
   friend class TSimpleCond;
   friend class TCustomCond;
   friend class TSQLBuilder;
+  friend class TSQLMapper;
   friend class TQueryResult;
   friend class TQueryReader;
   friend class TSQLParam;
@@ -236,6 +267,10 @@ class TJQueryPanel : public TComponent, private TDSListener {
   void PartGoes(const void* part);
   struct TQueryParts;
   void ExchangeParts(TQueryParts& parts);
+  // `level` counts the statements round a sub-query.
+  void ImportSQL(std::string_view sql, const TSQLImportOptions& options, int level);
+  void MapSQL(TJSQLParser& parser, const TSQLImportOptions& options, int level);
+  void TellImport();
 
   TRef<TJCustomDBStructure> FDBStruct;
   TQueryPanelView* FView = nullptr;
@@ -250,6 +285,7 @@ class TJQueryPanel : public TComponent, private TDSListener {
   std::string FQueryName, FSQLTopClause, FSQLLimitClause;
   TStrings FDescription, FUserData, FStoredRFields;
   std::vector<TQueryWarning> FLoadWarnings;
+  std::vector<TImportWarning> FImportWarnings;
   bool FActive = false, FModified = false, FSaveSQLOptions = true, FSaveTitles = false, FStoredActive = false;
   // Whether the rows' numbers are up to date.
   mutable bool FNumbered = false;

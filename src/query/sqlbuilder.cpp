@@ -43,6 +43,12 @@ struct TSQLBuilder::TFrame {
 
 void TSQLBuilder::BuildQuery() { Build(false); }
 
+void TSQLBuilder::BuildOutline() {
+  FFilters = false;
+  FBuilt = {};
+  BuildShape();
+}
+
 void TSQLBuilder::BuildFilters() {
   FPanel.QResult().FTableFilters.Clear();
   Build(true);

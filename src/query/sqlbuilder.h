@@ -23,6 +23,8 @@ class TSQLBuilder final {
   TSQLBuilder& operator=(const TSQLBuilder&) = delete;
 
   void BuildQuery();
+  /// Tables, columns and sorting alone, without conditions. Errors as those of `BuildQuery` about tables.
+  void BuildOutline();
   void BuildFilters();
   TBoundStatement BuildBound(TMarkerStyle style);
   std::string ExtractValue(const TFilterCond& condition, int index) const;

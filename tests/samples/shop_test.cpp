@@ -1,13 +1,12 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
+#include "shop_database.h"
 #include <tolvi/foundation/files.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/querpnl.h>
@@ -19,7 +18,6 @@ namespace tolvi {
 namespace {
 
 namespace fs = std::filesystem;
-using TRows = std::vector<std::string>;
 
 const fs::path Shop = fs::path(TOLVI_SOURCE_DIR) / "samples/shop";
 const fs::path References = fs::path(TOLVI_SOURCE_DIR) / "tests/samples/reference";
@@ -41,73 +39,14 @@ struct TReference {
   std::map<std::string, std::string> Params;
 };
 
-class TShop {
- public:
-  TShop() {
-    sqlite3* database = nullptr;
-    if (sqlite3_open_v2(TOLVI_SHOP_DATABASE, &database, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
-      throw EException(sqlite3_errmsg(database));
+TRows ReferenceRows(TShop& shop, const TReference& reference) {
+  return shop.Rows(reference.SQL, [&reference](sqlite3_stmt* statement) {
+    for (const auto& [name, value] : reference.Params) {
+      const int index = sqlite3_bind_parameter_index(statement, (":" + name).c_str());
+      sqlite3_bind_text(statement, index, value.c_str(), -1, SQLITE_TRANSIENT);
     }
-    FDatabase.reset(database);
-  }
-
-  /// The rows as text; `bind` binds the values of the statement.
-  template <typename TBind>
-  TRows Rows(const std::string& sql, TBind bind) {
-    sqlite3_stmt* raw = nullptr;
-    if (sqlite3_prepare_v2(FDatabase.get(), sql.c_str(), -1, &raw, nullptr) != SQLITE_OK) {
-      throw EException(std::string(sqlite3_errmsg(FDatabase.get())) + " in " + sql);
-    }
-    const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> statement(raw, &sqlite3_finalize);
-    bind(raw);
-    TRows rows;
-    int state = 0;
-    while ((state = sqlite3_step(raw)) == SQLITE_ROW) {
-      std::string row;
-      for (int i = 0; i < sqlite3_column_count(raw); ++i) {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(raw, i));
-        row.append(text != nullptr ? text : "<null>").append("|");
-      }
-      rows.push_back(std::move(row));
-    }
-    if (state != SQLITE_DONE) throw EException(std::string(sqlite3_errmsg(FDatabase.get())) + " in " + sql);
-    return rows;
-  }
-
-  TRows ReferenceRows(const TReference& reference) {
-    return Rows(reference.SQL, [&reference](sqlite3_stmt* statement) {
-      for (const auto& [name, value] : reference.Params) {
-        const int index = sqlite3_bind_parameter_index(statement, (":" + name).c_str());
-        sqlite3_bind_text(statement, index, value.c_str(), -1, SQLITE_TRANSIENT);
-      }
-    });
-  }
-
-  TRows BoundRows(const TBoundStatement& bound) {
-    return Rows(bound.SQL, [&bound](sqlite3_stmt* statement) {
-      int index = 0;
-      for (const TBoundValue& value : bound.Values) {
-        ++index;
-        const bool isNumber = TryStrToInt(value.Text) && value.Type == ftBoolean;
-        if (const auto* number = std::get_if<std::int64_t>(&value.Value)) {
-          sqlite3_bind_int64(statement, index, *number);
-        } else if (isNumber) {
-          sqlite3_bind_int64(statement, index, *TryStrToInt(value.Text));
-        } else if (const auto* real = std::get_if<double>(&value.Value);
-                   real != nullptr && !DateFieldTypes.Contains(value.Type)) {
-          sqlite3_bind_double(statement, index, *real);
-        } else if (FloatFieldTypes.Contains(value.Type)) {
-          sqlite3_bind_double(statement, index, StrToFloat(value.Text));
-        } else {
-          sqlite3_bind_text(statement, index, value.Text.c_str(), -1, SQLITE_TRANSIENT);
-        }
-      }
-    });
-  }
-
- private:
-  std::unique_ptr<sqlite3, decltype(&sqlite3_close)> FDatabase{nullptr, &sqlite3_close};
-};
+  });
+}
 
 class ShopQuery : public testing::TestWithParam<std::string> {};
 
@@ -128,7 +67,7 @@ TEST_P(ShopQuery, GivesTheRowsOfItsReference) {
   }
 
   TShop shop;
-  TRows expected = shop.ReferenceRows(reference);
+  TRows expected = ReferenceRows(shop, reference);
   EXPECT_FALSE(expected.empty());
   if (reference.Unordered) std::sort(expected.begin(), expected.end());
   const auto check = [&](TRows rows, const char* what) {
@@ -136,7 +75,7 @@ TEST_P(ShopQuery, GivesTheRowsOfItsReference) {
     EXPECT_EQ(rows, expected) << what << "\n" << panel.GetQueryText();
   };
   check(shop.BoundRows(panel.GetBoundStatement()), "bound");
-  if (reference.Params.empty()) check(shop.Rows(panel.GetQueryText(), [](sqlite3_stmt*) {}), "literal");
+  if (reference.Params.empty()) check(shop.Rows(panel.GetQueryText()), "literal");
   EXPECT_TRUE(panel.QResult().Warnings().empty());
   if (reference.JoinStyleOnly) return;
   panel.SetSQLSyntax(ssSQL1);

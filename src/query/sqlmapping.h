@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+namespace tolvi {
+
+/// Something of an SQL statement that an import dropped, guessed or replaced.
+struct TImportWarning {
+  /// Counted from 1; 0 where it is not known.
+  int Line = 0;
+  /// The piece of the statement.
+  std::string Text;
+  /// What was done with it.
+  std::string Action;
+
+  /// Both as one line for people, a long text shortened: "limit 10": left out.
+  [[nodiscard]] std::string Message() const;
+};
+
+/// How a statement is imported.
+struct TSQLImportOptions {
+  /// The number of the statement's first line, for statements that are part of a longer text.
+  int FirstLine = 1;
+};
+
+}  // namespace tolvi
