@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <deque>
 #include <limits>
 #include <memory>
 #include <unordered_map>
@@ -377,6 +378,9 @@ class TModelTextReader {
     // Taken out from the end, the fields are placed anew without a search each.
     TDSFieldGroup& root = FModel.RootGroup();
     while (!root.Empty()) root.Delete(root.Count() - 1);
+    for (TDSField& field : FModel.Fields()) {
+      if (FModel.FieldByID(field.GetID()) != &field) FTwins[field.GetID()].push_back(&field);
+    }
     ReadCounted(GroupPrefix, GroupCountKey, [this](const TSection& section) {
       PlaceFields(section, FModel.FieldGroups().AddGroup(section.Value(GroupNameKey)));
     });
@@ -386,15 +390,26 @@ class TModelTextReader {
     }
   }
 
-  /// A field that is listed more than once stays where it is listed first.
-  void PlaceFields(const TSection& section, TDSFieldGroup& group) const {
+  /// A field that is listed more than once stays where it is listed first; an ID that several fields have is listed
+  /// once for each.
+  void PlaceFields(const TSection& section, TDSFieldGroup& group) {
     for (const std::string& item : SplitCommaText(section.Value(FieldsKey))) {
       const std::optional<std::int64_t> id = TryStrToInt(item);
       TDSField* field =
           id && *id == static_cast<std::int32_t>(*id) ? FModel.FieldByID(static_cast<std::int32_t>(*id)) : nullptr;
       if (field == nullptr) RaiseWrongValue(section, FieldsKey, item, "field ID of this model");
-      if (field->GetGroup() == nullptr) group.Add(*field);
+      if (field->GetGroup() != nullptr) field = NextTwin(field->GetID());
+      if (field != nullptr) group.Add(*field);
     }
+  }
+
+  /// The next field of an ID that an earlier field has; null when all are placed.
+  TDSField* NextTwin(std::int32_t id) {
+    const auto twins = FTwins.find(id);
+    if (twins == FTwins.end() || twins->second.empty()) return nullptr;
+    TDSField* field = twins->second.front();
+    twins->second.pop_front();
+    return field;
   }
 
   void ReadConditions() {
@@ -415,6 +430,7 @@ class TModelTextReader {
   const double FVersion;
   std::vector<TFoundLink> FLinks;
   std::unordered_map<std::string, std::vector<TDSOperator*>> FOperatorLists;
+  std::unordered_map<std::int32_t, std::deque<TDSField*>> FTwins;
 };
 
 }  // namespace

@@ -192,7 +192,7 @@ void TSimpleCond::Resolve() {
   TJCustomDBStructure& model = *GetQueryPanel().GetDBStruct();
   if (FField == &model.GetNullField()) {
     TDSField* field =
-        FMissingFieldName.empty() ? model.FieldByID(FMissingFieldID) : FindStoredField(model, FMissingFieldName);
+        FMissingFieldName.empty() ? model.FieldByID(FMissingFieldID) : FindNamedField(model, FMissingFieldName);
     if (field != nullptr) {
       FField = field;
       FMissingFieldID = 0;

@@ -208,7 +208,7 @@ class TQueryReader {
   void ReadField(const TSection& section, TSimpleCond& condition) {
     const std::int32_t id = FVersion >= FieldIDsSince ? ReadInt32(section, FieldIDKey, 0) : 0;
     const std::string name = id == 0 ? section.Value(OldFieldNameKey) : std::string();
-    if (TDSField* field = name.empty() ? FModel.FieldByID(id) : FindStoredField(FModel, name, FVersion)) {
+    if (TDSField* field = name.empty() ? FModel.FieldByID(id) : FindNamedField(FModel, name, FVersion)) {
       condition.FField = field;
       return;
     }

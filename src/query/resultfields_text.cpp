@@ -95,8 +95,13 @@ TDSField* FindStoredField(const TJCustomDBStructure& model, std::string_view tex
       return fits ? model.FieldByID(static_cast<std::int32_t>(*id)) : nullptr;
     }
   }
-  TDSField* field = version >= FullNamesSince ? model.FieldByName(fnFullName, text) : nullptr;
-  return field != nullptr ? field : model.FieldByName(fnFieldExpr, text);
+  return FindNamedField(model, text, version);
+}
+
+TDSField* FindNamedField(const TJCustomDBStructure& model, std::string_view name, double version) {
+  const bool fullFirst = version >= FullNamesSince;
+  TDSField* field = model.FieldByName(fullFirst ? fnFullName : fnFieldExpr, name);
+  return field != nullptr ? field : model.FieldByName(fullFirst ? fnFieldExpr : fnFullName, name);
 }
 
 // Expressions
@@ -254,13 +259,14 @@ std::unique_ptr<TResultField> TRFieldList::ReadField(const TSection& section, do
                                                      const TMissingHandler& missing) const {
   std::unique_ptr<TResultField> field = CreateRField();
   field->FFormula = section.Value(FormulaKey);
-  const std::string_view fields = section.Find(FieldsKey).value_or(std::string_view());
+  const std::string fields = section.Value(FieldsKey);
   for (std::string& text : version >= FieldIDsSince ? SplitCommaText(fields) : SplitNames(fields)) {
     TDSField* found = FDBStruct != nullptr ? FindStoredField(*FDBStruct, text, version) : nullptr;
     if (found == nullptr && missing) missing(section.Name(), Format(SUnrecognizedFieldName, {text}));
-    // The list puts its placeholder in the place of an unknown field.
+    // The list puts its placeholder in the place of an unknown field. An old name that is a number would be an ID.
     field->FDSFields.push_back(found);
-    field->FMissing.push_back(found != nullptr ? std::string() : text.empty() ? "0" : std::move(text));
+    const bool noName = text.empty() || (version < FieldIDsSince && TryStrToInt(text));
+    field->FMissing.push_back(found != nullptr ? std::string() : noName ? "0" : std::move(text));
   }
   field->FAlias = section.Value(version >= AliasesSince ? AliasKey : OldAliasKey);
   field->FCaption = section.Value(CaptionKey);

@@ -26,10 +26,13 @@ void ForEachPlaceholder(std::string_view formula, std::size_t count, TLiteral li
   if (done < formula.size()) literal(formula.substr(done));
 }
 
-/// The field that a query text of that version means: by its ID since version 2.0, by column name before 1.4, by full
-/// name, else column name, in between; newer texts so name a field that an old text named and the model lacked.
-/// Null when the model lacks it.
+/// The field that a query text of that version means: by its ID since version 2.0, by its name before; newer texts name
+/// a field that an old text named and the model lacked. Null when the model lacks it.
 TDSField* FindStoredField(const TJCustomDBStructure& model, std::string_view text,
                           double version = CurrentQueryVersion);
+
+/// The same for a text that is never an ID: the full name, else the column name; before 1.4 the column name first. What
+/// one version does not find, none does: otherwise a query that is written anew would turn into another one.
+TDSField* FindNamedField(const TJCustomDBStructure& model, std::string_view name, double version = CurrentQueryVersion);
 
 }  // namespace tolvi

@@ -277,7 +277,8 @@ TEST_F(TResultFields, OldVersionsNameTheirFields) {
     list.SaveToStrings(lines);
     return lines.Value("Fields") + " " + list[0].GetAlias();
   };
-  EXPECT_EQ(read("Version=1.3\n", "Orders.CustNo"), "Orders.CustNo old") << "by column only, kept as it stands";
+  EXPECT_EQ(read("Version=1.3\n", "Orders.CustNo"), "7 old") << "by column, else by full name";
+  EXPECT_EQ(read("Version=1.3\n", "Orders.None"), "Orders.None old") << "kept as it stands";
   EXPECT_EQ(read("Version=1.3\n", "CustNo"), "1 old");
   EXPECT_EQ(read("Version=1.4\n", "Orders.CustNo"), "7 new");
   EXPECT_EQ(read("", "Order Details.PartNo,\"Price\""), "13,18 new");
