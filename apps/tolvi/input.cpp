@@ -8,7 +8,7 @@
 namespace tolvi {
 namespace {
 
-constexpr std::string_view StandardInput = "-", Utf8Mark = "\xEF\xBB\xBF", LinePrefix = "Line ";
+constexpr std::string_view StandardInput = "-", LinePrefix = "Line ";
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -42,7 +42,7 @@ TSource ReadSource(const std::string& name, std::istream& in) {
   if (name == StandardInput) {
     source.Text.assign(std::istreambuf_iterator<char>(in), {});
     if (in.bad()) throw EInputError("standard input cannot be read");
-    if (source.Text.starts_with(Utf8Mark)) source.Text.erase(0, Utf8Mark.size());
+    if (source.Text.starts_with(ByteOrderMark)) source.Text.erase(0, ByteOrderMark.size());
   } else {
     try {
       source.Text = ReadFile(name);

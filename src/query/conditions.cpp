@@ -78,13 +78,8 @@ void TFilterCond::ClearValues() {
   FSubQueryOptions = {};
 }
 
-// A value changes the text of this condition only, so that the rest of the statement can be kept; a sub-query may
-// renumber the parameters of others.
+// A value changes the text of this condition only, so that the rest of the statement can be kept.
 void TFilterCond::ValueChanged() {
-  if (!FSubQuery.Empty()) {
-    Changed();
-    return;
-  }
   FTextStamp = 0;
   if (!IsPlaced()) return;
   if (TQueryPanelView* view = GetQueryPanel().Viewer()) view->RowChanged(*this);

@@ -64,10 +64,6 @@ std::string WithWildcard(std::string_view text, char wildcard) {
   return result;
 }
 
-}  // namespace
-
-namespace {
-
 /// One value of a parameter. A format that a user gave goes before the template's, and makes the value a text.
 TBoundValue ToBoundParam(const TSQLParam& param, std::string_view value, const TValueContext& context,
                          std::string_view before, std::string_view after) {

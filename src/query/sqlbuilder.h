@@ -51,9 +51,8 @@ class TSQLBuilder final {
   void BuildResultFields();
   void WarnOfJoins();
 
-  // Walks the tree for WHERE or HAVING and writes to FWhere and FHaving.
+  // Writes the conditions to FWhere and FHaving. The walks for one of both tell whether they wrote something.
   void WalkTree();
-  // Whether the bracket writes something.
   bool WalkRoot(bool having);
   bool Walk(const TFilterBracket& bracket, TFrame* outer);
   void WriteCondition(TFilterCond& condition, TFrame& frame);
