@@ -95,6 +95,22 @@ class ESQLParserError : public EException {
   std::int32_t FLine;
 };
 
+/// Raised when a SELECT statement cannot be made a query. The message begins with the place: "Line 3, column 7: ...".
+class ESQLImportError : public EException {
+ public:
+  ESQLImportError(std::int32_t line, std::int32_t column, std::string_view reason);
+
+  /// Counted from 1, the column in bytes.
+  std::int32_t Line() const noexcept { return FLine; }
+  std::int32_t Column() const noexcept { return FColumn; }
+  /// The message without the place.
+  const std::string& Reason() const noexcept { return FReason; }
+
+ private:
+  std::int32_t FLine, FColumn;
+  std::string FReason;
+};
+
 /// Raised by the result fields panel.
 class ERFPanelError : public EException {
  public:
