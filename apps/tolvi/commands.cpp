@@ -170,6 +170,7 @@ int RunCheck(TSession& session) {
   if (!checked(session.ModelSource, [&] { session.Model.SetStructString(session.ModelSource.Text); })) return status;
   PrintFindings(session, session.ModelSource, CheckModel(session.Model), status);
   session.Panel.SetDBStruct(&session.Model);
+  session.Panel.SetAllowSQLFragments(session.Arguments.Has("fragments"));
   for (const std::string& file : session.Arguments.Operands) {
     try {
       session.QuerySource = ReadSource(file, session.Streams.In);

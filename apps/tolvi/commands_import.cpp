@@ -5,13 +5,32 @@
 
 namespace tolvi {
 
+namespace {
+
+TSQLImportOptions OptionsOf(const TArguments& arguments) {
+  TSQLImportOptions options;
+  options.Faithful = arguments.Has("faithful");
+  options.Approximate = arguments.Has("approximate");
+  for (const std::string_view name : {"no-fragments", "approximate"}) {
+    if (arguments.Has(name) && !options.Faithful) throw EUsageError("--" + std::string(name) + " needs --faithful");
+  }
+  return options;
+}
+
+}  // namespace
+
 int RunImport(TSession& session) {
+  const TSQLImportOptions options = OptionsOf(session.Arguments);
   session.LoadModel();
+  session.Panel.SetAllowSQLFragments(options.Faithful && !session.Arguments.Has("no-fragments"));
   session.QuerySource = ReadSource(std::string(session.Arguments.Value("sql")), session.Streams.In);
   const TSource& source = session.QuerySource;
-  Reading(source, [&session, &source] {
+  Reading(source, [&session, &source, &options] {
     try {
-      session.Panel.ParseSQL(source.Text);
+      session.Panel.ParseSQL(source.Text, options);
+    } catch (const ESQLImportError& error) {
+      throw EInputError(source.Name + ":" + std::to_string(error.Line()) + ":" + std::to_string(error.Column()) + ": " +
+                        error.Reason());
     } catch (const ESQLParserError& error) {
       const std::string message = error.Message();
       throw EInputError(source.Name + ":" + std::to_string(error.Line()) + ": " +

@@ -23,10 +23,14 @@ constexpr TOptionInfo OptionTable[] = {
     {"param", "NAME=VALUE", "the value of a parameter; may be repeated", "", true},
     {"format", "FORMAT", "table (default), csv or json", "table|csv|json", false},
     {"strict", "", "exit status 1 if there is any warning", "", false},
+    {"faithful", "", "keep all that the statement says, or refuse it", "", false},
+    {"no-fragments", "", "refuse what only a row that holds SQL could keep", "", false},
+    {"approximate", "", "leave out or replace what cannot be kept, and warn", "", false},
+    {"fragments", "", "allow rows that hold SQL, which reaches the database as it is", "", false},
 };
 
 constexpr TCommandInfo CommandTable[] = {
-    {"sql", "", "print the SELECT statement of a query", 0, 0, false, "model query", "syntax top limit bound",
+    {"sql", "", "print the SELECT statement of a query", 0, 0, false, "model query", "syntax top limit bound fragments",
      R"help(  tolvi sql --model shop.model --query late.qry
       prints the statement with JOIN and dates in single quotes.
   tolvi sql --model shop.model --query late.qry --syntax oracle
@@ -39,7 +43,7 @@ constexpr TCommandInfo CommandTable[] = {
       KIND is value, param (a parameter of the query) or missing (a parameter without a value, and no TEXT follows).
       TEXT is all that follows the blank; a line break in it is written \n, a carriage return \r, a backslash \\.
 )help"},
-    {"filters", "", "print the conditions of each table", 0, 0, false, "model query", "syntax",
+    {"filters", "", "print the conditions of each table", 0, 0, false, "model query", "syntax fragments",
      R"help(  tolvi filters --model shop.model --query late.qry
       prints a line for each table on which the query has conditions: alias, tab, conditions. What belongs to no table
       has an empty alias.
@@ -61,7 +65,7 @@ constexpr TCommandInfo CommandTable[] = {
       and the sorting. Rows that are switched off begin with "(off)".
 )help"},
     {"check", "[QUERY...]", "print what is wrong or suspicious in a model and in queries", 0,
-     static_cast<std::size_t>(-1), true, "model", "",
+     static_cast<std::size_t>(-1), true, "model", "fragments",
      R"help(  tolvi check --model shop.model
       checks the model.
   tolvi check --model shop.model queries/*.qry
@@ -69,7 +73,7 @@ constexpr TCommandInfo CommandTable[] = {
       status is 1 if there is an error.
 )help"},
     {"run", "", "run a query on an SQLite database and print the rows", 0, 0, false, "model query db",
-     "param format limit syntax",
+     "param format limit syntax fragments",
      R"help(  tolvi run --model shop.model --query late.qry --db shop.sqlite
       prints the rows as a table; the widths of its columns are those of the first 100 rows.
   tolvi run --model shop.model --query since.qry --db shop.sqlite --param Since=2025-04-01
@@ -85,11 +89,19 @@ constexpr TCommandInfo CommandTable[] = {
       Join conditions, GROUP BY and what follows the last clause are not in it. If the statement is wrong, the message
       and the line stand on standard error, and the exit status is 1.
 )help"},
-    {"import", "", "print the query that an SQL statement stands for", 0, 0, false, "model sql", "strict",
+    {"import", "", "print the query that an SQL statement stands for", 0, 0, false, "model sql",
+     "strict faithful no-fragments approximate",
      R"help(  tolvi import --model shop.model --sql late.sql >late.qry
       makes a query of the statement. What it cannot keep is told on standard error as FILE:LINE: warning: ...
   tolvi import --model shop.model --sql late.sql --strict >late.qry
       does the same; any warning makes the exit status 1.
+  tolvi import --model shop.model --sql late.sql --faithful >late.qry
+      makes a query that says exactly what the statement says, or refuses it as FILE:LINE:COLUMN: ... A condition that
+      no operator of the model says becomes a row that holds its SQL; other commands take such queries with --fragments.
+  tolvi import --model shop.model --sql late.sql --faithful --no-fragments >late.qry
+      makes no such rows.
+  tolvi import --model shop.model --sql late.sql --faithful --approximate >late.qry
+      warns of what cannot be kept instead of refusing the statement.
 )help"},
 };
 

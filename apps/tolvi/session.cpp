@@ -36,10 +36,12 @@ void TSession::LoadAll() {
   const std::string top = Arguments.Has("top") ? TopClause(Arguments.Value("top")) : std::string();
   const std::string limit = Arguments.Has("limit") ? LimitClause(Arguments.Value("limit")) : std::string();
   LoadModel();
+  Panel.SetAllowSQLFragments(Arguments.Has("fragments"));
   LoadQuery(std::string(Arguments.Value("query")));
   Panel.SetSQLSyntax(SyntaxOf(Arguments.Value("syntax", "sql2")));
-  Panel.SetSQLTopClause(top);
-  Panel.SetSQLLimitClause(limit);
+  // Otherwise those of the query stay.
+  if (!top.empty()) Panel.SetSQLTopClause(top);
+  if (!limit.empty()) Panel.SetSQLLimitClause(limit);
 }
 
 void TSession::Print(std::string_view text) {

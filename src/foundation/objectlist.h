@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -57,11 +58,22 @@ class TJObjectList {
 
  private:
   struct TIterator {
-    const std::unique_ptr<T>* at;
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = T;
+    using difference_type = std::ptrdiff_t;
+    using pointer = T*;
+    using reference = T&;
+
+    const std::unique_ptr<T>* at = nullptr;
     T& operator*() const { return **at; }
     TIterator& operator++() {
       ++at;
       return *this;
+    }
+    TIterator operator++(int) {
+      TIterator old = *this;
+      ++at;
+      return old;
     }
     bool operator==(const TIterator&) const = default;
   };

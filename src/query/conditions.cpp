@@ -4,6 +4,7 @@
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/resultformula.h>
 #include <tolvi/query/rows.h>
+#include <tolvi/query/sqlfragment.h>
 #include <tolvi/query/values.h>
 
 // The rows that compare something: their values, fields, operators and predefined conditions.
@@ -292,6 +293,73 @@ bool TCustomCond::Forget(const void* part) {
   FCondition = &none;
   ForgetText();
   return true;
+}
+
+// SQL
+
+namespace {
+
+std::string NoCondition(std::string_view sql, std::string_view fault) {
+  return fault.empty() ? std::string() : Format("SQL \"%s\" is no condition: %s", {sql, fault});
+}
+
+}  // namespace
+
+char TSQLFragment::OpenQuote() const { return FormatsOf(GetQueryPanel().GetDBStruct()).GetQuoteSymbol1(); }
+
+void TSQLFragment::SetSQLExpr(std::string_view sql) {
+  sql = Trim(sql);
+  if (const std::string fault = NoCondition(sql, FragmentFault(sql, OpenQuote())); !fault.empty()) {
+    throw EJQueryPanelError(0, fault);
+  }
+  if (sql == FSQLExpr) return;
+  StoreSQLExpr(sql);
+  Changed();
+}
+
+void TSQLFragment::StoreSQLExpr(std::string_view sql) {
+  FSQLExpr = Trim(sql);
+  FTablesRevision = 0;
+  ForgetText();
+}
+
+void TSQLFragment::SetHaving(bool having) {
+  if (FHaving == having) return;
+  FHaving = having;
+  Changed();
+}
+
+std::string TSQLFragment::TextFault() const { return NoCondition(FSQLExpr, FragmentFault(FSQLExpr, OpenQuote())); }
+
+std::string TSQLFragment::GetFault() const {
+  std::string fault = TextFault();
+  if (fault.empty() && !GetQueryPanel().GetAllowSQLFragments()) {
+    fault =
+        Format("SQL \"%s\" is not allowed here: allow SQL in queries, or replace the row by conditions", {FSQLExpr});
+  }
+  return fault;
+}
+
+const TSimpleDSTableList& TSQLFragment::GetTables() const {
+  const TJCustomDBStructure* model = GetQueryPanel().GetDBStruct();
+  const std::uint64_t revision = model != nullptr ? model->GetRevision() : 0;
+  if (revision != 0 && revision == FTablesRevision) return FTables;
+  FTables.Clear();
+  TStrings references;
+  if (model != nullptr) {
+    const TSQLFormats& formats = model->SQLFormats();
+    const std::string sql = WithoutInnerTables(FSQLExpr, formats.GetQuoteSymbol1(), formats.GetQuoteSymbol2());
+    model->ExcludeTablesBySQLExpr(sql, FTables, references);
+  }
+  FTablesRevision = revision;
+  return FTables;
+}
+
+// Tables may be among the parts that go.
+bool TSQLFragment::Forget(const void*) {
+  FTablesRevision = 0;
+  FTables.Clear();
+  return false;
 }
 
 }  // namespace tolvi

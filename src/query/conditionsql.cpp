@@ -7,6 +7,7 @@
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/querytext.h>
 #include <tolvi/query/sqlbuilder.h>
+#include <tolvi/query/sqlfragment.h>
 
 // The SQL of one condition: its template with "@f" (the field), "@t" (the condition's first table), "@m" (the first
 // table of the statement) and "@1", "@2" (the values) filled in, in one pass, so that no value is ever read as a
@@ -168,6 +169,7 @@ const std::string& TSQLBuilder::TextOf(TFilterCond& condition) {
 }
 
 void TSQLBuilder::AppendCondition(std::string& out, TFilterCond& condition) {
+  if (condition.GetRowType() == frtSQLFragment) return AppendFragment(out, static_cast<TSQLFragment&>(condition));
   const std::string_view pattern = condition.GetSQLExpr();
   const int valueCount = condition.GetValueCount();
   for (std::size_t at = 0; at < pattern.size();) {
@@ -185,6 +187,11 @@ void TSQLBuilder::AppendCondition(std::string& out, TFilterCond& condition) {
       out += pattern.substr(start, at - start);
     }
   }
+}
+
+void TSQLBuilder::AppendFragment(std::string& out, const TSQLFragment& fragment) {
+  const bool brackets = NeedsBrackets(fragment.GetSQLExpr(), fragment.OpenQuote());
+  out.append(brackets ? "(" : "").append(fragment.GetSQLExpr()).append(brackets ? ")" : "");
 }
 
 // Returns the position behind what was written: with a value in them, quotes and all else between them belong to the
@@ -329,6 +336,7 @@ void TSQLBuilder::AppendSubQuery(std::string& out, const TFilterCond& condition)
   TJQueryPanel inner;
   inner.SetDBStruct(FPanel.GetDBStruct());
   inner.SetFormatSettings(FPanel.GetFormatSettings());
+  inner.SetAllowSQLFragments(FPanel.GetAllowSQLFragments());
   inner.LoadFromStrings(condition.GetSubQuery());
   inner.SetSQLOptions(condition.GetSubQueryOptions());
   inner.SetSQLSyntax(FPanel.GetSQLSyntax());

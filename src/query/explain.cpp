@@ -62,6 +62,7 @@ class TExplainer {
   }
 
   std::string Sentence(const TFilterCond& condition) const {
+    if (condition.GetRowType() == frtSQLFragment) return "SQL: " + condition.GetSQLExpr();
     return condition.GetRowType() == frtSimpleCondition ? SimpleSentence(static_cast<const TSimpleCond&>(condition))
                                                         : CustomSentence(static_cast<const TCustomCond&>(condition));
   }
@@ -171,6 +172,7 @@ class TExplainer {
       TJQueryPanel panel;
       panel.SetDBStruct(FPanel->GetDBStruct());
       panel.SetFormatSettings(FPanel->GetFormatSettings());
+      panel.SetAllowSQLFragments(FPanel->GetAllowSQLFragments());
       panel.SetTitles(FPanel->Titles().Lines());
       panel.LoadFromStrings(condition.GetSubQuery());
       panel.SetSQLOptions(condition.GetSubQueryOptions());
@@ -191,10 +193,12 @@ class TExplainer {
     if (FPanel->GetSQLOptions().Contains(soSelectDistinct)) title += ", each row once";
     AddLine(title + ":");
     ++FLevel;
-    if (columns.Empty() || columns.GetJustSorting()) {
+    if (columns.GetShowsAll()) {
       AddLine(AllColumns);
     } else {
-      for (const TResultField& column : columns) AddLine(ColumnText(column));
+      for (const TResultField& column : columns) {
+        if (!column.GetHidden()) AddLine(ColumnText(column));
+      }
     }
     --FLevel;
   }
@@ -202,7 +206,7 @@ class TExplainer {
   /// The caption; behind it what is in the column unless the caption is the field's name.
   std::string ColumnText(const TResultField& column) const {
     std::string content;
-    if (column.GetFormula() == "@1" && column.DSFields().size() == 1 && !HoldsUnknown(column)) {
+    if (column.IsPlainField() && !HoldsUnknown(column)) {
       const TDSField& field = *column.DSFields().front();
       content = FNames.Of(field);
       if (SameText(column.GetCaption(), field.GetDisplayName())) return content;

@@ -11,6 +11,9 @@
 
 namespace tolvi {
 
+/// How deep sub-queries may be nested: each level doubles the quotes in the query text of the one below.
+inline constexpr int MaxImportLevel = 8;
+
 /// What an import has to tell about a statement.
 class TImportLog final {
  public:

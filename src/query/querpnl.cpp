@@ -93,6 +93,12 @@ TCustomCond& TJQueryPanel::AddCustomCondition(TFilterBracket& bracket, TDSCondit
   return AddAsCurrent(bracket, bracket.GetRowCount(), std::make_unique<TCustomCond>(*this, condition));
 }
 
+TSQLFragment& TJQueryPanel::AddSQLFragment(TFilterBracket& bracket, std::string_view sql) {
+  auto fragment = std::make_unique<TSQLFragment>(*this);
+  fragment->SetSQLExpr(sql);
+  return AddAsCurrent(bracket, bracket.GetRowCount(), std::move(fragment));
+}
+
 template <typename TRow>
 TRow& TJQueryPanel::AddAsCurrent(TFilterBracket& bracket, std::size_t index, std::unique_ptr<TRow> row) {
   TRow& result = *row;
@@ -250,6 +256,8 @@ void TJQueryPanel::ClearAll() {
   RFields().Clear();
   FQResult->ClearParams();
   FQueryName.clear();
+  FQueryTopClause.clear();
+  FQueryLimitClause.clear();
   FDescription.Clear();
   FUserData.Clear();
   ShapeChanged();
@@ -327,16 +335,23 @@ std::string TJQueryPanel::ExtractValue(const TFilterCond& condition, int index) 
   return FBuilder->ExtractValue(condition, index);
 }
 
-void TJQueryPanel::SetSQLTopClause(std::string_view clause) {
-  if (FSQLTopClause == clause) return;
-  FSQLTopClause = clause;
+void TJQueryPanel::SetSQLTopClause(std::string_view clause) { SetHostClause(FSQLTopClause, clause, FQueryTopClause); }
+
+void TJQueryPanel::SetSQLLimitClause(std::string_view clause) {
+  SetHostClause(FSQLLimitClause, clause, FQueryLimitClause);
+}
+
+void TJQueryPanel::SetHostClause(std::string& own, std::string_view clause, std::string& ofQuery) {
+  if (own == clause && ofQuery.empty()) return;
+  own = clause;
+  ofQuery.clear();
   ShapeChanged();
 }
 
-void TJQueryPanel::SetSQLLimitClause(std::string_view clause) {
-  if (FSQLLimitClause == clause) return;
-  FSQLLimitClause = clause;
-  ShapeChanged();
+void TJQueryPanel::SetAllowSQLFragments(bool on) {
+  if (FAllowSQLFragments == on) return;
+  FAllowSQLFragments = on;
+  ++FShapeRevision;
 }
 
 void TJQueryPanel::SetFormatSettings(const TFormatSettings& settings) {

@@ -69,6 +69,8 @@ class TJQueryPanel : public TComponent, private TDSListener {
   TFilterBracket& AddBracket(TFilterBracket& bracket);
   TFilterBracket& AddBracketNum(TFilterBracket& bracket, int rowNum);
   TCustomCond& AddCustomCondition(TFilterBracket& bracket, TDSCondition& condition);
+  /// The same with SQL. Errors as in `TSQLFragment::SetSQLExpr`; nothing is added then.
+  TSQLFragment& AddSQLFragment(TFilterBracket& bracket, std::string_view sql);
   /// Adds a condition with everything set. The current row stays.
   TSimpleCond& AddSimpleCond(TFilterBracket& bracket, TDSField& field, TDSOperator& op, std::string_view value1,
                              std::string_view value2 = {});
@@ -94,6 +96,11 @@ class TJQueryPanel : public TComponent, private TDSListener {
   /// The kinds of brackets that views offer. Default all.
   TFilterLinkTypes GetLinkTypes() const { return FLinkTypes; }
   void SetLinkTypes(TFilterLinkTypes linkTypes) { FLinkTypes = linkTypes; }
+  /// Whether statements may hold rows of SQL (`TSQLFragment`). Default false: queries can come from anybody, and what
+  /// such a row says reaches the database as it is. Without it, building a statement with one raises
+  /// `EJQueryPanelError`. Sub-queries do as the query round them.
+  bool GetAllowSQLFragments() const { return FAllowSQLFragments; }
+  void SetAllowSQLFragments(bool on);
 
   // The statement
 
@@ -121,12 +128,21 @@ class TJQueryPanel : public TComponent, private TDSListener {
   void SetSQLOptions(TSQLOptions options) { FQResult->SetSQLOptions(options); }
   TSQLSyntax GetSQLSyntax() const { return FQResult->GetSQLSyntax(); }
   void SetSQLSyntax(TSQLSyntax syntax) { FQResult->SetSQLSyntax(syntax); }
-  /// Written after SELECT as " TOP ..." and as the last line "LIMIT ..."; the host's own SQL, as it stands. Default
-  /// empty.
-  const std::string& GetSQLTopClause() const { return FSQLTopClause; }
+  /// Written after SELECT as " TOP ..." and as the last line "LIMIT ...": the query's own clause where it has one, else
+  /// the host's. Setting one sets the host's own SQL, as it stands, and takes the query's own away. Default empty.
+  const std::string& GetSQLTopClause() const { return FQueryTopClause.empty() ? FSQLTopClause : FQueryTopClause; }
   void SetSQLTopClause(std::string_view clause);
-  const std::string& GetSQLLimitClause() const { return FSQLLimitClause; }
+  const std::string& GetSQLLimitClause() const {
+    return FQueryLimitClause.empty() ? FSQLLimitClause : FQueryLimitClause;
+  }
   void SetSQLLimitClause(std::string_view clause);
+  /// The query's own clauses: its text holds them, `ClearAll` and loading another query take them away. TOP "n" or
+  /// "(n)", and "PERCENT" behind it; LIMIT "n", "n OFFSET m" or "n, m". Raise `EJQueryPanelError` for any other text.
+  /// Default empty.
+  const std::string& GetQueryTopClause() const { return FQueryTopClause; }
+  void SetQueryTopClause(std::string_view clause);
+  const std::string& GetQueryLimitClause() const { return FQueryLimitClause; }
+  void SetQueryLimitClause(std::string_view clause);
   /// The locale in which values are read and shown. Default the C locale.
   const TFormatSettings& GetFormatSettings() const { return FFormatSettings; }
   void SetFormatSettings(const TFormatSettings& settings);
@@ -165,6 +181,9 @@ class TJQueryPanel : public TComponent, private TDSListener {
   ///
   /// Raises `EJQueryPanelError` without a model, before anything changes; `ESQLParserError` and `EListError` for a
   /// wrong statement, `EConvertError` for a wrong time: the query is then empty and the panel inactive.
+  ///
+  /// With `Faithful`, the query says exactly what the statement says. Raises `ESQLImportError` for what it cannot say
+  /// and for a wrong statement; the panel then keeps its old query.
   void ParseSQL(const TStrings& sql, const TSQLImportOptions& options = {});
   void ParseSQL(std::string_view sql, const TSQLImportOptions& options = {});
   /// Those of the last import, in the order of the statement's lines.
@@ -216,6 +235,7 @@ class TJQueryPanel : public TComponent, private TDSListener {
   friend class TCustomCond;
   friend class TSQLBuilder;
   friend class TSQLMapper;
+  friend class TSelectImport;
   friend class TQueryResult;
   friend class TQueryReader;
   friend class TSQLParam;
@@ -265,10 +285,13 @@ class TJQueryPanel : public TComponent, private TDSListener {
   TRow& AddAsCurrent(TFilterBracket& bracket, std::size_t index, std::unique_ptr<TRow> row);
   void ModelDestroyed();
   void PartGoes(const void* part);
+  void SetHostClause(std::string& own, std::string_view clause, std::string& ofQuery);
   struct TQueryParts;
   void ExchangeParts(TQueryParts& parts);
+  void ReplaceQuery(const std::function<void()>& read, bool active);
   // `level` counts the statements round a sub-query.
   void ImportSQL(std::string_view sql, const TSQLImportOptions& options, int level);
+  void ImportSelect(std::string_view sql, const TSQLImportOptions& options);
   void MapSQL(TJSQLParser& parser, const TSQLImportOptions& options, int level);
   void TellImport();
 
@@ -282,11 +305,12 @@ class TJQueryPanel : public TComponent, private TDSListener {
   TTitles FTitles;
   TFormatSettings FFormatSettings;
   TFilterLinkTypes FLinkTypes{fltAll, fltAny, fltNone, fltNotAll};
-  std::string FQueryName, FSQLTopClause, FSQLLimitClause;
+  std::string FQueryName, FSQLTopClause, FSQLLimitClause, FQueryTopClause, FQueryLimitClause;
   TStrings FDescription, FUserData, FStoredRFields;
   std::vector<TQueryWarning> FLoadWarnings;
   std::vector<TImportWarning> FImportWarnings;
-  bool FActive = false, FModified = false, FSaveSQLOptions = true, FSaveTitles = false, FStoredActive = false;
+  bool FActive = false, FModified = false, FSaveSQLOptions = true, FSaveTitles = false, FStoredActive = false,
+       FAllowSQLFragments = false;
   // Whether the rows' numbers are up to date.
   mutable bool FNumbered = false;
   std::uint64_t FShapeRevision = 1;

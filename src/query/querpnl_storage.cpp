@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include <tolvi/foundation/enumnames.h>
 #include <tolvi/foundation/errors.h>
@@ -6,6 +8,7 @@
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/querytext.h>
+#include <tolvi/query/sqlfragment.h>
 
 // Saving, loading and streaming of the panel.
 
@@ -28,7 +31,7 @@ struct TJQueryPanel::TQueryParts {
   TRFieldList rFields;
   TSQLOptions options;
   TTitles titles;
-  std::string name;
+  std::string name, topClause, limitClause;
   TStrings description, userData;
   std::vector<TQueryWarning> warnings;
 };
@@ -38,20 +41,24 @@ void TJQueryPanel::ExchangeParts(TQueryParts& parts) {
   std::swap(FQResult->FParams, parts.params);
   std::swap(FTitles, parts.titles);
   std::swap(FQueryName, parts.name);
+  std::swap(FQueryTopClause, parts.topClause);
+  std::swap(FQueryLimitClause, parts.limitClause);
   std::swap(FDescription, parts.description);
   std::swap(FUserData, parts.userData);
   std::swap(FLoadWarnings, parts.warnings);
   RowsMoved();
 }
 
-void TJQueryPanel::LoadFromText(std::string_view text) {
-  CheckIfDBStructAssigned();
+// Leaves events held back.
+void TJQueryPanel::ReplaceQuery(const std::function<void()>& read, bool active) {
   TQueryParts parts{.root = std::make_unique<TFilterBracket>(*this),
                     .params = {},
                     .rFields = TRFieldList(GetDBStruct()),
                     .options = GetSQLOptions(),
                     .titles = FTitles,
                     .name = {},
+                    .topClause = {},
+                    .limitClause = {},
                     .description = {},
                     .userData = {},
                     .warnings = {}};
@@ -59,11 +66,13 @@ void TJQueryPanel::LoadFromText(std::string_view text) {
   parts.rFields.Assign(RFields());
   HoldBack();
   ++FLoading;
+  const bool wasActive = FActive;
   ExchangeParts(parts);
   try {
     RFields().Clear();
-    ReadQueryText(text, *this);
+    read();
   } catch (...) {
+    FActive = wasActive;
     ExchangeParts(parts);
     SetSQLOptions(parts.options);
     RFields().Assign(parts.rFields);
@@ -71,6 +80,7 @@ void TJQueryPanel::LoadFromText(std::string_view text) {
     --FHeldBack;
     throw;
   }
+  FActive = wasActive;
   --FLoading;
   SetCurrentRow(nullptr);
   SetActive(false);
@@ -81,10 +91,39 @@ void TJQueryPanel::LoadFromText(std::string_view text) {
     view->TitlesChanged();
     view->ResultFieldsChanged();
   }
-  SetActive(true);
+  SetActive(active);
   ShapeChanged();
+}
+
+void TJQueryPanel::LoadFromText(std::string_view text) {
+  CheckIfDBStructAssigned();
+  ReplaceQuery([this, text] { ReadQueryText(text, *this); }, true);
   FModified = false;
   Release();
+}
+
+void TJQueryPanel::SetQueryTopClause(std::string_view clause) {
+  std::optional<std::string> top = Trim(clause).empty() ? std::string() : ReadTopClause(clause);
+  if (!top) {
+    throw EJQueryPanelError(
+        0,
+        "\"%s\" is no TOP clause of a query: write a whole number or one in brackets, and PERCENT behind it if need be",
+        {clause});
+  }
+  if (*top == FQueryTopClause) return;
+  FQueryTopClause = *std::move(top);
+  ShapeChanged();
+}
+
+void TJQueryPanel::SetQueryLimitClause(std::string_view clause) {
+  std::optional<std::string> limit = Trim(clause).empty() ? std::string() : ReadLimitClause(clause);
+  if (!limit) {
+    throw EJQueryPanelError(
+        0, "\"%s\" is no LIMIT clause of a query: write a whole number n, \"n OFFSET m\" or \"n, m\"", {clause});
+  }
+  if (*limit == FQueryLimitClause) return;
+  FQueryLimitClause = *std::move(limit);
+  ShapeChanged();
 }
 
 void TJQueryPanel::SaveToFile(const std::filesystem::path& file) {
@@ -145,11 +184,14 @@ void TJQueryPanel::DefineProperties(TPropertyFiler& filer) {
       "SaveSQLOptions", [this] { return GetSaveSQLOptions(); }, [this](bool on) { SetSaveSQLOptions(on); }, true);
   filer.Boolean(
       "SaveTitles", [this] { return GetSaveTitles(); }, [this](bool on) { SetSaveTitles(on); }, false);
+  filer.Boolean(
+      "AllowSQLFragments", [this] { return GetAllowSQLFragments(); }, [this](bool on) { SetAllowSQLFragments(on); },
+      false);
   filer.Text(
-      "SQLTopClause", [this] { return GetSQLTopClause(); },
-      [this](const std::string& clause) { SetSQLTopClause(clause); }, "");
+      "SQLTopClause", [this] { return FSQLTopClause; }, [this](const std::string& clause) { SetSQLTopClause(clause); },
+      "");
   filer.Text(
-      "SQLLimitClause", [this] { return GetSQLLimitClause(); },
+      "SQLLimitClause", [this] { return FSQLLimitClause; },
       [this](const std::string& clause) { SetSQLLimitClause(clause); }, "");
   filer.Lines(
       "Titles", [this] { return FTitles.Lines(); }, [this](const TStrings& lines) { SetTitles(lines); },

@@ -61,10 +61,17 @@ class TQueryChecker {
       AddAtRow(on ? csError : csWarning, rowID, missing);
       return;
     }
+    if (condition.GetRowType() == frtSQLFragment) CheckFragment(static_cast<const TSQLFragment&>(condition), on, rowID);
     if (condition.GetRowType() == frtSimpleCondition) CheckOffer(static_cast<const TSimpleCond&>(condition), rowID);
     for (int index = 1; index <= std::min(condition.GetValueCount(), 2); ++index) {
       if (!condition.GetValueIsParam(index)) CheckValue(condition, index, on, rowID);
     }
+  }
+
+  void CheckFragment(const TSQLFragment& fragment, bool on, const std::string& rowID) {
+    const std::string fault = fragment.GetFault();
+    if (!fault.empty()) return AddAtRow(on ? csError : csWarning, rowID, fault);
+    AddAtRow(csWarning, rowID, "holds SQL: it is not bound, and the statement depends on the database");
   }
 
   void CheckOffer(const TSimpleCond& condition, const std::string& rowID) {
@@ -105,6 +112,7 @@ class TQueryChecker {
       TJQueryPanel panel;
       panel.SetDBStruct(FPanel.GetDBStruct());
       panel.SetFormatSettings(FPanel.GetFormatSettings());
+      panel.SetAllowSQLFragments(FPanel.GetAllowSQLFragments());
       panel.LoadFromStrings(lines);
       for (TCheckFinding& finding : TQueryChecker(panel, FDepth + 1).Run()) {
         const std::string place = finding.Place.empty() ? std::string() : ", " + finding.Place;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include <tolvi/foundation/consts.h>
 #include <tolvi/foundation/errors.h>
@@ -104,7 +105,9 @@ TQueryResult::TQueryResult(TJQueryPanel& panel) : FQueryPanel(panel), FRFields(n
 
 void TQueryResult::GetResFieldCaptions(TStrings& captions) const {
   captions.Clear();
-  for (const TResultField& field : FRFields) captions.Add(field.GetCaption());
+  for (const TResultField& field : FRFields) {
+    if (!field.GetHidden()) captions.Add(field.GetCaption());
+  }
 }
 
 void TQueryResult::SetSQLOptions(TSQLOptions options) {
@@ -172,10 +175,12 @@ std::string TQueryResult::MakeSelectClause() {
   if (FSQLOptions.Contains(soASCIIRFields)) FRFields.ReplaceNonAsciiAliases();
   std::string text = FSQLOptions.Contains(soSelectDistinct) ? "SELECT DISTINCT " : "SELECT ";
   if (!FQueryPanel.GetSQLTopClause().empty()) text.append(" TOP ").append(FQueryPanel.GetSQLTopClause()).append(" ");
-  if (FRFields.GetJustSorting() || FRFields.Empty()) return text + "*";
-  for (std::size_t i = 0; i < FRFields.Count(); ++i) {
-    if (i > 0) text += ", ";
-    FRFields[i].AppendSelectExpr(text);
+  if (FRFields.GetShowsAll()) return text + "*";
+  bool isFirst = true;
+  for (const TResultField& field : FRFields) {
+    if (field.GetHidden()) continue;
+    if (!std::exchange(isFirst, false)) text += ", ";
+    field.AppendSelectExpr(text);
   }
   return text;
 }

@@ -27,13 +27,15 @@ constexpr std::string_view OtherSections[] = {MainSection, DescriptionSection, U
                                               OldTitlesSection};
 
 // Keys of "[Main]".
-constexpr std::string_view QueryNameKey = "QueryName", VersionKey = "Version", OptionsKey = "Options";
+constexpr std::string_view QueryNameKey = "QueryName", VersionKey = "Version", OptionsKey = "Options", TopKey = "Top",
+                           LimitKey = "Limit";
 
 // Keys of rows, as a bracket and as a condition write them.
 constexpr std::string_view EnabledKey = "Enabled", RowTypeKey = "RowType", LinkTypeKey = "LinkType",
                            RowCountKey = "RowCount";
 constexpr std::string_view CondIDKey = "CondID", FieldIDKey = "FieldID", OldFieldNameKey = "FldName",
-                           OperatorKey = "Operator", SubQueryKey = "SubQuery", SubQueryOptionsKey = "SubQueryOptions";
+                           OperatorKey = "Operator", SubQueryKey = "SubQuery", SubQueryOptionsKey = "SubQueryOptions",
+                           SQLKey = "SQL", HavingKey = "Having";
 
 /// The keys of a condition's value. A parameter has the format and, unless it is the automatic one, the name; any
 /// other value the caption.
@@ -79,6 +81,8 @@ class TQueryReader {
     if (!Trim(FMain.Find(OptionsKey).value_or(std::string_view())).empty()) {
       FPanel.SetSQLOptions(IntToSQLOptions(FMain.Integer(OptionsKey, 0)));
     }
+    ReadClause(TopKey, &TJQueryPanel::SetQueryTopClause);
+    ReadClause(LimitKey, &TJQueryPanel::SetQueryLimitClause);
     FPanel.FDescription = FText.FirstFree(DescriptionSection).value_or(TStrings());
     FPanel.FUserData = FText.FirstFree(UserDataSection).value_or(TStrings());
     FPanel.RFields().Read(FText, FVersion, [this](std::string_view section, const std::string& message) {
@@ -119,6 +123,14 @@ class TQueryReader {
           {FMain.Where(VersionKey), text, XFloatToStr(CurrentQueryVersion), XFloatToStr(CurrentQueryVersion)});
     }
     return *version;
+  }
+
+  void ReadClause(std::string_view key, void (TJQueryPanel::*set)(std::string_view)) {
+    try {
+      (FPanel.*set)(FMain.Value(key));
+    } catch (const EJQueryPanelError& error) {
+      throw EConvertError("%s: %s", {FMain.Where(key), error.Message()});
+    }
   }
 
   void ReadTitles() {
@@ -176,7 +188,7 @@ class TQueryReader {
 
   static TFilterRowType ReadRowType(const TSection& section, TFilterRowType byDefault) {
     return static_cast<TFilterRowType>(
-        ReadInt32(section, RowTypeKey, byDefault, frtSimpleCondition, frtCustomCondition, "row type"));
+        ReadInt32(section, RowTypeKey, byDefault, frtSimpleCondition, frtSQLFragment, "row type"));
   }
 
   static TOpenBracket ReadBracket(const TSection& section, TFilterBracket& bracket) {
@@ -188,9 +200,19 @@ class TQueryReader {
     return {&bracket, section, section.Name().size(), rowCount};
   }
 
+  void ReadFragment(const TSection& section, TFilterBracket& bracket) {
+    auto& fragment = static_cast<TSQLFragment&>(bracket.AddRow(std::make_unique<TSQLFragment>(FPanel)));
+    fragment.StoreEnabled(section.Boolean(EnabledKey, true));
+    fragment.StoreSQLExpr(section.Value(SQLKey));
+    fragment.FHaving = section.Boolean(HavingKey, false);
+    if (const std::string fault = fragment.TextFault(); !fault.empty()) Warn(section.Name(), fault);
+  }
+
   void ReadCondition(const TSection& section, TFilterBracket& bracket) {
+    const TFilterRowType rowType = ReadRowType(section, frtSimpleCondition);
+    if (rowType == frtSQLFragment) return ReadFragment(section, bracket);
     TFilterCond* condition;
-    if (ReadRowType(section, frtSimpleCondition) == frtSimpleCondition) {
+    if (rowType == frtSimpleCondition) {
       TSimpleCond& simple = bracket.AddCond();
       ReadField(section, simple);
       ReadOperator(section, simple);
@@ -284,6 +306,10 @@ class TQueryWriter {
     FWriter.Key(VersionKey, XFloatToStr(CurrentQueryVersion));
     FWriter.Key(OptionsKey,
                 FPanel.GetSaveSQLOptions() ? std::to_string(SQLOptionsToInt(FPanel.GetSQLOptions())) : std::string());
+    for (const auto& [key, clause] :
+         {std::pair(TopKey, FPanel.GetQueryTopClause()), std::pair(LimitKey, FPanel.GetQueryLimitClause())}) {
+      if (!clause.empty()) FWriter.Key(key, clause);
+    }
     FWriter.Line({});
     WriteLines(DescriptionSection, FPanel.GetDescription());
     WriteLines(UserDataSection, FPanel.GetUserData());
@@ -314,6 +340,8 @@ class TQueryWriter {
     FWriter.Line("[Row", FRowID, "]");
     if (row.GetRowType() == frtBracket) {
       WriteBracket(static_cast<const TFilterBracket&>(row));
+    } else if (row.GetRowType() == frtSQLFragment) {
+      WriteFragment(static_cast<const TSQLFragment&>(row));
     } else {
       WriteCondition(static_cast<const TFilterCond&>(row));
     }
@@ -332,6 +360,14 @@ class TQueryWriter {
       WriteRow(row);
       FRowID.resize(ownID);
     }
+  }
+
+  void WriteFragment(const TSQLFragment& fragment) {
+    FWriter.Key(RowTypeKey, std::int64_t{fragment.GetRowType()});
+    FWriter.Key(EnabledKey, std::int64_t{fragment.GetEnabled()});
+    FWriter.Key(SQLKey, fragment.GetSQLExpr());
+    if (fragment.GetHaving()) FWriter.Key(HavingKey, std::int64_t{fragment.GetHaving()});
+    FWriter.Line({});
   }
 
   void WriteCondition(const TFilterCond& condition) {

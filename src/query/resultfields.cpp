@@ -181,8 +181,7 @@ std::string TResultField::GetNormalSQLExpr() const {
 void TResultField::AppendSelectExpr(std::string& out) const {
   AppendSQLExpr(out);
   if (FAlias.empty()) return;
-  const bool isField = FDSFields.size() == 1 && FFormula == "@1";
-  if (isField && SameText(FDSFields.front()->GetFieldName(), FAlias)) return;
+  if (IsPlainField() && SameText(FDSFields.front()->GetFieldName(), FAlias)) return;
   out += " as ";
   if (FList != nullptr && FList->FQuoteAliases) {
     FormatsOf(GetModel()).AppendQuoted(out, FAlias);
@@ -241,7 +240,7 @@ void TResultField::SetAlias(std::string_view alias) {
 }
 
 std::string TResultField::MakeAlias() const {
-  if (FList == nullptr || !FList->FUseAliases || FCaption.empty()) return {};
+  if (FList == nullptr || !FList->FUseAliases || FHidden || FCaption.empty()) return {};
   std::string name = FList->FQuoteAliases ? MakeQuotableName(FCaption)
                                           : MakeSQLName(FList->FAsciiAliases ? ReduceToAscii(FCaption) : FCaption);
   return name.empty() ? NumberedAlias() : name;
@@ -271,6 +270,12 @@ void TResultField::SetSorting(TSortingType sorting) {
   Changed();
 }
 
+void TResultField::SetHidden(bool hidden) {
+  if (hidden == FHidden) return;
+  FHidden = hidden;
+  Changed();
+}
+
 void TResultField::SetSortOrder(int order) {
   if (order == FSortOrder) return;
   FSortOrder = order;
@@ -284,6 +289,7 @@ void TResultField::Assign(const TResultField& source) {
   FFormula = source.FFormula;
   FAlias = source.FAlias;
   FSorting = source.FSorting;
+  FHidden = source.FHidden;
   FSortOrder = source.FSortOrder;
   FOleObject = source.FOleObject;
   if (FList == nullptr) {

@@ -69,7 +69,8 @@ class TResultField final {
   /// The name of the column in SQL, unquoted. Every build makes it anew from the caption.
   const std::string& GetAlias() const { return FAlias; }
   void SetAlias(std::string_view alias);
-  /// Makes the alias from the caption, unique in the list; empty for an empty caption and where the list uses none.
+  /// Makes the alias from the caption, unique in the list; empty for an empty caption, a hidden column, and where the
+  /// list uses none.
   /// Quoted aliases are the caption as it stands. Others are names that SQL can hold without quotes: blanks become "_",
   /// and what is no letter, digit or "_" is left out; "C" and the number when nothing is left. Fires nothing.
   void GenerateAlias();
@@ -83,13 +84,18 @@ class TResultField final {
   /// Position among the sorted columns; equal ones sort in column order.
   int GetSortOrder() const { return FSortOrder; }
   void SetSortOrder(int order);
-  /// The 1-based number of the column, as of the last `GenerateNumbers`.
+  /// Whether the column is left out of the select list. It may still sort, and groups as any other. Default false.
+  bool GetHidden() const { return FHidden; }
+  void SetHidden(bool hidden);
+  /// The 1-based place in the select list, 0 for a hidden column; as of the last `GenerateNumbers`.
   int GetNumber() const { return FNumber; }
 
   /// The formula with the fields' SQL; with their columns always in double quotes.
   std::string GetSQLExpr() const;
   void AppendSQLExpr(std::string& out) const;
   std::string GetNormalSQLExpr() const;
+  /// Whether the column is one field and nothing more.
+  bool IsPlainField() const { return FDSFields.size() == 1 && FFormula == "@1"; }
   /// The column as SELECT lists it: the expression and, unless it is a single field of that very name, " as " and
   /// the alias.
   void AppendSelectExpr(std::string& out) const;
@@ -143,6 +149,7 @@ class TResultField final {
   std::vector<std::string> FMissing;
   std::string FCaption, FAlias, FFormula;
   TSortingType FSorting = stNoSort;
+  bool FHidden = false;
   int FNumber = 0, FSortOrder = 0;
   std::any FOleObject;
 };
@@ -185,7 +192,7 @@ class TRFieldList final {
   void Move(std::size_t from, std::size_t to);
   void Clear();
 
-  /// The captions joined by ", "; "*" when that is empty.
+  /// The captions of the shown columns joined by ", "; "*" when that is empty.
   std::string GetCaption() const;
   /// Whether aliases are made from captions. Default true.
   bool GetUseAliases() const { return FUseAliases; }
@@ -199,6 +206,8 @@ class TRFieldList final {
   /// Whether the columns only sort, and the statement shows all columns ("*"). Default false.
   bool GetJustSorting() const { return FJustSorting; }
   void SetJustSorting(bool on);
+  /// Whether the statement shows all columns: those of the list only sort, or none of them is shown.
+  bool GetShowsAll() const;
   /// How many columns sort.
   std::size_t GetSortCount() const;
 
@@ -208,7 +217,8 @@ class TRFieldList final {
   bool CheckUniqAlias(std::string_view alias, const TResultField* except = nullptr) const;
   std::string GetUniqCaption(std::string_view caption, const TResultField* except = nullptr) const;
   std::string GetUniqAlias(std::string_view alias, const TResultField* except = nullptr) const;
-  /// Numbers the columns 1, 2, ...; makes all aliases from the captions. Fire nothing; cheap when nothing has changed.
+  /// Numbers the shown columns 1, 2, ...; makes all aliases from the captions. Fire nothing; cheap when nothing has
+  /// changed.
   void GenerateNumbers();
   void RegenerateAliases();
   /// Gives each column whose alias is not ASCII the alias "C" and its number. Fires nothing.

@@ -100,9 +100,10 @@ void TRFieldList::Clear() {
 
 std::string TRFieldList::GetCaption() const {
   std::string captions;
-  bool isEmpty = true;
+  bool isFirst = true, isEmpty = true;
   for (const TResultField& field : FItems) {
-    if (&field != &FItems[0]) captions += ", ";
+    if (field.FHidden) continue;
+    if (!std::exchange(isFirst, false)) captions += ", ";
     captions += field.FCaption;
     isEmpty = isEmpty && field.FCaption.empty();
   }
@@ -119,6 +120,11 @@ void TRFieldList::SetUseAliases(bool on) { Set(FUseAliases, on); }
 void TRFieldList::SetQuoteAliases(bool on) { Set(FQuoteAliases, on); }
 void TRFieldList::SetAsciiAliases(bool on) { Set(FAsciiAliases, on); }
 void TRFieldList::SetJustSorting(bool on) { Set(FJustSorting, on); }
+
+bool TRFieldList::GetShowsAll() const {
+  return FJustSorting ||
+         std::all_of(FItems.begin(), FItems.end(), [](const TResultField& field) { return field.FHidden; });
+}
 
 std::size_t TRFieldList::GetSortCount() const {
   std::size_t count = 0;
@@ -155,7 +161,7 @@ std::string TRFieldList::GetUniqAlias(std::string_view alias, const TResultField
 void TRFieldList::GenerateNumbers() {
   if (FNumbersRevision == FRevision) return;
   int number = 0;
-  for (TResultField& field : FItems) field.FNumber = ++number;
+  for (TResultField& field : FItems) field.FNumber = field.FHidden ? 0 : ++number;
   FNumbersRevision = FRevision;
 }
 

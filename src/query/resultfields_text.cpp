@@ -19,7 +19,8 @@ namespace {
 constexpr std::string_view ListSection = "RFields", FieldSection = "RField";
 constexpr std::string_view CountKey = "Count", VersionKey = "Version", JustSortingKey = "JustSorting";
 constexpr std::string_view FormulaKey = "Formula", FieldsKey = "Fields", AliasKey = "Alias", OldAliasKey = "Name",
-                           CaptionKey = "Caption", SortingKey = "Sorting", SortOrderKey = "SortOrder";
+                           CaptionKey = "Caption", SortingKey = "Sorting", SortOrderKey = "SortOrder",
+                           HiddenKey = "Hidden";
 
 // Version of columns that do not tell it and belong to no query text, and those since which a text holds something.
 constexpr double UnnumberedVersion = 1.7;
@@ -251,6 +252,7 @@ void TRFieldList::Write(TSectionWriter& writer) const {
     writer.Key(CaptionKey, field.FCaption);
     writer.Key(SortingKey, std::int64_t{field.FSorting});
     writer.Key(SortOrderKey, std::int64_t{field.FSortOrder});
+    if (field.FHidden) writer.Key(HiddenKey, std::int64_t{field.FHidden});
     writer.Line({});
   }
 }
@@ -272,6 +274,7 @@ std::unique_ptr<TResultField> TRFieldList::ReadField(const TSection& section, do
   field->FCaption = section.Value(CaptionKey);
   field->FSorting = static_cast<TSortingType>(ReadInt(section, SortingKey, stNoSort, stDescending));
   field->FSortOrder = ReadInt(section, SortOrderKey, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+  field->FHidden = section.Boolean(HiddenKey, false);
   return field;
 }
 

@@ -286,6 +286,18 @@ TCustomCond& TFilterBracket::InsertCustomCondByNum(int rowNum, TDSCondition& con
   return InsertNew(IndexForNewRow(rowNum), std::make_unique<TCustomCond>(GetQueryPanel(), condition));
 }
 
+TSQLFragment& TFilterBracket::AddSQLFragment(std::string_view sql) {
+  auto fragment = std::make_unique<TSQLFragment>(GetQueryPanel());
+  fragment->SetSQLExpr(sql);
+  return InsertNew(FRows.Count(), std::move(fragment));
+}
+
+TSQLFragment& TFilterBracket::InsertSQLFragmentByNum(int rowNum, std::string_view sql) {
+  auto fragment = std::make_unique<TSQLFragment>(GetQueryPanel());
+  fragment->SetSQLExpr(sql);
+  return InsertNew(IndexForNewRow(rowNum), std::move(fragment));
+}
+
 void TFilterBracket::DeleteRow(std::size_t index) {
   GetRow(index);
   TJQueryPanel& panel = GetQueryPanel();

@@ -25,7 +25,7 @@ class TJQueryPanel;
 class TSQLParam;
 
 /// Kinds of rows. The ordinals are stored in query texts.
-enum TFilterRowType : std::uint8_t { frtSimpleCondition, frtBracket, frtCustomCondition };
+enum TFilterRowType : std::uint8_t { frtSimpleCondition, frtBracket, frtCustomCondition, frtSQLFragment };
 /// How a bracket joins its rows: all (AND), any (OR), none (NOT of OR), not all (NOT of AND). The ordinals are stored.
 enum TFilterLinkType : std::uint8_t { fltAll, fltAny, fltNone, fltNotAll };
 using TFilterLinkTypes = TSet<TFilterLinkType>;
@@ -60,7 +60,8 @@ class TFilterRow {
   /// their first row goes on or their last one off, and all rows of a bracket with it.
   bool GetEnabled() const { return FEnabled; }
   void SetEnabled(bool enabled);
-  /// Whether the row belongs to HAVING: a condition on an aggregate field; a bracket whose first condition is one.
+  /// Whether the row belongs to HAVING: a condition on an aggregate field; SQL of which that is told; a bracket whose
+  /// first condition is one.
   virtual bool GetIsHavingRow() const = 0;
   /// Whether views hide the row. Default false.
   bool GetHidden() const { return FHidden; }
@@ -149,6 +150,9 @@ class TFilterBracket final : public TFilterRow {
   TSimpleCond& InsertSimpleCondByNum(int rowNum);
   class TCustomCond& AddCustomCond(TDSCondition& condition);
   TCustomCond& InsertCustomCondByNum(int rowNum, TDSCondition& condition);
+  /// Errors as in `TSQLFragment::SetSQLExpr`; nothing is added then.
+  class TSQLFragment& AddSQLFragment(std::string_view sql);
+  TSQLFragment& InsertSQLFragmentByNum(int rowNum, std::string_view sql);
   /// Destroys the row; the panel chooses another current row if it was that one.
   void DeleteRow(std::size_t index);
   void ClearRows();
@@ -340,6 +344,52 @@ class TCustomCond final : public TFilterCond {
 
   TDSCondition* FCondition;
   std::int32_t FMissingID = 0;
+};
+
+/// A condition as SQL, written into the statement as it stands: no values, nothing replaced. Only panels that allow it
+/// (`AllowSQLFragments`) build statements with it.
+class TSQLFragment final : public TFilterCond {
+ public:
+  explicit TSQLFragment(TJQueryPanel& panel) : TFilterCond(frtSQLFragment, panel) {}
+
+  const std::string& GetSQLExpr() const override { return FSQLExpr; }
+  /// Blanks at both ends are cut off. Raises `EJQueryPanelError` for what is not one closed expression: an empty text,
+  /// brackets or quotes that do not pair, a comment, a ";", a clause or comma outside brackets, a place for a value
+  /// ("?", ":Name", "$1", "@Name").
+  void SetSQLExpr(std::string_view sql);
+  /// Whether the row belongs to HAVING. Default false.
+  bool GetHaving() const { return FHaving; }
+  void SetHaving(bool having);
+  /// Why no statement can be built with the row: a query text gave it a text that `SetSQLExpr` would refuse, or the
+  /// panel does not allow SQL. Empty when one can.
+  std::string GetFault() const;
+
+  bool GetIsHavingRow() const override { return FHaving; }
+  /// Those that the text mentions, but for what a select within it has in its own FROM.
+  const TSimpleDSTableList& GetTables() const override;
+  int GetValueCount() const override { return 0; }
+  TValueKind GetValueKind(int) const override { return vkScalar; }
+  TFieldType GetValueType(int) const override { return ftString; }
+  int GetValueSize(int) const override { return 0; }
+  std::string GetValueName(int) const override { return "SQL"; }
+  TDSValueEditor* GetValueEditor(int) const override { return nullptr; }
+  std::string GetMissing() const override { return {}; }
+
+ private:
+  friend class TQueryReader;
+  friend class TSQLBuilder;
+  void Resolve() override { FTablesRevision = 0; }
+  bool Forget(const void* part) override;
+  void StoreSQLExpr(std::string_view sql);
+  // The model's quote symbol for names.
+  char OpenQuote() const;
+  std::string TextFault() const;
+
+  std::string FSQLExpr;
+  bool FHaving = false;
+  // The tables, kept for one revision of the model; 0 for none.
+  mutable TSimpleDSTableList FTables;
+  mutable std::uint64_t FTablesRevision = 0;
 };
 
 }  // namespace tolvi

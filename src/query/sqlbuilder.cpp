@@ -134,12 +134,19 @@ void TSQLBuilder::CollectTables(const TFilterBracket& bracket, bool having) {
     if (!row.GetEnabled() || row.GetIsHavingRow() != having) continue;
     if (row.GetRowType() == frtBracket) {
       CollectTables(static_cast<const TFilterBracket&>(row), having);
-      continue;
+    } else {
+      CollectTables(static_cast<const TFilterCond&>(row));
     }
-    const auto& condition = static_cast<const TFilterCond&>(row);
-    if (std::string missing = condition.GetMissing(); !missing.empty()) throw EJQueryPanelError(0, missing);
-    AddTables(condition.GetTables());
   }
+}
+
+void TSQLBuilder::CollectTables(const TFilterCond& condition) {
+  if (std::string missing = condition.GetMissing(); !missing.empty()) throw EJQueryPanelError(0, missing);
+  if (condition.GetRowType() == frtSQLFragment) {
+    const std::string fault = static_cast<const TSQLFragment&>(condition).GetFault();
+    if (!fault.empty()) throw EJQueryPanelError(0, "Row %s: %s", {condition.GetRowID().substr(1), fault});
+  }
+  AddTables(condition.GetTables());
 }
 
 void TSQLBuilder::WarnOfJoins() {
@@ -173,7 +180,9 @@ void TSQLBuilder::BuildResultFields() {
     anyAggregate = anyAggregate || field.GetAgregate();
     for (const TDSField* dsField : field.DSFields()) AddTables(dsField->Tables());
     if (field.GetSorting() == stNoSort) continue;
-    TTerm term{field.GetSortOrder(), byName ? field.GetOrderName() : std::to_string(field.GetNumber())};
+    if (field.GetHidden()) WarnOfHiddenSorting(field);
+    TTerm term{field.GetSortOrder(),
+               byName || field.GetHidden() ? field.GetOrderName() : std::to_string(field.GetNumber())};
     term.text += field.GetSorting() == stAscending ? " ASC" : " DESC";
     const auto place =
         std::find_if(terms.begin(), terms.end(), [&term](const TTerm& other) { return other.order > term.order; });
@@ -189,9 +198,20 @@ void TSQLBuilder::BuildResultFields() {
     if (!result.FGroupClause.empty()) result.FGroupClause += ", ";
     field.AppendSQLExpr(result.FGroupClause);
   }
-  if (fields.GetJustSorting() && !result.FGroupClause.empty()) {
+  if (fields.GetShowsAll() && !result.FGroupClause.empty()) {
     FShapeWarnings.push_back({{}, "Sorting by an aggregate groups the rows, although no column is chosen"});
   }
+}
+
+// Where all columns are shown, those of the tables are among them.
+void TSQLBuilder::WarnOfHiddenSorting(const TResultField& field) {
+  const TQueryResult& result = FPanel.QResult();
+  if (!result.GetSQLOptions().Contains(soSelectDistinct)) return;
+  if (result.RFields().GetShowsAll() && field.IsPlainField() && field.DSFields()[0]->GetFieldKind() == jfkData) return;
+  FShapeWarnings.push_back(
+      {{},
+       Format("The column \"%s\" sorts without being shown: with DISTINCT, many databases refuse that",
+              {field.GetCaption()})});
 }
 
 // Conditions

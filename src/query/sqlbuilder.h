@@ -48,8 +48,10 @@ class TSQLBuilder final {
   void AddTables(const TSimpleDSTableList& tables);
   void AddTable(TDSTable& table);
   void CollectTables(const TFilterBracket& bracket, bool having);
+  void CollectTables(const TFilterCond& condition);
   void BuildResultFields();
   void WarnOfJoins();
+  void WarnOfHiddenSorting(const TResultField& field);
 
   // Writes the conditions to FWhere and FHaving. The walks for one of both tell whether they wrote something.
   void WalkTree();
@@ -67,6 +69,7 @@ class TSQLBuilder final {
   // One condition.
   const std::string& TextOf(TFilterCond& condition);
   void AppendCondition(std::string& out, TFilterCond& condition);
+  void AppendFragment(std::string& out, const TSQLFragment& fragment);
   void AppendFieldExpr(std::string& out, const TFilterCond& condition) const;
   std::size_t AppendQuotedPart(std::string& out, const TFilterCond& condition, std::string_view pattern,
                                std::size_t at);

@@ -175,9 +175,7 @@ TDSField& TSQLMapper::FieldFor(const TSQLCondition& condition, const TSQLTableLi
 void TSQLMapper::CollectOperators() {
   if (FOperatorsKnown) return;
   FOperatorsKnown = true;
-  const char wildcard = FModel.SQLFormats().GetWildcardChar();
-  FOperators.reserve(FModel.GetOperatCount());
-  for (TDSOperator& op : FModel.Operators()) FOperators.push_back({&op, TSQLTemplate(op.GetSQLExpr(), wildcard)});
+  FOperators = OperatorTemplatesOf(FModel);
 }
 
 TOperatorMatch TSQLMapper::FindOperator(const TSQLCondition& condition) {

@@ -45,15 +45,7 @@ class TSQLMapper final {
   /// The first operator whose template fits; those that ignore case only if no other does.
   TOperatorMatch FindOperator(const TSQLCondition& condition);
 
-  /// How deep sub-queries may be nested: each level doubles the quotes in the query text of the one below.
-  static constexpr int MaxLevel = 8;
-
  private:
-  struct TOperatorTemplate {
-    TDSOperator* Operator;
-    TSQLTemplate Template;
-  };
-
   void WarnOfUnknownNames(const TSQLResultField& field, std::string_view formula);
   void WarnOfNegation(const TSQLBracket& bracket);
   void WarnOfNegation(const TSQLCondition& condition);

@@ -90,8 +90,9 @@ void TSQLMapper::SetSubQuery(TSimpleCond& row, const TSQLCondition& condition, s
   text = WithoutBrackets(text);
   const std::string_view value = condition.GetRightExpr();
   const std::size_t pos = PosIn(FLog.Statement(), value, condition.GetPos()) + std::min(value.find(text), value.size());
-  if (FLevel >= MaxLevel) {
-    FLog.Warn(condition.GetPos(), text, Format("left out: sub-queries are nested deeper than %d levels", {MaxLevel}));
+  if (FLevel >= MaxImportLevel) {
+    FLog.Warn(condition.GetPos(), text,
+              Format("left out: sub-queries are nested deeper than %d levels", {MaxImportLevel}));
     return;
   }
   TJQueryPanel inner;

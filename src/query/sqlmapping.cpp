@@ -10,6 +10,7 @@
 #include <tolvi/query/importreview.h>
 #include <tolvi/query/importvalues.h>
 #include <tolvi/query/querpnl.h>
+#include <tolvi/query/selectimport.h>
 #include <tolvi/query/sqlbuilder.h>
 #include <tolvi/query/sqlmapper.h>
 #include <tolvi/sqlimport/sqlpars.h>
@@ -52,7 +53,26 @@ void TJQueryPanel::ParseSQL(const TStrings& sql, const TSQLImportOptions& option
   ParseSQL(std::string_view(sql.Joined(CrLf)), options);
 }
 
-void TJQueryPanel::ParseSQL(std::string_view sql, const TSQLImportOptions& options) { ImportSQL(sql, options, 0); }
+void TJQueryPanel::ParseSQL(std::string_view sql, const TSQLImportOptions& options) {
+  if (options.Faithful) {
+    ImportSelect(sql, options);
+  } else {
+    ImportSQL(sql, options, 0);
+  }
+}
+
+void TJQueryPanel::ImportSelect(std::string_view sql, const TSQLImportOptions& options) {
+  CheckIfDBStructAssigned();
+  const TSQLFormats& formats = FDBStruct->SQLFormats();
+  FImportWarnings.clear();
+  const TSelectText text(sql, formats.GetQuoteSymbol1(), formats.GetQuoteSymbol2(), options.FirstLine);
+  TSelectLog log(text, options.Approximate);
+  ReplaceQuery([this, &text, &log] { TSelectImport(*this, text, text.All(), log).Run(); }, FActive);
+  FImportWarnings = log.Warnings();
+  std::stable_sort(FImportWarnings.begin(), FImportWarnings.end(),
+                   [](const TImportWarning& a, const TImportWarning& b) { return a.Line < b.Line; });
+  TellImport();
+}
 
 void TJQueryPanel::ImportSQL(std::string_view sql, const TSQLImportOptions& options, int level) {
   CheckIfDBStructAssigned();

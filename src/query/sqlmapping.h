@@ -15,12 +15,19 @@ struct TImportWarning {
 
   /// Both as one line for people, a long text shortened: "limit 10": left out.
   [[nodiscard]] std::string Message() const;
+  bool operator==(const TImportWarning&) const = default;
 };
 
 /// How a statement is imported.
 struct TSQLImportOptions {
   /// The number of the statement's first line, for statements that are part of a longer text.
   int FirstLine = 1;
+  /// Whether the query must say what the statement says. What a query cannot say is refused then (`ESQLImportError`),
+  /// and the panel keeps its old query. Conditions that no operator of the model says become rows that hold their SQL,
+  /// where the panel allows such rows.
+  bool Faithful = false;
+  /// Of a faithful import: whether what cannot be kept is left out or replaced, with a warning, instead of refused.
+  bool Approximate = false;
 };
 
 }  // namespace tolvi

@@ -2,6 +2,7 @@
 #include <iterator>
 
 #include <tolvi/foundation/text.h>
+#include <tolvi/model/dbstruc.h>
 #include <tolvi/query/templatematch.h>
 #include <tolvi/sqlimport/sqlresult.h>
 
@@ -14,12 +15,12 @@ constexpr char Quote = '\'';
 // The same comparison in the form that templates have.
 struct TRewrite {
   std::string_view Operation;
-  bool Negative;
+  TNegation Negation;
   std::string_view As;
 };
 constexpr TRewrite Rewrites[] = {
-    {"!=", false, "<>"},
-    {"=", true, "<>"},
+    {"!=", ngNone, "<>"},
+    {"=", ngBefore, "<>"},
 };
 
 bool IsString(const TComparisonTokens::TToken& token) { return token.Type == ttString; }
@@ -48,18 +49,27 @@ bool IsWholeLiteral(std::string_view text) {
 // ---- The comparison -------------------------------------------------------------------------------------------------
 
 void TComparisonTokens::Assign(const TSQLCondition& condition) {
-  const auto* rewrite = std::find_if(std::begin(Rewrites), std::end(Rewrites), [&condition](const TRewrite& entry) {
-    return entry.Operation == condition.GetOperation() && entry.Negative == condition.GetNegative();
+  Assign(condition.GetLeftExpr(), condition.GetOperation(), condition.GetRightExpr(),
+         condition.GetNegative() ? ngBefore : ngNone);
+}
+
+void TComparisonTokens::Assign(std::string_view left, std::string_view operation, std::string_view right,
+                               TNegation negation) {
+  const auto* rewrite = std::find_if(std::begin(Rewrites), std::end(Rewrites), [&](const TRewrite& entry) {
+    return entry.Operation == operation && entry.Negation == negation;
   });
   const bool isRewritten = rewrite != std::end(Rewrites);
-  const bool negative = condition.GetNegative() && !isRewritten;
-  FOperation = isRewritten ? std::string(rewrite->As) : condition.GetOperation();
-  FText = negative ? "not(" : "";
+  if (isRewritten) negation = ngNone;
+  FOperation = isRewritten ? rewrite->As : operation;
+  FText = negation == ngBefore ? "not(" : "";
   const std::size_t leftPos = FText.size();
-  FText.append(condition.GetLeftExpr()).append(" ");
+  FText.append(left).append(" ");
   const std::size_t leftEnd = FText.size();
-  FText.append(FOperation).append(" ").append(condition.GetRightExpr());
-  if (negative) FText += ")";
+  if (negation == ngInside && FOperation != "is") FText += "not ";
+  FText += FOperation;
+  if (negation == ngInside && FOperation == "is") FText += " not";
+  FText.append(" ").append(right);
+  if (negation == ngBefore) FText += ")";
 
   FTokens.clear();
   FLeftBegin = FLeftCount = 0;
@@ -189,7 +199,7 @@ class TSQLTemplate::TWalk {
     }
     text.erase(text.size() - expected.After.size());
     text.erase(0, expected.Before.size());
-    return Take(item, {std::move(text), true, token, token + 1});
+    return Take(item, {std::move(text), true, expected.Before, expected.After, token, token + 1});
   }
 
   // A value without quotes of its own: the shortest run of tokens, with all its brackets, after which the rest fits.
@@ -217,7 +227,7 @@ class TSQLTemplate::TWalk {
       const std::string_view text = FComparison.TextOf(token, end);
       FStepsLeft -= std::min(FStepsLeft, text.size() / BytesPerStep);
       const bool isLiteral = IsWholeLiteral(text);
-      if (Take(item, {isLiteral ? DecodeLiteral(text) : std::string(text), isLiteral, token, end})) return true;
+      if (Take(item, {isLiteral ? DecodeLiteral(text) : std::string(text), isLiteral, {}, {}, token, end})) return true;
     }
     return false;
   }
@@ -249,6 +259,14 @@ class TSQLTemplate::TWalk {
   // Templates with several values without quotes could cost the square of the text.
   std::size_t FStepsLeft;
 };
+
+std::vector<TOperatorTemplate> OperatorTemplatesOf(const TJCustomDBStructure& model) {
+  std::vector<TOperatorTemplate> templates;
+  templates.reserve(model.GetOperatCount());
+  const char wildcard = model.SQLFormats().GetWildcardChar();
+  for (TDSOperator& op : model.Operators()) templates.push_back({&op, TSQLTemplate(op.GetSQLExpr(), wildcard)});
+  return templates;
+}
 
 bool TSQLTemplate::Match(const TComparisonTokens& comparison, bool withWildcards, TValueCaptures& captures) const {
   captures = {};

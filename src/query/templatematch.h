@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,13 +12,20 @@
 
 namespace tolvi {
 
+class TDSOperator;
+class TJCustomDBStructure;
 class TSQLCondition;
+
+/// Where a "not" stands in a comparison: "not(a like b)", "a not like b" ("a is not null").
+enum TNegation : std::uint8_t { ngNone, ngBefore, ngInside };
 
 /// A value that stands in a comparison in the place of "@1" or "@2".
 struct TValueCapture {
   /// Decoded if it was a literal, else as it stands.
   std::string Text;
   bool IsLiteral = false;
+  /// What the template has beside it within the quotes of that literal.
+  std::string Before, After;
   /// Its first and, behind its last one, its end among the comparison's tokens; equal when there is no such value.
   std::size_t Begin = 0, End = 0;
 
@@ -36,12 +44,19 @@ class TComparisonTokens final {
   };
 
   void Assign(const TSQLCondition& condition);
+  /// Without an operation and a right value, `left` is the whole.
+  void Assign(std::string_view left, std::string_view operation, std::string_view right, TNegation negation);
 
   [[nodiscard]] const std::vector<TToken>& Tokens() const { return FTokens; }
   [[nodiscard]] const std::string& Operation() const { return FOperation; }
   /// The tokens of the left value.
   [[nodiscard]] std::size_t GetLeftBegin() const { return FLeftBegin; }
   [[nodiscard]] std::size_t GetLeftCount() const { return FLeftCount; }
+  /// Takes other tokens for the field of templates.
+  void SetLeft(std::size_t begin, std::size_t count) {
+    FLeftBegin = begin;
+    FLeftCount = count;
+  }
   /// The text from one token to the end of the token before another.
   [[nodiscard]] std::string_view TextOf(std::size_t begin, std::size_t end) const;
 
@@ -86,6 +101,13 @@ class TSQLTemplate final {
   char FWildcard;
   bool FUsable = true;
 };
+
+/// The templates of a model's operators, in its order.
+struct TOperatorTemplate {
+  TDSOperator* Operator;
+  TSQLTemplate Template;
+};
+[[nodiscard]] std::vector<TOperatorTemplate> OperatorTemplatesOf(const TJCustomDBStructure& model);
 
 /// The text of a literal in single quotes; whether it is one as a whole is the caller's matter.
 [[nodiscard]] std::string DecodeLiteral(std::string_view literal);

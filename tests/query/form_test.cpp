@@ -62,6 +62,7 @@ class Form : public testing::TestWithParam<bool> {
     panel.SetSQLSyntax(ssAccess);
     panel.SetSaveSQLOptions(false);
     panel.SetSQLTopClause("5");
+    panel.SetAllowSQLFragments(true);
     panel.SetTitle("ttlAll", "alle\xC3\xA4");
   }
   TForm form;
@@ -81,7 +82,7 @@ TEST_P(Form, ComesBackFromItsText) {
   EXPECT_EQ(panel.RFields()[1].GetExpression(), "{Orders.Total} * 2");
   EXPECT_EQ(panel.GetSQLOptions(), TSQLOptions({soQuoteAliases, soSortByNames, soFilter}));
   EXPECT_EQ(panel.GetTitle("ttlAll"), "alle\xC3\xA4");
-  EXPECT_TRUE(panel.GetActive());
+  EXPECT_TRUE(panel.GetActive() && panel.GetAllowSQLFragments());
   EXPECT_FALSE(panel.GetModified() || panel.GetSaveSQLOptions() || panel.IsLoading());
   EXPECT_EQ(panel.GetQueryText(), Part<TJQueryPanel>(form, "Panel1").GetQueryText());
 }

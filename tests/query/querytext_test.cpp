@@ -217,6 +217,70 @@ TEST_F(QueryText, HoldsTitlesOnDemand) {
   EXPECT_EQ(Other.GetTitle("ttlAny"), "wenigstens eine") << "a text without titles leaves them";
 }
 
+/// "the query's top, the host's top | the query's limit, the host's limit" as the statement has them.
+std::string Clauses(const TJQueryPanel& panel) {
+  return Format("%s, %s | %s, %s", {panel.GetQueryTopClause(), panel.GetSQLTopClause(), panel.GetQueryLimitClause(),
+                                    panel.GetSQLLimitClause()});
+}
+
+TEST_F(QueryText, HoldsTheClausesThatAreTheQuerysOwn) {
+  Panel.SetSQLLimitClause("1000; host");
+  Panel.SetSQLTopClause("50");
+  const std::string without = Panel.SaveToText();
+  EXPECT_EQ(without.find("50"), std::string::npos) << "the host's are none of the query";
+  Panel.SetQueryTopClause(" ( 5 )PERCENT");
+  Panel.SetQueryLimitClause("10  Offset 20");
+  EXPECT_TRUE(Panel.GetModified());
+  const std::string text = Panel.SaveToText();
+  EXPECT_EQ(text, ReplaceStr(without, "Options=0\r\n", "Options=0\r\nTop=(5) PERCENT\r\nLimit=10 Offset 20\r\n"));
+  Other.SetSQLLimitClause("7");
+  Other.LoadFromText(text);
+  EXPECT_EQ(Clauses(Other), "(5) PERCENT, (5) PERCENT | 10 Offset 20, 10 Offset 20");
+  EXPECT_EQ(Other.SaveToText(), text);
+  // A text that cannot be read changes nothing; one without clauses leaves those of the host.
+  EXPECT_THROW(Other.LoadFromText("[Main]\nTop=1\nLimit=2\nOptions=x"), EConvertError);
+  EXPECT_EQ(Clauses(Other), "(5) PERCENT, (5) PERCENT | 10 Offset 20, 10 Offset 20");
+  Other.LoadFromText(without);
+  EXPECT_EQ(Clauses(Other), ",  | , 7");
+  Other.LoadFromText(text);
+  Other.SetSQLTopClause("");
+  EXPECT_EQ(Clauses(Other), ",  | 10 Offset 20, 10 Offset 20") << "what the host sets holds";
+  Other.ClearAll();
+  EXPECT_EQ(Clauses(Other), ",  | , 7");
+  Other.SetQueryLimitClause("3,4");
+  EXPECT_EQ(Other.GetQueryLimitClause(), "3, 4");
+  Other.SetQueryLimitClause(" ");
+  EXPECT_EQ(Clauses(Other), ",  | , 7");
+}
+
+TEST_F(QueryText, TakesHarmlessClausesOnly) {
+  for (const std::string_view text :
+       {"5;", "5 --", "5/**/", "-5", "1.5", "5e1", "(5", "((5))", "5 6", "percent", "5 PERCENT x", "5 with ties", "n",
+        "\xEF\xBC\x95", "(select 1)", ":n", "?", "5 offset 6", "5, 6"}) {
+    const std::string key = "\": \"" + std::string(text) +
+                            "\" is no TOP clause of a query: write a whole number or one "
+                            "in brackets, and PERCENT behind it if need be";
+    try {
+      Panel.LoadFromText("[Main]\nTop=" + std::string(text));
+      ADD_FAILURE() << text;
+    } catch (const EConvertError& error) {
+      EXPECT_EQ(error.Message(), "Line 2, section \"Main\", key \"Top" + key);
+    }
+  }
+  for (const std::string_view text : {"5;", "5 offset", "offset 5", "5,", "5, 6, 7", "5 offset 6 rows", "(5)", "all",
+                                      "5 PERCENT", "5\n) or (1=1", "5 for update"}) {
+    try {
+      Panel.SetQueryLimitClause(text);
+      ADD_FAILURE() << text;
+    } catch (const EJQueryPanelError& error) {
+      EXPECT_EQ(error.Message(), "\"" + std::string(text) +
+                                     "\" is no LIMIT clause of a query: write a whole number n, \"n OFFSET m\" or "
+                                     "\"n, m\"");
+    }
+  }
+  EXPECT_EQ(Clauses(Panel), ",  | , ");
+}
+
 TEST_F(QueryText, ThatCannotBeReadNamesThePlaceAndLeavesTheOldQuery) {
   const std::string main = "[Main]\nVersion=3.6\nOptions=0\n\n";
   const std::string condition = main + "[Row]\nRowType=1\nRowCount=1\n[Row.1]\nRowType=0\nFieldID=1\nOperator=Equal\n";
@@ -236,8 +300,8 @@ TEST_F(QueryText, ThatCannotBeReadNamesThePlaceAndLeavesTheOldQuery) {
        "Line 6, section \"Row\", key \"RowCount\": '99999999999999999999' is not a valid integer value"},
       {main + "[Row]\nEnabled=perhaps",
        "Line 6, section \"Row\", key \"Enabled\": 'perhaps' is not a valid boolean value"},
-      {main + "[Row]\nRowCount=1\n[Row.1]\nRowType=3",
-       "Line 8, section \"Row.1\", key \"RowType\": '3' is not a valid row type"},
+      {main + "[Row]\nRowCount=1\n[Row.1]\nRowType=4",
+       "Line 8, section \"Row.1\", key \"RowType\": '4' is not a valid row type"},
       {main + "[Row]\nRowCount=1\n[Row.1]\nRowType=0\nFieldID=2147483648",
        "Line 9, section \"Row.1\", key \"FieldID\": '2147483648' is not a valid integer value"},
       {condition + "Param1=1\nPName1=1st; drop",

@@ -1,0 +1,218 @@
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include <tolvi/foundation/errors.h>
+#include <tolvi/foundation/format.h>
+#include <tolvi/foundation/text.h>
+#include <tolvi/model/dbstruc.h>
+#include <tolvi/query/importlog.h>
+#include <tolvi/query/querpnl.h>
+#include <tolvi/query/selectimport.h>
+#include <tolvi/query/selectjoins.h>
+#include <tolvi/query/sqlbuilder.h>
+
+// The whole statement: its options, conditions and tables. Columns, sorting and groups are in selectcolumns.cpp.
+
+namespace tolvi {
+
+namespace {
+
+// The tokens with one blank between them.
+std::string PlainText(const TSelectText& text, TTokenRange range) {
+  std::string plain;
+  for (std::size_t at = range.Begin; at < range.End; ++at) plain.append(plain.empty() ? "" : " ").append(text[at].Text);
+  return plain;
+}
+
+TTokenRange RangeOf(const TSelectTable& table) { return {table.Token, table.Token + table.Names.size() * 2 - 1}; }
+
+}  // namespace
+
+TSelectImport::TSelectImport(TJQueryPanel& panel, const TSelectText& text, TTokenRange range, TSelectLog& log,
+                             const TSelectScope* outer, int level)
+    : FPanel(panel),
+      FText(text),
+      FLog(log),
+      FStatement(ReadSelect(text, range, log.GetApproximate() ? &FSkipped : nullptr)),
+      FScope(*panel.GetDBStruct(), text, FStatement, log, outer),
+      FLevel(level) {}
+
+TSelectImport::~TSelectImport() = default;
+
+void TSelectImport::Run() {
+  for (const TSelectSkipped& skipped : FSkipped) FLog.Warn(skipped.Range, "left out: " + skipped.Reason);
+  FJoins = std::make_unique<TSelectJoins>(*FPanel.GetDBStruct(), FText, FStatement, FScope, FLog);
+  ReadOptions();
+  MapColumns();
+  MapSorting();
+  MapGroups();
+  MapConditions();
+  MapTables();
+  CheckAliases();
+}
+
+void TSelectImport::ReadOptions() {
+  TSQLOptions options = FPanel.GetSQLOptions();
+  const bool quotesAliases = std::any_of(FStatement.Columns.begin(), FStatement.Columns.end(),
+                                         [](const TSelectColumn& column) { return column.AliasQuoted; });
+  if (quotesAliases) options.Include(soQuoteAliases);
+  if (FStatement.Distinct) {
+    options.Include(soSelectDistinct);
+  } else {
+    options.Exclude(soSelectDistinct);
+  }
+  FPanel.SetSQLOptions(options);
+  FPanel.SetQueryTopClause(PlainText(FText, FStatement.Top));
+  FPanel.SetQueryLimitClause(PlainText(FText, FStatement.Limit));
+}
+
+// ---- Conditions -----------------------------------------------------------------------------------------------------
+
+namespace {
+
+// The condition without the predicates that are said otherwise; nothing when none is left.
+std::optional<TSelectCondition> WithoutJoins(const TSelectCondition& condition, const TSelectJoins& joins) {
+  if (joins.IsJoin(condition)) return std::nullopt;
+  TSelectCondition rest = condition;
+  if (condition.Kind != TSelectCondition::ckAll || condition.Negated) return rest;
+  rest.Nodes.clear();
+  for (const TSelectCondition& node : condition.Nodes) {
+    if (!joins.IsJoin(node)) rest.Nodes.push_back(node);
+  }
+  if (rest.Nodes.empty()) return std::nullopt;
+  if (rest.Nodes.size() > 1) return rest;
+  TSelectCondition only = std::move(rest.Nodes.front());
+  return only;
+}
+
+}  // namespace
+
+void TSelectImport::MapConditions() {
+  TSelectConditions conditions(FPanel, FText, FScope, FLog, [this](TTokenRange range) { return ReadSubQuery(range); });
+  std::optional<TSelectCondition> where;
+  if (FStatement.Where) where = WithoutJoins(*FStatement.Where, *FJoins);
+  TFilterBracket& root = FPanel.RootBracket();
+  const std::size_t parts = (where ? 1 : 0) + FJoins->Conditions().size() + (FStatement.Having ? 1 : 0);
+  const auto add = [&](const TSelectCondition& condition) {
+    const bool isRoot = condition.Kind == TSelectCondition::ckAll && !condition.Negated;
+    if (parts == 1) {
+      conditions.Fill(root, condition);
+    } else if (isRoot) {
+      for (const TSelectCondition& node : condition.Nodes) conditions.Add(root, node);
+    } else {
+      conditions.Add(root, condition);
+    }
+  };
+  FScope.SetAliasesKnown(false);
+  if (where) add(*where);
+  for (const TSelectCondition* condition : FJoins->Conditions()) add(*condition);
+  FScope.SetAliasesKnown(true);
+  conditions.SetHaving(true);
+  if (FStatement.Having) add(*FStatement.Having);
+}
+
+TSubQuery TSelectImport::ReadSubQuery(TTokenRange range) {
+  if (FLevel >= MaxImportLevel) {
+    FText.Fail(range.Begin, Format("sub-queries are nested deeper than %d levels", {MaxImportLevel}));
+  }
+  TJQueryPanel inner;
+  inner.SetDBStruct(FPanel.GetDBStruct());
+  inner.SetFormatSettings(FPanel.GetFormatSettings());
+  inner.SetSQLSyntax(FPanel.GetSQLSyntax());
+  inner.SetAllowSQLFragments(FPanel.GetAllowSQLFragments());
+  TSelectLog log(FText, FLog.GetApproximate());
+  TSelectImport(inner, FText, range, log, &FScope, FLevel + 1).Run();
+  FLog.Add(log.Warnings());
+  TSubQuery subQuery;
+  inner.SaveToStrings(subQuery.Lines);
+  subQuery.Options = inner.GetSQLOptions();
+  return subQuery;
+}
+
+// ---- Tables ---------------------------------------------------------------------------------------------------------
+
+// Whether the tables can be joined at all.
+bool TSelectImport::CollectTables() {
+  // An inactive panel has no conditions in its statement.
+  FPanel.FActive = true;
+  std::string error;
+  try {
+    FPanel.FBuilder->BuildOutline();
+  } catch (const EJQueryPanelError& caught) {
+    error = caught.Message();
+  }
+  FPanel.FActive = false;
+  if (error.empty()) return true;
+  FLog.Refuse(RangeOf(FStatement.Tables.front()), error, "the query has no statement");
+  return false;
+}
+
+void TSelectImport::MapTables() {
+  if (!CollectTables()) return;
+  const TRTableList& tables = FPanel.QResult().RTables();
+  const bool brackets = FPanel.GetSQLOptions().Contains(soBracketJoins);
+  const auto isSame = [&] {
+    if (!FJoins->IsSame(tables, brackets)) return false;
+    const std::vector<const TDSTable*> order = TJoinForm::OrderOf(tables, brackets);
+    return !IsAllColumns() || std::equal(order.begin(), order.end(), FScope.Tables().begin(), FScope.Tables().end());
+  };
+  HoldTables(false);
+  if (!CollectTables() || isSame()) return;
+  HoldTables(true);
+  if (!CollectTables() || isSame()) return;
+  FJoins->RefuseDifference(tables, brackets);
+  if (!IsAllColumns() || !FJoins->IsSame(tables, brackets)) return;
+  FLog.Refuse(RangeOf(FStatement.Tables.front()),
+              "the model joins these tables in another order, so that \"*\" would have its columns in another order");
+}
+
+void TSelectImport::HoldTables(bool inOrder) {
+  TRFieldList& columns = FPanel.RFields();
+  for (TResultField* holder : std::exchange(FHolders, {})) {
+    static_cast<void>(columns.Delete(static_cast<std::size_t>(columns.IndexOf(*holder))));
+  }
+  for (std::size_t i = 0; i < FScope.Tables().size(); ++i) {
+    const TDSTable* table = FScope.Tables()[i];
+    if (table != nullptr && (inOrder || !FPanel.QResult().RTables().Holds(*table))) HoldTable(i, inOrder);
+  }
+}
+
+// A column that is not shown, and changes neither sorting nor groups.
+void TSelectImport::HoldTable(std::size_t index, bool inOrder) {
+  const TDSTable* table = FScope.Tables()[index];
+  const TDSFieldList& fields = FPanel.GetDBStruct()->Fields();
+  const auto found = std::find_if(fields.begin(), fields.end(), [table](const TDSField& field) {
+    return field.GetFieldKind() == jfkData && field.GetTable() == table;
+  });
+  if (found == fields.end()) {
+    FLog.Refuse(RangeOf(FStatement.Tables[index]),
+                Format("no field of \"%s\" is in the model, so that no query can have the table: add one",
+                       {table->GetWhereExpr()}));
+    return;
+  }
+  std::unique_ptr<TResultField> column = FPanel.RFields().CreateRField();
+  column->SetFormula(IsGrouped() ? "count(@1)" : "@1");
+  column->AddDSField(*found);
+  column->SetHidden(true);
+  TRFieldList& columns = FPanel.RFields();
+  TResultField& holder = columns.InsertRField(inOrder ? FHolders.size() : columns.Count(), std::move(column));
+  holder.GenerateCaption();
+  FHolders.push_back(&holder);
+}
+
+// ---- Aliases --------------------------------------------------------------------------------------------------------
+
+void TSelectImport::CheckAliases() {
+  FPanel.RFields().RegenerateAliases();
+  for (std::size_t i = 0; i < FColumns.size(); ++i) {
+    const TSelectColumn& column = FStatement.Columns[i];
+    if (column.Alias.empty() || SameText(column.Alias, FColumns[i]->GetAlias())) continue;
+    FLog.Refuse({column.AliasToken, column.AliasToken + 1},
+                Format("a query would call this column \"%s\": choose another alias, of which there is no second one",
+                       {FColumns[i]->GetAlias()}),
+                "not kept");
+  }
+}
+
+}  // namespace tolvi

@@ -1,0 +1,242 @@
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+#include <tolvi/foundation/format.h>
+#include <tolvi/foundation/text.h>
+#include <tolvi/model/dbstruc.h>
+#include <tolvi/query/selectscope.h>
+#include <tolvi/sqlimport/scanner.h>
+
+// Names: which column a name means, and SQL written in the names of the model. Tables are in selecttables.cpp.
+
+namespace tolvi {
+
+namespace {
+
+// Words that stand between operands, so that a name may follow them.
+constexpr std::string_view ConnectingWords[] = {"when", "then",  "else", "glob", "ilike",  "similar",
+                                                "to",   "match", "div",  "mod",  "regexp", "rlike"};
+constexpr std::string_view Aggregates[] = {"sum", "count", "max", "min", "avg"};
+
+template <std::size_t Size>
+bool IsOneOf(std::string_view word, const std::string_view (&words)[Size]) {
+  return std::any_of(std::begin(words), std::end(words),
+                     [word](std::string_view entry) { return AsciiSameText(entry, word); });
+}
+
+}  // namespace
+
+std::string SQLKey(std::string_view sql) {
+  std::string key;
+  TJScanner scanner;
+  scanner.SetSource(sql);
+  for (scanner.FirstToken(); !scanner.EOS(); scanner.NextToken()) {
+    const std::string_view token = scanner.GetTokStr();
+    if (token == "\"" || token == "`" || token == "[" || token == "]") continue;
+    if (token != "." && !key.ends_with('.') && !key.empty()) key += ' ';
+    key += token;
+  }
+  return key;
+}
+
+TDSField* TSelectScope::ColumnOf(const TDSTable& table, std::string_view column) const {
+  std::string name;
+  table.AppendWhereExpr(name);
+  return FModel.FieldByName(fnSQLExpr, name.append(".").append(column));
+}
+
+// ---- Names ----------------------------------------------------------------------------------------------------------
+
+// What is called like a column but cannot be one: a type before a literal ("date '2020-01-01'") or behind "as", a
+// collation, a unit, and other words behind an operand.
+bool TSelectScope::MayBeColumn(std::size_t token, std::size_t end, std::size_t begin) const {
+  if (FText[end].Kind == stkString) return false;
+  if (token == begin) return true;
+  const TSelectToken& before = FText[token - 1];
+  if (before.Word == swAs || before.Kind == stkNumber || before.Kind == stkString || before.Word == swClose)
+    return false;
+  if (before.IsName() && !IsOneOf(before.Text, ConnectingWords)) return false;
+  const bool isUnit = before.Word == swOpen && FText[end].Word == swFrom && token > 1 &&
+                      AsciiSameText(FText[token - 2].Text, "extract");
+  return !isUnit;
+}
+
+TSelectName TSelectScope::NameOf(TTokenRange range) const {
+  if (range.Empty()) return {};
+  const TSelectName name = NameAt(range.Begin, range.Begin);
+  return name.Count == range.Count() ? name : TSelectName();
+}
+
+TSelectName TSelectScope::NameAt(std::size_t token, std::size_t begin) const {
+  if (!FText[token].IsName() || (token > 0 && FText[token - 1].Word == swPoint)) return {};
+  std::size_t parts = 1, end = token + 1;
+  bool isAll = false;
+  for (; !isAll && FText[end].Word == swPoint; end += 2, ++parts) {
+    isAll = FText[end + 1].Word == swStar;
+    if (!isAll && !FText[end + 1].IsName()) return {};
+  }
+  if (FText[end].Word == swOpen) return {};
+  if (parts > 1) return Qualified(token, parts, isAll);
+  return MayBeColumn(token, end, begin) ? Unqualified(token) : TSelectName();
+}
+
+TSelectName TSelectScope::Qualified(std::size_t token, std::size_t parts, bool isAll) const {
+  const std::size_t table = TableFor(token, parts - 1);
+  TSelectName name{.Count = parts * 2 - 1, .IsAll = isAll};
+  if (table < FTables.size()) {
+    name.Table = FTables[table];
+    const std::string column = isAll ? std::string() : FText[token + name.Count - 1].Name();
+    if (name.Table != nullptr && !isAll) name.Field = ColumnOf(*name.Table, column);
+    return name;
+  }
+  const std::string qualifier(FText.TextOf({token, token + name.Count - 2}));
+  const bool isOuter = FOuter != nullptr && FOuter->TableFor(token, parts - 1) < FOuter->FTables.size();
+  FLog.Refuse({token, token + name.Count},
+              Format(isOuter ? "\"%s\" is a table of the statement round the sub-query, which a query cannot refer to"
+                             : "\"%s\" is no table of the statement",
+                     {qualifier}),
+              "kept word for word");
+  return name;
+}
+
+TSelectName TSelectScope::Unqualified(std::size_t token) const {
+  const std::string column = FText[token].Name();
+  TSelectName name{.Count = 1};
+  for (TDSTable* table : FTables) {
+    TDSField* field = table != nullptr ? ColumnOf(*table, column) : nullptr;
+    if (field == nullptr) continue;
+    if (name.Field != nullptr && name.Table != table) {
+      FLog.Refuse({token, token + 1},
+                  Format("\"%s\" is a column of \"%s\" and of \"%s\": write its table before it",
+                         {column, name.Table->GetWhereExpr(), table->GetWhereExpr()}),
+                  "taken as that of the first table");
+      return name;
+    }
+    name.Table = table;
+    name.Field = field;
+  }
+  if (name.Field == nullptr && FOuter != nullptr && FOuter->Unqualified(token).Field != nullptr) {
+    FLog.Refuse(
+        {token, token + 1},
+        Format("\"%s\" is a column of the statement round the sub-query, which a query cannot refer to", {column}),
+        "kept word for word");
+  }
+  return name;
+}
+
+TDSField* TSelectScope::FieldOf(TTokenRange range) const {
+  range = FText.WithoutBrackets(range);
+  if (range.Empty()) return nullptr;
+  if (const TSelectName name = NameOf(range); name.Count > 0) {
+    const TTokenRange expr = ExprOfAlias(range.Begin, name);
+    return expr.Empty() ? name.Field : FieldOf(expr);
+  }
+  if (!FVirtualsKnown) {
+    FVirtualsKnown = true;
+    for (TDSField& field : FModel.Fields()) {
+      if (field.GetFieldKind() == jfkVirtual) FVirtuals.try_emplace(SQLKey(field.GetSQLExpr()), &field);
+    }
+  }
+  if (FVirtuals.empty()) return nullptr;
+  const auto found = FVirtuals.find(SQLKey(Resolved(range)));
+  return found == FVirtuals.end() ? nullptr : found->second;
+}
+
+// What an alias of the select list stands for; empty for what is none. An expression that holds its own alias means a
+// column.
+TTokenRange TSelectScope::ExprOfAlias(std::size_t token, const TSelectName& name) const {
+  if (!FAliasesKnown || name.Count != 1 || name.Field != nullptr) return {};
+  const std::string alias = FText[token].Name();
+  for (const TSelectColumn& column : FStatement.Columns) {
+    if (column.Alias.empty() || !SameText(column.Alias, alias)) continue;
+    const bool isInside = token >= column.Expr.Begin && token < column.Expr.End;
+    return isInside ? TTokenRange() : column.Expr;
+  }
+  return {};
+}
+
+bool TSelectScope::IsCall(TTokenRange expr) const {
+  return expr.Count() > 2 && FText[expr.Begin].IsName() && FText[expr.Begin + 1].Word == swOpen &&
+         FText[expr.Begin + 1].Partner + 1U == expr.End;
+}
+
+// ---- SQL in the names of the model ----------------------------------------------------------------------------------
+
+void TSelectScope::Walk(TTokenRange range, const TTextHandler& onText, const TFieldHandler& onField) const {
+  std::string quoted;
+  for (std::size_t at = range.Begin; at < range.End;) {
+    const TSelectToken& token = FText[at];
+    if (at > range.Begin) {
+      const TSelectToken& before = FText[at - 1];
+      const bool isCall = token.Word == swOpen && before.IsName() && IsOneOf(before.Text, Aggregates);
+      if (before.Pos + before.Text.size() < token.Pos && !isCall) onText(" ");
+    }
+    if (const std::size_t end = EndOfSubQuery(at); end > at) {
+      AppendSubQuery({at, end}, onText);
+      at = end;
+      continue;
+    }
+    const TSelectName name = NameAt(at, range.Begin);
+    if (const TTokenRange expr = ExprOfAlias(at, name); !expr.Empty()) {
+      const bool isOperand = range.Count() == 1 || expr.Count() == 1 || IsCall(expr);
+      if (!isOperand) onText("(");
+      FAliasesKnown = false;
+      Walk(expr, onText, onField);
+      FAliasesKnown = true;
+      if (!isOperand) onText(")");
+    } else if (name.Field != nullptr) {
+      onField(*name.Field);
+    } else if (name.Table != nullptr) {
+      onText(name.Table->GetWhereExpr() + "." + std::string(FText[at + name.Count - 1].Text));
+    } else {
+      onText(FText.TextOf({at, at + std::max<std::size_t>(name.Count, 1)}));
+    }
+    at += std::max<std::size_t>(name.Count, 1);
+  }
+}
+
+std::string TSelectScope::Resolved(TTokenRange range) const {
+  std::string sql;
+  Walk(
+      range, [&sql](std::string_view text) { sql += text; }, [&sql](TDSField& field) { sql += field.GetSQLExpr(); });
+  return sql;
+}
+
+// Where a select in brackets that begins at the token ends; the token for any other.
+std::size_t TSelectScope::EndOfSubQuery(std::size_t token) const {
+  return FText[token].Word == swOpen && FText[token + 1].Word == swSelect ? FText[token].Partner + 1U : token;
+}
+
+// A sub-query has names of its own; only those of this statement's tables are written anew.
+void TSelectScope::AppendSubQuery(TTokenRange range, const TTextHandler& onText) const {
+  for (std::size_t at = range.Begin; at < range.End; ++at) {
+    if (at > range.Begin && FText[at - 1].Pos + FText[at - 1].Text.size() < FText[at].Pos) onText(" ");
+    const bool qualifies = FText[at].IsName() && FText[at + 1].Word == swPoint && FText[at - 1].Word != swPoint;
+    const std::size_t table = qualifies ? TableFor(at, 1) : FTables.size();
+    if (table < FTables.size() && FTables[table] != nullptr && !IsDeclaredIn(range, at)) {
+      onText(FTables[table]->GetWhereExpr());
+    } else {
+      onText(FText[at].Text);
+    }
+  }
+}
+
+// Whether the name also stands alone in the range, as a table or an alias does.
+bool TSelectScope::IsDeclaredIn(TTokenRange range, std::size_t token) const {
+  const std::string name = FText[token].Name();
+  for (std::size_t at = range.Begin; at < range.End; ++at) {
+    if (FText[at].IsName() && FText[at + 1].Word != swPoint && SameText(FText[at].Name(), name)) return true;
+  }
+  return false;
+}
+
+std::size_t TSelectScope::FindParam(TTokenRange range) const {
+  for (std::size_t at = range.Begin; at < range.End; ++at) {
+    if (FText[at].Kind == stkParam) return at;
+  }
+  return range.End;
+}
+
+}  // namespace tolvi
