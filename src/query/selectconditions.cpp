@@ -35,6 +35,16 @@ void TSelectConditions::Fill(TFilterBracket& bracket, const TSelectCondition& co
   for (const TSelectCondition& node : condition.Nodes) Add(bracket, node);
 }
 
+void TSelectConditions::FillRoot(TFilterBracket& root, const TSelectCondition& condition) {
+  const bool isGroup = condition.Kind != TSelectCondition::ckPredicate;
+  const auto match = isGroup && !FHaving ? FindCustom(condition, condition.Negated) : std::nullopt;
+  if (match) {
+    AddMatch(root, *match);
+  } else {
+    Fill(root, condition);
+  }
+}
+
 void TSelectConditions::Add(TFilterBracket& bracket, const TSelectCondition& condition) {
   try {
     if (condition.Kind == TSelectCondition::ckPredicate) {
@@ -49,7 +59,7 @@ void TSelectConditions::Add(TFilterBracket& bracket, const TSelectCondition& con
 
 void TSelectConditions::AddBracket(TFilterBracket& bracket, const TSelectCondition& condition) {
   if (!FHaving) {
-    if (const auto match = FindCustom(condition.Range, condition.Negated)) return AddMatch(bracket, *match);
+    if (const auto match = FindCustom(condition, condition.Negated)) return AddMatch(bracket, *match);
   }
   TFilterBracket& inner = bracket.AddNewBracket();
   Fill(inner, condition);
@@ -70,8 +80,8 @@ void TSelectConditions::AddPredicate(TFilterBracket& bracket, const TSelectCondi
     return true;
   };
   if (!FHaving) {
-    if (add(FindCustom(condition.Range, condition.Negated), false)) return;
-    if (condition.Negated && add(FindCustom(condition.Range, false), true)) return;
+    if (add(FindCustom(condition, condition.Negated), false)) return;
+    if (condition.Negated && add(FindCustom(condition, false), true)) return;
   }
   if (add(FindMatch(condition, negative), false) || (negative && add(FindMatch(condition, false), true))) return;
   if (add(FindByColumns(condition, condition.Negated), false) ||

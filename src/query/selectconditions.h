@@ -36,6 +36,8 @@ class TSelectConditions final {
   /// Makes the bracket say what the condition says; adds it to a bracket as a row or a bracket. `left` are
   /// predicates that are left out, in their order.
   void Fill(TFilterBracket& bracket, const TSelectCondition& condition);
+  /// The same for the root, whose conditions may all together be a predefined one.
+  void FillRoot(TFilterBracket& root, const TSelectCondition& condition);
   void Add(TFilterBracket& bracket, const TSelectCondition& condition);
 
  private:
@@ -69,7 +71,7 @@ class TSelectConditions final {
   void AddFragment(TFilterBracket& bracket, const TSelectCondition& condition);
   static void SetValues(TFilterCond& row, const TMatch& match);
 
-  std::optional<TMatch> FindCustom(TTokenRange range, bool negative);
+  std::optional<TMatch> FindCustom(const TSelectCondition& condition, bool negative);
   [[nodiscard]] std::optional<TMatch> MatchCustom() const;
   std::optional<TMatch> FindMatch(const TSelectCondition& condition, bool negative);
   std::optional<TMatch> FindOperator(const TComparison& comparison, TNegation negation);

@@ -97,7 +97,7 @@ void TSelectImport::MapConditions() {
   const auto add = [&](const TSelectCondition& condition) {
     const bool isRoot = condition.Kind == TSelectCondition::ckAll && !condition.Negated;
     if (parts == 1) {
-      conditions.Fill(root, condition);
+      conditions.FillRoot(root, condition);
     } else if (isRoot) {
       for (const TSelectCondition& node : condition.Nodes) conditions.Add(root, node);
     } else {

@@ -34,7 +34,8 @@ const std::vector<TOperatorTemplate>& TSelectConditions::Operators() {
 
 // ---- Predefined conditions ------------------------------------------------------------------------------------------
 
-std::optional<TSelectConditions::TMatch> TSelectConditions::FindCustom(TTokenRange range, bool negative) {
+std::optional<TSelectConditions::TMatch> TSelectConditions::FindCustom(const TSelectCondition& condition,
+                                                                       bool negative) {
   if (FModel.Conditions().Count() == 0) return std::nullopt;
   if (!std::exchange(FCustomsKnown, true)) {
     const char wildcard = FModel.SQLFormats().GetWildcardChar();
@@ -42,11 +43,18 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::FindCustom(TTokenRan
       FCustoms.push_back({&condition, TSQLTemplate(condition.GetSQLExpr(), wildcard)});
     }
   }
-  const std::string sql = FScope.Resolved(range);
-  FTokens.Assign(negative ? "not " + sql : sql, {}, {}, ngNone);
-  if (auto match = MatchCustom(); match || !negative) return match;
-  FTokens.Assign(sql, {}, {}, ngBefore);
-  return MatchCustom();
+  const std::string sql = FScope.Resolved(condition.Range);
+  std::vector<std::string> forms;
+  if (negative) forms.push_back("not (" + sql + ")");
+  if (negative && condition.Kind == TSelectCondition::ckPredicate) forms.push_back("not " + sql);
+  // Beside other conditions, "a or b" without brackets would be torn apart.
+  if (!negative && condition.Kind != TSelectCondition::ckAny) forms.push_back(sql);
+  if (!negative && condition.Kind != TSelectCondition::ckPredicate) forms.push_back("(" + sql + ")");
+  for (const std::string& form : forms) {
+    FTokens.Assign(form, {}, {}, ngNone);
+    if (auto match = MatchCustom()) return match;
+  }
+  return std::nullopt;
 }
 
 std::optional<TSelectConditions::TMatch> TSelectConditions::MatchCustom() const {

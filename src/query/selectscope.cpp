@@ -215,19 +215,28 @@ void TSelectScope::AppendSubQuery(TTokenRange range, const TTextHandler& onText)
     if (at > range.Begin && FText[at - 1].Pos + FText[at - 1].Text.size() < FText[at].Pos) onText(" ");
     const bool qualifies = FText[at].IsName() && FText[at + 1].Word == swPoint && FText[at - 1].Word != swPoint;
     const std::size_t table = qualifies ? TableFor(at, 1) : FTables.size();
-    if (table < FTables.size() && FTables[table] != nullptr && !IsDeclaredIn(range, at)) {
-      onText(FTables[table]->GetWhereExpr());
-    } else {
+    if (table == FTables.size() || FTables[table] == nullptr || IsDeclaredIn(range, FText[at].Name())) {
       onText(FText[at].Text);
+      continue;
     }
+    const std::string& alias = FTables[table]->GetTableAlias();
+    if (IsDeclaredIn(range, alias)) {
+      FLog.Refuse(
+          {at, at + 1},
+          Format("the model calls this table \"%s\", as the sub-query calls one of its own: give that one an alias",
+                 {alias}),
+          "taken as the table of the sub-query");
+    }
+    onText(FTables[table]->GetWhereExpr());
   }
 }
 
-// Whether the name also stands alone in the range, as a table or an alias does.
-bool TSelectScope::IsDeclaredIn(TTokenRange range, std::size_t token) const {
-  const std::string name = FText[token].Name();
+// Whether the name also stands alone in the range, as an alias does, and a table without one.
+bool TSelectScope::IsDeclaredIn(TTokenRange range, std::string_view name) const {
   for (std::size_t at = range.Begin; at < range.End; ++at) {
-    if (FText[at].IsName() && FText[at + 1].Word != swPoint && SameText(FText[at].Name(), name)) return true;
+    const TSelectToken& next = FText[at + 1];
+    if (!FText[at].IsName() || next.Word == swPoint || next.Word == swAs || next.IsName()) continue;
+    if (SameText(FText[at].Name(), name)) return true;
   }
   return false;
 }

@@ -79,7 +79,7 @@ class TSelectScope final {
   [[nodiscard]] bool IsCall(TTokenRange expr) const;
   [[nodiscard]] std::size_t EndOfSubQuery(std::size_t token) const;
   void AppendSubQuery(TTokenRange range, const TTextHandler& onText) const;
-  [[nodiscard]] bool IsDeclaredIn(TTokenRange range, std::size_t token) const;
+  [[nodiscard]] bool IsDeclaredIn(TTokenRange range, std::string_view name) const;
 
   TJCustomDBStructure& FModel;
   const TSelectText& FText;

@@ -218,9 +218,10 @@ bool BindsLoosely(const std::vector<TToken>& tokens) {
 
 // ---- Tables ---------------------------------------------------------------------------------------------------------
 
-// A name that stands alone is a table, an alias or a column of the select; what stands before a point is not.
+// A name that stands alone is an alias of the select, a table without one, or a column.
 bool StandsAlone(const TSelectText& text, std::size_t token) {
-  return text[token].IsName() && text[token + 1].Word != swPoint && text[token - 1].Word != swPoint;
+  const TSelectToken& next = text[token + 1];
+  return text[token].IsName() && next.Word != swPoint && next.Word != swAs && !next.IsName();
 }
 
 void BlankInnerTables(const TSelectText& text, std::size_t open, std::string& sql) {

@@ -235,6 +235,39 @@ TEST_F(SelectImport, WarnsInsteadWhenApproximating) {
       "for it ! \"union select 1\": left out: UNION: a query is one SELECT; import each of them on its own");
 }
 
+TEST_F(SelectImport, LetsASubQueryKeepTheTablesItHas) {
+  EXPECT_EQ(
+      Import("select o.Total from Orders o where exists (select 1 from Orders where Orders.Total > o.Total)", true),
+      "! Line 1, column 86: the model calls this table \"Orders\", as the sub-query calls one of its own: give that "
+      "one an alias");
+  EXPECT_EQ(Import("select o.Total from Orders o where exists (select 1 from Orders x where x.Total > o.Total)", true),
+            "SELECT Orders.Total FROM Orders WHERE ( exists (select 1 from Orders x where x.Total > Orders.Total) )");
+}
+
+TEST_F(SelectImport, TakesPredefinedConditionsOfSeveralComparisons) {
+  for (const auto& [format, sql] : {std::pair("Small or early", "(Orders.Total < 5 or Orders.SaleDate < '2020-01-01')"),
+                                    std::pair("Torn apart", "Orders.Total < 6 or Orders.SaleDate < '2020-01-01'"),
+                                    std::pair("Large and late", "Orders.Total > 5 and Orders.SaleDate > '2020-01-01'"),
+                                    std::pair("Not both", "not (Orders.Total = 1 and Orders.OrderNo = 1)")}) {
+    auto condition = std::make_unique<TDSCondition>(model.get());
+    condition->SetDisplayFormat(format);
+    condition->SetSQLExpr(sql);
+    model->Conditions().Add(std::move(condition));
+  }
+  const auto rows = [this](std::string_view where) {
+    Import("select OrderNo from Orders where " + std::string(where));
+    const std::string text = Sentences();
+    return text.substr(0, text.find("|Result"));
+  };
+  EXPECT_EQ(rows("Total < 5 or SaleDate < '2020-01-01'"),
+            "Choose records where all of the following apply|  Small or early");
+  EXPECT_EQ(rows("(Total < 6 or SaleDate < '2020-01-01') and OrderNo = 1"),
+            "Choose records where all of the following apply|  any of the following apply|    Total is less than 6|    "
+            "Sale date is less than 2020-01-01|  Order no is equal to 1");
+  EXPECT_EQ(rows("(Total > 5 and SaleDate > '2020-01-01') or not (Total = 1 and OrderNo = 1)"),
+            "Choose records where any of the following apply|  Large and late|  Not both");
+}
+
 TEST_F(SelectImport, TakesPredefinedConditionsWithTheirValues) {
   Import("select OrderNo from Orders where SaleDate between '2025-01-01' and :Last or not (ShipDate is null)");
   EXPECT_EQ(Sentences(),
