@@ -179,6 +179,22 @@ void TJDBInfo::GetLinkList(TStrings& links) {
   LinksByDatabase(links);
 }
 
+void TJDBInfo::GetViewNames(TStrings& views) {
+  if (OnViewsRequest) {
+    OnViewsRequest(*this, views);
+  } else {
+    ViewsByDatabase(views);
+  }
+}
+
+void TJDBInfo::GetKeyNames(std::string_view tableName, TStrings& keys) {
+  if (OnKeysRequest) {
+    OnKeysRequest(*this, tableName, keys);
+  } else {
+    KeysByTable(tableName, keys);
+  }
+}
+
 const TDBFieldList& TJDBInfo::GetFieldList(std::string_view tableName) {
   if (tableName == FCurrentTableName) return FFields;
   FCurrentTableName = tableName;
@@ -255,7 +271,11 @@ void TJDBInfo::TablesByDatabase(TStrings& /*list*/) {}
 
 void TJDBInfo::LinksByDatabase(TStrings& /*list*/) {}
 
+void TJDBInfo::ViewsByDatabase(TStrings& /*list*/) {}
+
 void TJDBInfo::FieldsByTable(std::string_view /*tableName*/, TDBFieldList& /*fieldList*/) {}
+
+void TJDBInfo::KeysByTable(std::string_view /*tableName*/, TStrings& /*list*/) {}
 
 bool TJDBInfo::GetSQLValues(std::string_view /*sql*/, TStrings& /*values*/, TStrings& /*items*/) { return false; }
 

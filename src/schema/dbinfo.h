@@ -104,6 +104,8 @@ using TDBNamesRequestEvent = std::function<void(TJDBInfo& sender, TStrings& dbNa
 using TTablesRequestEvent = std::function<void(TJDBInfo& sender, TStrings& tableList)>;
 using TLinksRequestEvent = std::function<void(TJDBInfo& sender, TStrings& links)>;
 using TFieldsRequestEvent = std::function<void(TJDBInfo& sender, std::string_view tableName, TDBFieldList& fieldList)>;
+using TViewsRequestEvent = std::function<void(TJDBInfo& sender, TStrings& views)>;
+using TKeysRequestEvent = std::function<void(TJDBInfo& sender, std::string_view tableName, TStrings& keys)>;
 using TGetSQLValueEvent =
     std::function<void(TJDBInfo& sender, std::string_view sql, TStrings& values, TStrings& captions)>;
 
@@ -122,6 +124,9 @@ class TJDBInfo : public TComponent {
   TLinksRequestEvent OnLinksRequest;
   /// Asked for the fields of a table, to be added to a list that is empty.
   TFieldsRequestEvent OnFieldsRequest;
+  /// Asked which of the tables are views, and for the columns of a table's primary key, to be added to a list.
+  TViewsRequestEvent OnViewsRequest;
+  TKeysRequestEvent OnKeysRequest;
   /// Asked to run a query and to add, row by row, the values for SQL and the texts shown for them.
   TGetSQLValueEvent OnGetSQLValues;
 
@@ -141,8 +146,13 @@ class TJDBInfo : public TComponent {
   /// Add the names to a list of the caller's.
   void GetDatabaseNames(TStrings& list);
   void GetTableNames(TStrings& tables);
-  /// Asks the handler and then the virtual operation too.
+  /// Adds the links, each as a join condition, the table that refers to the other one first. Asks the handler and then
+  /// the virtual operation too.
   void GetLinkList(TStrings& links);
+  /// Adds the names of the views, which may stand among those of the tables or not.
+  void GetViewNames(TStrings& views);
+  /// Adds the columns of the table's primary key, in its order.
+  void GetKeyNames(std::string_view tableName, TStrings& keys);
 
   /// The fields of a table. They are asked for only when the name differs (compared exactly) from the one before; if
   /// that fails, the next call asks again. The result is this component's own list, which the next call for another
@@ -181,7 +191,9 @@ class TJDBInfo : public TComponent {
   virtual void AvailableDatabases(TStrings& list);
   virtual void TablesByDatabase(TStrings& list);
   virtual void LinksByDatabase(TStrings& list);
+  virtual void ViewsByDatabase(TStrings& list);
   virtual void FieldsByTable(std::string_view tableName, TDBFieldList& fieldList);
+  virtual void KeysByTable(std::string_view tableName, TStrings& list);
   /// Returns whether the query was run; false in the base.
   virtual bool GetSQLValues(std::string_view sql, TStrings& values, TStrings& items);
 

@@ -85,6 +85,8 @@ class TKnownDBInfo final : public TJDBInfo {
   void AvailableDatabases(TStrings& list) override { list.Add("db of descendant"); }
   void TablesByDatabase(TStrings& list) override { list.Add("table of descendant"); }
   void LinksByDatabase(TStrings& list) override { list.Add("link of descendant"); }
+  void ViewsByDatabase(TStrings& list) override { list.Add("view of descendant"); }
+  void KeysByTable(std::string_view tableName, TStrings& list) override { list.Add(std::string(tableName) + "_id"); }
   void FieldsByTable(std::string_view tableName, TDBFieldList& fields) override {
     Calls.emplace_back(tableName);
     if (tableName == "broken") throw std::runtime_error("no connection");
@@ -107,6 +109,8 @@ TEST(DBInfo, IsConnectedAndKnowsNothingWithoutHandlers) {
             "");
   EXPECT_EQ(info.GetFieldsAsText("t"), "Count=0\r\n");
   EXPECT_FALSE(info.RunQuery("select", values, items));
+  info.GetViewNames(values);
+  info.GetKeyNames("t", items);
   info.GetFieldNamesByTable("t", names);
   EXPECT_TRUE(names.Empty() && values.Empty() && items.Empty());
 }
@@ -133,6 +137,23 @@ TEST(DBInfo, PrefersHandlersToTheDescendantAndAsksBothForLinks) {
   EXPECT_EQ(values, (TStrings{"select 1", "2"}));
   EXPECT_EQ(items, (TStrings{"One", "Two"}));
   EXPECT_TRUE(info.Calls.empty());
+}
+
+TEST(DBInfo, TellsOfViewsAndPrimaryKeys) {
+  TKnownDBInfo info;
+  TStrings views, keys{"kept"};
+  const auto ask = [&] {
+    info.GetViewNames(views);
+    info.GetKeyNames("t", keys);
+  };
+  ask();
+  info.OnViewsRequest = [](TJDBInfo&, TStrings& list) { list.Add("view of host"); };
+  info.OnKeysRequest = [](TJDBInfo&, std::string_view table, TStrings& list) {
+    list.Add("key of " + std::string(table));
+  };
+  ask();
+  EXPECT_EQ(views, (TStrings{"view of descendant", "view of host"}));
+  EXPECT_EQ(keys, (TStrings{"kept", "t_id", "key of t"}));
 }
 
 TEST(DBInfo, AsksForTheFieldsOfATableOnceUntilTableOrDatabaseChange) {
