@@ -245,6 +245,9 @@ class TJCustomDBStructure : public TComponent {
   /// Tells the listeners, then fires `OnChange`, which may destroy the model. A change that the handler of `OnChange`
   /// makes does not fire it again; an operation that makes several changes fires it once, at its end.
   virtual void Changed();
+  /// Calls `changes`; all that it changes is one change for listeners and `OnChange`, at the end (also when it raises).
+  /// Calls nest.
+  void AsOneChange(const std::function<void()>& changes);
   /// A number that grows with every change of the model or its parts.
   std::uint64_t GetRevision() const { return FRevision; }
   /// The listener must remove itself before it goes.
@@ -333,7 +336,6 @@ class TJCustomDBStructure : public TComponent {
       if (std::find(FListeners.begin(), FListeners.end(), listener) != FListeners.end()) call(*listener);
     }
   }
-  void AsOneChange(const std::function<void()>& changes);
   void ReleaseChanges();
   void LoadText(std::string_view text);
   void TakeContent(TJCustomDBStructure& source);

@@ -1,0 +1,141 @@
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <tolvi/model/dbstruc.h>
+#include <tolvi/model/modelfill.h>
+#include <tolvi/model/modelfill_plan.h>
+
+namespace tolvi {
+namespace {
+
+struct TReportList {
+  std::string_view Word;
+  TStrings TFillReport::*Lines;
+};
+
+constexpr TReportList ReportLists[] = {
+    {"table: ", &TFillReport::AddedTables},
+    {"group: ", &TFillReport::AddedGroups},
+    {"field: ", &TFillReport::AddedFields},
+    {"list of values: ", &TFillReport::AddedLists},
+    {"link: ", &TFillReport::AddedLinks},
+    {"vanished table: ", &TFillReport::VanishedTables},
+    {"vanished field: ", &TFillReport::VanishedFields},
+    {"vanished link: ", &TFillReport::VanishedLinks},
+    {"changed type: ", &TFillReport::ChangedTypes},
+    {"note: ", &TFillReport::Notes},
+};
+
+/// Carries a plan out.
+class TModelFiller final {
+ public:
+  TModelFiller(TJCustomDBStructure& model, const TFillPlan& plan)
+      : FModel(model), FPlan(plan), FNextID(model.GetLastFieldID()) {}
+
+  void Run() {
+    if (FPlan.AddOperators) FModel.AddDefOperators(true);
+    if (FPlan.QualifyTables) FModel.DMOptions().SetMultiDB(true);
+    if (!FPlan.FullTableName.empty()) FModel.SQLFormats().SetFullTableName(FPlan.FullTableName);
+    for (const TPlannedTable& table : FPlan.Tables)
+      FTables.push_back(table.Existing ? table.Existing : AddTable(table));
+    for (const TPlannedGroup& group : FPlan.Groups) {
+      FGroups.push_back(group.Existing ? group.Existing : &FModel.FieldGroups().AddGroup(group.Name));
+    }
+    for (const TPlannedField& field : FPlan.Fields) AddField(field);
+    for (const TPlannedLink& link : FPlan.Links) AddLink(link);
+    for (const TPlannedType& type : FPlan.Types) ChangeType(type);
+  }
+
+ private:
+  TDSTable* AddTable(const TPlannedTable& plan) {
+    auto table = std::make_unique<TDSTable>();
+    table->SetDatabaseName(plan.DatabaseName);
+    table->SetTableName(plan.Name);
+    table->SetTableAlias(plan.Alias);
+    table->SetDisplayName(plan.DisplayName);
+    table->SetQuoted(plan.Quoted);
+    return &FModel.GetTable(FModel.AddTableRef(std::move(table)));
+  }
+
+  void AddField(const TPlannedField& plan) {
+    auto added = std::make_unique<TDSField>(jfkData);
+    added->SetID(++FNextID);
+    added->SetFieldName(plan.Column);
+    added->SetDisplayName(plan.DisplayName);
+    added->SetFieldType(plan.Type);
+    added->SetFieldSize(plan.Size);
+    added->SetQuoted(plan.Quoted);
+    added->SetUseInConditions(plan.UseInConditions);
+    added->SetUseInResult(plan.UseInResult);
+    if (!plan.ListSQL.empty()) {
+      added->SetEditType(etSQL);
+      static_cast<TDSSQLEditor&>(*added->GetValueEditor()).SetSQL({plan.ListSQL});
+    }
+    TDSField& field = *added;
+    // The model asks the catalogue for fields that have a table; this one comes from there.
+    FModel.AddFieldRef(std::move(added));
+    field.SetTable(FTables[plan.Table]);
+    field.SetGroup(*FGroups[plan.Group]);
+    if (plan.UseInConditions) field.AddAppliedOperators();
+  }
+
+  void AddLink(const TPlannedLink& plan) {
+    auto link = std::make_unique<TDSLink>(*FTables[plan.Table1], *FTables[plan.Table2]);
+    link->SetFields1(plan.Fields1);
+    link->SetFields2(plan.Fields2);
+    link->SetLinkType(plan.LinkType);
+    link->SetQuoteFields(plan.QuoteFields);
+    FModel.AddLinkByRef(std::move(link));
+  }
+
+  static void ChangeType(const TPlannedType& plan) {
+    TDSField& field = *plan.Field;
+    const std::vector<TDSOperator*> before = field.Operators();
+    field.AddAppliedOperators();
+    const bool usual = field.Operators() == before;
+    field.SetFieldType(plan.Type);
+    field.SetFieldSize(plan.Size);
+    if (usual) {
+      field.AddAppliedOperators();
+    } else {
+      field.ClearOperators();
+      for (TDSOperator* op : before) field.AddOperator(*op);
+    }
+  }
+
+  TJCustomDBStructure& FModel;
+  const TFillPlan& FPlan;
+  std::int32_t FNextID;
+  std::vector<TDSTable*> FTables;
+  std::vector<TDSFieldGroup*> FGroups;
+};
+
+}  // namespace
+
+bool TFillReport::Empty() const { return *this == TFillReport(); }
+
+TStrings TFillReport::ToStrings() const {
+  TStrings lines;
+  for (const TReportList& list : ReportLists) {
+    for (const std::string& line : this->*list.Lines) lines.Add(std::string(list.Word) + line);
+  }
+  return lines;
+}
+
+TFillReport FillModel(TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options) {
+  const std::uint64_t revision = model.GetRevision();
+  TFillPlan plan = PlanFill(model, info, options);
+  if (model.GetRevision() != revision) {
+    throw EJDBStructError(0, "The model was changed while its catalogue was read: fill it again");
+  }
+  model.AsOneChange([&] { TModelFiller(model, plan).Run(); });
+  return std::move(plan.Report);
+}
+
+TFillReport PreviewFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options) {
+  return PlanFill(model, info, options).Report;
+}
+
+}  // namespace tolvi
