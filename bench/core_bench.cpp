@@ -6,6 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/import_bench.h"
 #include "bench/parser_bench.h"
 #include "bench/ratios.h"
 #include "support/models.h"
@@ -350,6 +351,7 @@ constexpr TRatio Ratios[] = {
 int main(int argc, char** argv) {
   using namespace tolvi::bench;
   std::vector<TRatio> ratios(std::begin(Ratios), std::end(Ratios));
+  ratios.insert(ratios.end(), ImportRatios().begin(), ImportRatios().end());
   ratios.insert(ratios.end(), ParserRatios().begin(), ParserRatios().end());
   return RunAndCompare(argc, argv, ratios);
 }

@@ -16,6 +16,15 @@ void FuzzModel(std::string_view text);
 /// The same with a query on a small model, whose statement is built, too.
 void FuzzQuery(std::string_view text);
 
+/// Reads the bytes as a SELECT statement and as a condition: what is read is part of the text and in its order, errors
+/// name a place.
+void FuzzSelect(std::string_view text);
+
+/// Imports the bytes as a statement, plainly and faithfully, on a small model: it becomes a query or one of the
+/// documented errors. A query that keeps the statement reads as the same query, and its own statement becomes the same
+/// statement again.
+void FuzzImport(std::string_view sql);
+
 /// What a target found.
 class TFuzzFault : public std::logic_error {
  public:

@@ -3,8 +3,9 @@
 
     doc_examples.py [--check] TOLVI DATABASE FILE...
 
-An example is a block fenced by ``` whose first line is "$ tolvi ARGUMENTS"; the rest is what the program prints, first
-standard output, then standard error. Programs run in samples/shop, where "shop.sqlite" stands for DATABASE.
+An example is a block fenced by ``` whose first line is "$ tolvi ARGUMENTS", "$ tolvi ARGUMENTS | tolvi ARGUMENTS" or
+"$ cat FILE"; the rest is what that prints, first standard output, then standard error. Programs run in samples/shop,
+where "shop.sqlite" stands for DATABASE.
 """
 import difflib
 import os
@@ -14,14 +15,20 @@ import subprocess
 import sys
 
 FOLDER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "samples", "shop")
-EXAMPLE = re.compile(r"^```\n\$ tolvi (.*)\n(?:(?!```).*\n)*```$", re.MULTILINE)
+EXAMPLE = re.compile(r"^```\n\$ ((?:tolvi|cat) .*)\n(?:(?!```).*\n)*```$", re.MULTILINE)
 
 
 def run(program, database, command):
-    arguments = [database if word == "shop.sqlite" else word for word in shlex.split(command)]
-    done = subprocess.run([program, *arguments], cwd=FOLDER, capture_output=True, encoding="utf-8", check=False)
-    printed = (done.stdout + done.stderr).replace(database, "shop.sqlite")
-    return f"```\n$ tolvi {command}\n{printed}```"
+    programs = {"tolvi": program, "cat": "cat"}
+    text, errors = "", ""
+    for part in command.split(" | "):
+        name, *arguments = [database if word == "shop.sqlite" else word for word in shlex.split(part)]
+        done = subprocess.run([programs[name], *arguments], cwd=FOLDER, input=text, capture_output=True,
+                              encoding="utf-8", check=False)
+        text = done.stdout
+        errors += done.stderr
+    printed = (text + errors).replace(database, "shop.sqlite")
+    return f"```\n$ {command}\n{printed}```"
 
 
 def main(arguments):

@@ -63,19 +63,22 @@ void TJQueryPanel::ReplaceQuery(const std::function<void()>& read, bool active) 
                     .userData = {},
                     .warnings = {}};
   parts.params.SetParentParamCount(FQResult->Params().GetParentParamCount());
-  parts.rFields.Assign(RFields());
   HoldBack();
   ++FLoading;
   const bool wasActive = FActive;
+  const TSet<TEvent> pending = FPending;
+  const bool wasModified = FModified;
+  RFields().Exchange(parts.rFields);
   ExchangeParts(parts);
   try {
-    RFields().Clear();
     read();
   } catch (...) {
     FActive = wasActive;
     ExchangeParts(parts);
     SetSQLOptions(parts.options);
-    RFields().Assign(parts.rFields);
+    RFields().Exchange(parts.rFields);
+    FPending = pending;
+    FModified = wasModified;
     --FLoading;
     --FHeldBack;
     throw;

@@ -2,6 +2,8 @@
 #include <iterator>
 #include <memory>
 #include <optional>
+#include <string>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -395,7 +397,7 @@ class TQueryWriter {
     FWriter.Key(SubQueryOptionsKey, std::int64_t{SQLOptionsToInt(condition.GetSubQueryOptions())});
     for (const TValueKeys& keys : ValueKeys) {
       const TSQLParam* param = condition.GetParam(keys.index);
-      if (param != nullptr && !param->HasAutomaticName()) FWriter.Key(keys.name, param->GetParamName());
+      if (param != nullptr && !HasNextName(*param)) FWriter.Key(keys.name, param->GetParamName());
     }
     if (isSimple) {
       // A field that an old text named and the model lacked has no ID.
@@ -405,9 +407,18 @@ class TQueryWriter {
     FWriter.Line({});
   }
 
+  // Whether the parameter is called as a reader will call it without its name.
+  bool HasNextName(const TSQLParam& param) {
+    while (FParamNames.contains("Param" + std::to_string(FNextParam))) ++FNextParam;
+    FParamNames.insert(param.GetParamName());
+    return param.GetParamName() == "Param" + std::to_string(FNextParam);
+  }
+
   const TJQueryPanel& FPanel;
   TSectionWriter FWriter;
   std::string FRowID;
+  std::unordered_set<std::string, TFoldedHash, TFoldedEqual> FParamNames;
+  std::size_t FNextParam = 1;
 };
 
 }  // namespace

@@ -257,6 +257,9 @@ class TRFieldList final {
 
  private:
   friend class TResultField;
+  friend class TJQueryPanel;
+  // Exchanges the columns, and whether they just sort; fires nothing.
+  void Exchange(TRFieldList& other);
   using TMissingHandler = std::function<void(std::string_view section, const std::string& message)>;
   TResultField& InsertContent(std::size_t index, TResultField::TContent content);
   void Adopt(TResultField& field);

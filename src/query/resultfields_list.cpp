@@ -228,6 +228,16 @@ void TRFieldList::ResolveFields() {
   if (changed) RFieldChanged();
 }
 
+void TRFieldList::Exchange(TRFieldList& other) {
+  std::swap(FItems, other.FItems);
+  std::swap(FCaptions, other.FCaptions);
+  std::swap(FJustSorting, other.FJustSorting);
+  for (TRFieldList* list : {this, &other}) {
+    ++list->FRevision;
+    for (TResultField& field : list->FItems) field.FList = list;
+  }
+}
+
 void TRFieldList::Assign(const TRFieldList& source) {
   if (&source == this) return;
   std::vector<std::unique_ptr<TResultField>> fields;

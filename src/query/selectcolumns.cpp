@@ -9,6 +9,8 @@
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/selectimport.h>
 #include <tolvi/query/selectjoins.h>
+#include <tolvi/query/uniquenames.h>
+#include <tolvi/sqlimport/selectwords.h>
 
 // The select list, ORDER BY and GROUP BY.
 
@@ -55,7 +57,7 @@ std::unique_ptr<TResultField> TSelectImport::MakeColumn(TTokenRange expr) const 
     FLog.Refuse(expr, Format("an expression of a query can refer to %d fields at most", {MostFields}), "changed");
     fields.resize(MostFields);
   }
-  if (hasSign && !fields.empty()) {
+  if (hasSign) {
     FLog.Refuse(expr,
                 "\"@\" stands for fields in the formulas of a query: make a field of the model of this expression",
                 "kept word for word");
@@ -76,32 +78,52 @@ TResultField& TSelectImport::AddColumn(std::unique_ptr<TResultField> column, std
 
 // Columns are called as the database would call them, expressions by the fields in them.
 std::string TSelectImport::CaptionOf(TTokenRange expr, const TResultField& column) const {
-  if (column.GetFormula() == "@1" && column.DSFields().front()->GetFieldKind() == jfkData) {
+  if (column.IsPlainField() && column.DSFields().front()->GetFieldKind() == jfkData) {
     return column.DSFields().front()->GetFieldName();
   }
   std::string caption;
   for (const TDSField* field : column.DSFields()) {
     caption.append(caption.empty() ? "" : ", ").append(field->GetDisplayName());
   }
-  if (!caption.empty()) return caption;
-  if (FScope.NameOf(expr).Count > 0) {
-    caption = FText[expr.End - 1].Name();
-    // A word that may be reserved by SQL.
-    if (AsciiSameText(std::string_view(caption).substr(0, 8), "current_")) caption.clear();
-  } else if (expr.Count() > 1) {
+  if (caption.empty() && FScope.NameOf(expr).Count > 0) {
+    // What stands in quotes may be reserved.
+    if (FText[expr.End - 1].Kind == stkName) caption = FText[expr.End - 1].Name();
+  } else if (caption.empty() && expr.Count() > 1 && !FScope.HasNames(expr)) {
+    // Made of names that the model does not know, it could become an alias that hides one of them.
     caption = column.GetFormula();
   }
-  return caption.empty() ? "Column " + std::to_string(FPanel.RFields().Count()) : caption;
+  // Words that are reserved by SQL can be no aliases.
+  const std::string alias = MakeSQLName(caption);
+  const bool isReserved =
+      SelectWordOf(alias) != swNone || AsciiSameText(std::string_view(alias).substr(0, 8), "current_");
+  return caption.empty() || isReserved ? "Column " + std::to_string(FPanel.RFields().IndexOf(column) + 1) : caption;
+}
+
+// "City 'Town'" has an alias to some databases, and is none to others.
+void TSelectImport::CheckOperands(TTokenRange expr) const {
+  for (std::size_t at = expr.Begin + 1; at < expr.End; ++at) {
+    const TSelectToken &before = FText[at - 1], &token = FText[at];
+    const bool isValue = token.Kind == stkString || token.Kind == stkNumber;
+    // A type before a literal ("date '2020-01-01'") is a word of its own.
+    const bool isType = before.Kind == stkName && token.Kind == stkString && FText[at - 2].Word != swPoint &&
+                        FScope.NameOf({at - 1, at}).Field == nullptr && !FScope.IsColumnOfModel(before.Text);
+    if (!isValue || !before.EndsOperand() || isType) continue;
+    FLog.Refuse({at, at + 1}, "a value follows another one: an alias stands after AS", "kept word for word");
+  }
 }
 
 void TSelectImport::MapColumns() {
   FPanel.RFields().SetJustSorting(IsAllColumns());
+  if (IsAllColumns() && FJoins->HasUsing()) {
+    FLog.Refuse(FStatement.Range, "\"*\" shows the columns after USING once, a query twice: write the columns");
+  }
   if (IsAllColumns()) return;
   for (const TSelectColumn& column : FStatement.Columns) {
     if (FScope.NameOf(column.Expr).IsAll) {
       FLog.Refuse(column.Expr, "a query names its columns: write those of the table instead of \"*\"",
                   "kept word for word");
     }
+    CheckOperands(column.Expr);
     FColumns.push_back(&AddColumn(MakeColumn(column.Expr), column.Alias));
   }
   // Last, so that none of these takes the alias of another one.
@@ -131,10 +153,25 @@ std::size_t TSelectImport::ColumnByName(TTokenRange expr, bool aliasFirst) const
   }
   if (!token.IsName() || (!aliasFirst && FScope.NameOf(expr).Field != nullptr)) return NoColumn;
   const std::string name = token.Name();
-  const auto found = std::find_if(columns.begin(), columns.end(), [&name](const TSelectColumn& column) {
-    return !column.Alias.empty() && SameText(column.Alias, name);
+  const auto find = [&columns](const auto& isIt) {
+    const auto found = std::find_if(columns.begin(), columns.end(), isIt);
+    return found == columns.end() ? NoColumn : static_cast<std::size_t>(found - columns.begin());
+  };
+  const std::size_t alias = FScope.ColumnByAlias(name), byAlias = alias < columns.size() ? alias : NoColumn;
+  if (byAlias != NoColumn && !aliasFirst && FScope.IsColumnOfModel(name) &&
+      !(FScope.NameOf(columns[alias].Expr).Count > 0 && SameText(FText[columns[alias].Expr.End - 1].Name(), name))) {
+    FLog.Refuse(
+        expr,
+        Format("\"%s\" is an alias here and may be a column of the database, too: give the column another alias",
+               {name}),
+        "taken as the alias");
+  }
+  if (byAlias != NoColumn || !aliasFirst || FScope.NameOf(expr).Field != nullptr) return byAlias;
+  // A name that the model does not know may be that of a column without an alias.
+  return find([this, &name](const TSelectColumn& column) {
+    const TTokenRange whole = FText.WithoutBrackets(column.Expr);
+    return column.Alias.empty() && FScope.NameOf(whole).Count > 0 && SameText(FText[whole.End - 1].Name(), name);
   });
-  return found == columns.end() ? NoColumn : static_cast<std::size_t>(found - columns.begin());
 }
 
 TTokenRange TSelectImport::Expanded(TTokenRange expr, bool aliasFirst) const {
@@ -144,14 +181,29 @@ TTokenRange TSelectImport::Expanded(TTokenRange expr, bool aliasFirst) const {
 
 TResultField* TSelectImport::ColumnFor(TTokenRange expr, bool aliasFirst) {
   if (const std::size_t index = ColumnByName(expr, aliasFirst); index < FColumns.size()) return FColumns[index];
-  const std::string key = SQLKey(FScope.Resolved(FText.WithoutBrackets(expr)));
-  for (TResultField& column : FPanel.RFields()) {
-    if (SQLKey(column.GetSQLExpr()) == key) return &column;
+  TRFieldList& columns = FPanel.RFields();
+  for (; FKeyed < columns.Count(); ++FKeyed) FKeys.try_emplace(SQLKey(columns[FKeyed].GetSQLExpr()), &columns[FKeyed]);
+  for (const TTokenRange range : {expr, FText.WithoutBrackets(expr)}) {
+    const auto found = FKeys.find(SQLKey(FScope.Resolved(range)));
+    if (found != FKeys.end()) return found->second;
   }
   return nullptr;
 }
 
 // ---- ORDER BY -------------------------------------------------------------------------------------------------------
+
+// Constants would be numbers of columns, and with a collation an alias goes before a column.
+void TSelectImport::CheckOrder(TTokenRange expr) {
+  bool hasName = false;
+  for (std::size_t at = expr.Begin; at < expr.End; ++at) {
+    hasName = hasName || FText[at].IsName() || FText[at].Word == swSelect;
+    if (!FText[at].IsName() || !AsciiSameText(FText[at + 1].Text, "collate")) continue;
+    if (FScope.ColumnByAlias(FText[at].Name()) < FStatement.Columns.size()) {
+      FLog.Refuse({at, at + 1}, "an alias with a collation: sort by the expression itself", "taken as the column");
+    }
+  }
+  if (!hasName) FLog.Refuse(expr, "a constant sorts nothing: leave it out");
+}
 
 void TSelectImport::MapSorting() {
   FScope.SetAliasesKnown(true);
@@ -159,7 +211,8 @@ void TSelectImport::MapSorting() {
   for (const TSelectOrder& term : FStatement.OrderBy) {
     TResultField* column = ColumnFor(term.Expr, true);
     if (column == nullptr) {
-      std::unique_ptr<TResultField> hidden = MakeColumn(FText.WithoutBrackets(term.Expr));
+      CheckOrder(term.Expr);
+      std::unique_ptr<TResultField> hidden = MakeColumn(term.Expr);
       hidden->SetHidden(!IsAllColumns());
       column = &AddColumn(std::move(hidden), {});
       column->SetCaption(CaptionOf(term.Expr, *column));
@@ -183,8 +236,10 @@ bool TSelectImport::IsGrouped() const {
 void TSelectImport::MapGroups() {
   std::vector<std::string> groups;
   for (const TTokenRange& group : FStatement.GroupBy) {
-    const TTokenRange expr = FText.WithoutBrackets(Expanded(group, false));
-    groups.push_back(SQLKey(FScope.Resolved(expr)));
+    const TTokenRange expr = Expanded(group, false);
+    for (const TTokenRange range : {expr, FText.WithoutBrackets(expr)}) {
+      groups.push_back(SQLKey(FScope.Resolved(range)));
+    }
     if (ColumnFor(group, false) != nullptr) continue;
     std::unique_ptr<TResultField> hidden = MakeColumn(expr);
     hidden->SetHidden(true);
@@ -203,24 +258,40 @@ void TSelectImport::MapGroups() {
   AddColumn(std::move(count), "count(*)");
 }
 
+namespace {
+
+// Where such SQL stands in GROUP BY, it may mean the column of that number.
+bool IsNumber(std::string_view sql) {
+  const std::size_t digit = sql.find_first_not_of("+-(. ");
+  return digit < sql.size() && sql[digit] >= '0' && sql[digit] <= '9' &&
+         sql.find_first_not_of("+-0123456789eE(). ", digit) == std::string_view::npos;
+}
+
+// Why a column cannot be one of a query with groups, with a place for its SQL; empty if it can.
+std::string_view GroupFault(const TResultField& column, bool isWritten) {
+  if (column.GetAgregate()) return isWritten ? "\"%s\" is an aggregate, by which a query does not group" : "";
+  if (IsNumber(column.GetSQLExpr())) {
+    return "\"%s\" would be the number of a column in the GROUP BY of the query: leave it out";
+  }
+  return isWritten ? ""
+                   : "a query with aggregates groups by every other column, the statement not by \"%s\": add it to "
+                     "GROUP BY";
+}
+
+}  // namespace
+
 // A query groups by all columns that are no aggregates.
 void TSelectImport::CheckGroups(const std::vector<std::string>& groups) {
   if (!IsGrouped()) return;
   for (std::size_t i = 0; i < FPanel.RFields().Count(); ++i) {
     const TResultField& column = FPanel.RFields()[i];
     const bool isWritten = std::find(groups.begin(), groups.end(), SQLKey(column.GetSQLExpr())) != groups.end();
-    if (column.GetAgregate() ? !isWritten : isWritten) continue;
+    const std::string_view fault = GroupFault(column, isWritten);
+    if (fault.empty()) continue;
     const TTokenRange range = i < FColumns.size()          ? FStatement.Columns[i].Expr
                               : FStatement.OrderBy.empty() ? FStatement.Range
                                                            : FStatement.OrderBy.front().Expr;
-    FLog.Refuse(
-        range,
-        Format(column.GetAgregate()
-                   ? "\"%s\" is an aggregate, by which a query does not group"
-                   : "a query with aggregates groups by every other column, the statement not by \"%s\": add it "
-                     "to GROUP BY",
-               {column.GetSQLExpr()}),
-        "grouped by the other columns");
+    FLog.Refuse(range, Format(fault, {column.GetSQLExpr()}), "grouped by the other columns");
   }
 }
 

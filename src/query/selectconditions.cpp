@@ -36,13 +36,7 @@ void TSelectConditions::Fill(TFilterBracket& bracket, const TSelectCondition& co
 }
 
 void TSelectConditions::FillRoot(TFilterBracket& root, const TSelectCondition& condition) {
-  const bool isGroup = condition.Kind != TSelectCondition::ckPredicate;
-  const auto match = isGroup && !FHaving ? FindCustom(condition, condition.Negated) : std::nullopt;
-  if (match) {
-    AddMatch(root, *match);
-  } else {
-    Fill(root, condition);
-  }
+  if (condition.Kind == TSelectCondition::ckPredicate || !AddCustom(root, condition)) Fill(root, condition);
 }
 
 void TSelectConditions::Add(TFilterBracket& bracket, const TSelectCondition& condition) {
@@ -58,9 +52,7 @@ void TSelectConditions::Add(TFilterBracket& bracket, const TSelectCondition& con
 }
 
 void TSelectConditions::AddBracket(TFilterBracket& bracket, const TSelectCondition& condition) {
-  if (!FHaving) {
-    if (const auto match = FindCustom(condition, condition.Negated)) return AddMatch(bracket, *match);
-  }
+  if (AddCustom(bracket, condition)) return;
   TFilterBracket& inner = bracket.AddNewBracket();
   Fill(inner, condition);
   // A bracket whose rows are all brackets does not count as one of HAVING.
@@ -73,22 +65,34 @@ void TSelectConditions::AddPredicate(TFilterBracket& bracket, const TSelectCondi
   FSubQueryError.reset();
   const bool negative = condition.Negated != condition.NotInside;
   const auto add = [this, &bracket](const std::optional<TMatch>& match, bool inNone) {
-    if (!match) return false;
-    TFilterBracket& target = inNone ? bracket.AddNewBracket() : bracket;
-    if (inNone) target.SetLinkType(fltNone);
-    AddMatch(target, *match);
-    return true;
+    if (match) AddMatch(inNone ? AddNone(bracket) : bracket, *match);
+    return match.has_value();
   };
-  if (!FHaving) {
-    if (add(FindCustom(condition, condition.Negated), false)) return;
-    if (condition.Negated && add(FindCustom(condition, false), true)) return;
-  }
+  if (AddCustom(bracket, condition)) return;
   if (add(FindMatch(condition, negative), false) || (negative && add(FindMatch(condition, false), true))) return;
   if (add(FindByColumns(condition, condition.Negated), false) ||
       (condition.Negated && add(FindByColumns(condition, false), true))) {
     return;
   }
   AddFragment(bracket, condition);
+}
+
+// Whether a predefined condition says it, or its contrary.
+bool TSelectConditions::AddCustom(TFilterBracket& bracket, const TSelectCondition& condition) {
+  if (FHaving) return false;
+  if (const auto match = FindCustom(condition, condition.Negated)) {
+    AddMatch(bracket, *match);
+    return true;
+  }
+  const auto contrary = condition.Negated ? FindCustom(condition, false) : std::nullopt;
+  if (contrary) AddMatch(AddNone(bracket), *contrary);
+  return contrary.has_value();
+}
+
+TFilterBracket& TSelectConditions::AddNone(TFilterBracket& bracket) {
+  TFilterBracket& none = bracket.AddNewBracket();
+  none.SetLinkType(fltNone);
+  return none;
 }
 
 void TSelectConditions::AddMatch(TFilterBracket& bracket, const TMatch& match) {

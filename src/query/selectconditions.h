@@ -52,11 +52,13 @@ class TSelectConditions final {
     TDSCondition* Custom = nullptr;
     std::array<TValue, 2> Values;
     std::optional<TSubQuery> SubQuery;
+    // How much of a pattern the operator brings with it.
+    std::size_t PatternSize = 0;
   };
-  // A comparison in the names of the model, with its field on the left.
+  // A comparison in the names of the model, with a field on the left.
   struct TComparison {
     TDSField* Field;
-    std::string Left, Operation, Right;
+    std::string Operation, Right;
     TTokenRange RightRange;
     bool IgnoringCase = false;
   };
@@ -67,6 +69,8 @@ class TSelectConditions final {
 
   void AddBracket(TFilterBracket& bracket, const TSelectCondition& condition);
   void AddPredicate(TFilterBracket& bracket, const TSelectCondition& condition);
+  bool AddCustom(TFilterBracket& bracket, const TSelectCondition& condition);
+  static TFilterBracket& AddNone(TFilterBracket& bracket);
   void AddMatch(TFilterBracket& bracket, const TMatch& match);
   void AddFragment(TFilterBracket& bracket, const TSelectCondition& condition);
   static void SetValues(TFilterCond& row, const TMatch& match);
@@ -84,6 +88,8 @@ class TSelectConditions final {
   [[nodiscard]] bool FitValues(TMatch& match, const TValueCaptures& captures, int count, TValueKind kind,
                                TFieldType type) const;
   [[nodiscard]] bool IsUsable(const TDSField* field) const;
+  [[nodiscard]] bool IsSelect(TTokenRange range) const;
+  [[nodiscard]] std::string ValueText(TTokenRange range) const;
   [[nodiscard]] const std::vector<TOperatorTemplate>& Operators();
 
   TJQueryPanel& FPanel;
@@ -95,6 +101,8 @@ class TSelectConditions final {
   TComparisonTokens FTokens;
   std::vector<TOperatorTemplate> FOperators;
   std::vector<TCustomTemplate> FCustoms;
+  // In tokens; what is longer is no predefined condition.
+  std::size_t FLongestCustom = 0;
   bool FHaving = false, FOperatorsKnown = false, FCustomsKnown = false;
   // Why the select of the current predicate is no query.
   std::optional<ESQLImportError> FSubQueryError;

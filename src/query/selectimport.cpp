@@ -41,8 +41,9 @@ TSelectImport::TSelectImport(TJQueryPanel& panel, const TSelectText& text, TToke
 TSelectImport::~TSelectImport() = default;
 
 void TSelectImport::Run() {
+  CheckText();
   for (const TSelectSkipped& skipped : FSkipped) FLog.Warn(skipped.Range, "left out: " + skipped.Reason);
-  FJoins = std::make_unique<TSelectJoins>(*FPanel.GetDBStruct(), FText, FStatement, FScope, FLog);
+  FJoins = std::make_unique<TSelectJoins>(*FPanel.GetDBStruct(), FStatement, FScope, FLog);
   ReadOptions();
   MapColumns();
   MapSorting();
@@ -50,6 +51,19 @@ void TSelectImport::Run() {
   MapConditions();
   MapTables();
   CheckAliases();
+}
+
+// Quotes of other databases are read as something else.
+void TSelectImport::CheckText() const {
+  for (std::size_t at = FStatement.Range.Begin; at < FStatement.Range.End; ++at) {
+    const bool isBracket =
+        FText[at].Kind == stkSymbol && FText[at].Text == "[" &&
+        (at == FStatement.Range.Begin || !FText[at - 1].EndsOperand() || FText[at - 1].Word == swPoint);
+    if (!isBracket && FText[at].Text != "`") continue;
+    const TSQLFormats& formats = FPanel.GetDBStruct()->SQLFormats();
+    FText.Fail(at, Format("names stand between %s and %s in this database, as the formats of the model say",
+                          {std::string(1, formats.GetQuoteSymbol1()), std::string(1, formats.GetQuoteSymbol2())}));
+  }
 }
 
 void TSelectImport::ReadOptions() {
@@ -120,8 +134,10 @@ TSubQuery TSelectImport::ReadSubQuery(TTokenRange range) {
   inner.SetDBStruct(FPanel.GetDBStruct());
   inner.SetFormatSettings(FPanel.GetFormatSettings());
   inner.SetSQLSyntax(FPanel.GetSQLSyntax());
+  inner.SetSQLOptions(FPanel.GetSQLOptions());
   inner.SetAllowSQLFragments(FPanel.GetAllowSQLFragments());
-  TSelectLog log(FText, FLog.GetApproximate());
+  // Where the whole condition can be kept as SQL, nothing in it needs to be approximated.
+  TSelectLog log(FText, FLog.GetApproximate() && !FPanel.GetAllowSQLFragments());
   TSelectImport(inner, FText, range, log, &FScope, FLevel + 1).Run();
   FLog.Add(log.Warnings());
   TSubQuery subQuery;
@@ -152,17 +168,20 @@ void TSelectImport::MapTables() {
   if (!CollectTables()) return;
   const TRTableList& tables = FPanel.QResult().RTables();
   const bool brackets = FPanel.GetSQLOptions().Contains(soBracketJoins);
+  const auto& own = FScope.Tables();
+  const bool ordered = IsAllColumns() && std::find(own.begin(), own.end(), nullptr) == own.end();
   const auto isSame = [&] {
     if (!FJoins->IsSame(tables, brackets)) return false;
+    if (!ordered) return true;
     const std::vector<const TDSTable*> order = TJoinForm::OrderOf(tables, brackets);
-    return !IsAllColumns() || std::equal(order.begin(), order.end(), FScope.Tables().begin(), FScope.Tables().end());
+    return std::equal(order.begin(), order.end(), own.begin(), own.end());
   };
   HoldTables(false);
   if (!CollectTables() || isSame()) return;
   HoldTables(true);
   if (!CollectTables() || isSame()) return;
   FJoins->RefuseDifference(tables, brackets);
-  if (!IsAllColumns() || !FJoins->IsSame(tables, brackets)) return;
+  if (!ordered || !FJoins->IsSame(tables, brackets)) return;
   FLog.Refuse(RangeOf(FStatement.Tables.front()),
               "the model joins these tables in another order, so that \"*\" would have its columns in another order");
 }
@@ -204,6 +223,12 @@ void TSelectImport::HoldTable(std::size_t index, bool inOrder) {
 // ---- Aliases --------------------------------------------------------------------------------------------------------
 
 void TSelectImport::CheckAliases() {
+  FPanel.RFields().RegenerateAliases();
+  // An alias that the query makes must not hide a column that stands word for word.
+  for (std::size_t i = 0; i < FColumns.size(); ++i) {
+    if (!FStatement.Columns[i].Alias.empty() || FScope.NameOf(FStatement.Columns[i].Expr).Count > 0) continue;
+    if (FScope.IsKeptName(FColumns[i]->GetAlias())) FColumns[i]->SetCaption("Column " + std::to_string(i + 1));
+  }
   FPanel.RFields().RegenerateAliases();
   for (std::size_t i = 0; i < FColumns.size(); ++i) {
     const TSelectColumn& column = FStatement.Columns[i];

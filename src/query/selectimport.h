@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include <tolvi/query/joinform.h>
@@ -40,6 +41,9 @@ class TSelectImport final {
   void CheckAliases();
 
   [[nodiscard]] bool IsAllColumns() const;
+  void CheckText() const;
+  void CheckOperands(TTokenRange expr) const;
+  void CheckOrder(TTokenRange expr);
   // A column that is in no list yet.
   [[nodiscard]] std::unique_ptr<TResultField> MakeColumn(TTokenRange expr) const;
   TResultField& AddColumn(std::unique_ptr<TResultField> column, std::string_view caption);
@@ -67,6 +71,9 @@ class TSelectImport final {
   std::unique_ptr<TSelectJoins> FJoins;
   // The columns of the select list, in its order.
   std::vector<TResultField*> FColumns;
+  // The first column of each SQL, of so many columns.
+  std::unordered_map<std::string, TResultField*> FKeys;
+  std::size_t FKeyed = 0;
   // Those that only bring a table into the statement.
   std::vector<TResultField*> FHolders;
 };

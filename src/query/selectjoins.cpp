@@ -31,9 +31,9 @@ bool HasKey(const TJoinComparisons& comparisons, std::string_view key) {
 
 }  // namespace
 
-TSelectJoins::TSelectJoins(const TJCustomDBStructure& model, const TSelectText& text, const TSelectStatement& statement,
+TSelectJoins::TSelectJoins(const TJCustomDBStructure& model, const TSelectStatement& statement,
                            const TSelectScope& scope, TSelectLog& log)
-    : FModel(model), FText(text), FStatement(statement), FScope(scope), FLog(log) {
+    : FModel(model), FStatement(statement), FScope(scope), FLog(log) {
   const auto& tables = scope.Tables();
   if (std::find(tables.begin(), tables.end(), nullptr) != tables.end()) return;
   FForm = FormOf(*statement.From);
@@ -51,7 +51,7 @@ TTokenRange TSelectJoins::From() const {
 bool TSelectJoins::ComparesColumns(const TSelectCondition& condition) const {
   const auto isColumn = [this](TTokenRange range) { return FScope.NameOf(range).Table != nullptr; };
   return condition.Kind == TSelectCondition::ckPredicate && !condition.Negated && !condition.NotInside &&
-         condition.Operation.find_first_not_of("<>=!") == std::string::npos && isColumn(condition.Left) &&
+         StrInList(condition.Operation, {"=", "<>", "!=", "<", ">", "<=", ">="}) && isColumn(condition.Left) &&
          isColumn(condition.Right);
 }
 
@@ -85,6 +85,10 @@ TJoinComparisons TSelectJoins::UsingOf(const TSelectSource& source) const {
   std::vector<TDSTable*> lefts, rights;
   CollectTables(*source.Left, lefts);
   CollectTables(*source.Right, rights);
+  if (lefts.size() > 1 || rights.size() > 1 || source.Join == sjRight || source.Join == sjFull) {
+    FLog.Refuse({source.Token, source.Token + 1},
+                "which tables' columns USING joins here depends on the database: write the condition with ON");
+  }
   TJoinComparisons comparisons;
   for (const TDSTable* left : lefts) {
     for (const TDSTable* right : rights) {

@@ -16,13 +16,16 @@ class TJCustomDBStructure;
 /// The joins of a statement, beside those that a query makes of the links of its model.
 class TSelectJoins final {
  public:
-  TSelectJoins(const TJCustomDBStructure& model, const TSelectText& text, const TSelectStatement& statement,
-               const TSelectScope& scope, TSelectLog& log);
+  TSelectJoins(const TJCustomDBStructure& model, const TSelectStatement& statement, const TSelectScope& scope,
+               TSelectLog& log);
 
   /// Whether the condition of WHERE is a join by a link of the model.
   [[nodiscard]] bool IsJoin(const TSelectCondition& condition) const;
   /// The conditions after ON that are no links and say the same in WHERE.
   [[nodiscard]] const std::vector<const TSelectCondition*>& Conditions() const { return FConditions; }
+
+  /// Whether a column stands after USING, so that "*" shows it once.
+  [[nodiscard]] bool HasUsing() const { return HasUsing(*FStatement.From); }
 
   /// Whether the query with these tables joins as the statement does; why it does not, and where.
   [[nodiscard]] bool IsSame(const TRTableList& tables, bool brackets) const;
@@ -33,6 +36,9 @@ class TSelectJoins final {
     TTokenRange Range;
     std::string Reason;
   };
+  static bool HasUsing(const TSelectSource& source) {
+    return source.Left != nullptr && (!source.Using.empty() || HasUsing(*source.Left) || HasUsing(*source.Right));
+  }
   TJoinForm FormOf(const TSelectSource& source);
   TJoinComparisons ComparisonsOfSource(const TSelectSource& source) const;
   // Whether it compares two columns, so that it rejects rows in which one has no value.
@@ -47,7 +53,6 @@ class TSelectJoins final {
   [[nodiscard]] TTokenRange From() const;
 
   const TJCustomDBStructure& FModel;
-  const TSelectText& FText;
   const TSelectStatement& FStatement;
   const TSelectScope& FScope;
   TSelectLog& FLog;

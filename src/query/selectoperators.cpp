@@ -21,6 +21,9 @@ constexpr TSymbol Symbols[] = {
     {"=", "="}, {"<>", "<>"}, {"!=", "!="}, {"<", ">"}, {">", "<"}, {"<=", ">="}, {">=", "<="},
 };
 
+// Longer ones than a predefined condition and such a list of values are none.
+constexpr std::size_t MostListTokens = 4000;
+
 bool IsParamName(std::string_view text) {
   return text.size() > 1 && text.front() == ':' && text.find_first_of(" \t\r\n,()'\"", 1) == std::string_view::npos;
 }
@@ -41,8 +44,11 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::FindCustom(const TSe
     const char wildcard = FModel.SQLFormats().GetWildcardChar();
     for (TDSCondition& condition : FModel.Conditions()) {
       FCustoms.push_back({&condition, TSQLTemplate(condition.GetSQLExpr(), wildcard)});
+      FLongestCustom = std::max(FLongestCustom, FCustoms.back().Template.Count());
     }
+    FLongestCustom += MostListTokens;
   }
+  if (condition.Range.Count() > FLongestCustom) return std::nullopt;
   const std::string sql = FScope.Resolved(condition.Range);
   std::vector<std::string> forms;
   if (negative) forms.push_back("not (" + sql + ")");
@@ -83,21 +89,31 @@ bool TSelectConditions::IsUsable(const TDSField* field) const {
   return field != nullptr && field->GetIsAggregate() == FHaving;
 }
 
+// Whether it is a select in brackets.
+bool TSelectConditions::IsSelect(TTokenRange range) const {
+  return range.Count() > 2 && FText[range.Begin].Word == swOpen && FText[range.Begin].Partner + 1U == range.End &&
+         FText[range.Begin + 1].Word == swSelect;
+}
+
+// What a field is compared with. Of a select, only its place counts.
+std::string TSelectConditions::ValueText(TTokenRange range) const {
+  return IsSelect(range) ? "(select)" : FScope.Resolved(range);
+}
+
 // With the field on the left: as written, with the sides exchanged, without the function that makes small letters.
 std::vector<TSelectConditions::TComparison> TSelectConditions::ComparisonsFor(const TSelectCondition& condition) const {
   std::vector<TComparison> comparisons;
-  if (condition.Operation.empty()) return comparisons;
+  // "is not not null" has a "not" too many for any operator.
+  if (condition.Operation.empty() || FText[condition.Right.Begin].Word == swNot) return comparisons;
   if (TDSField* field = FScope.FieldOf(condition.Left); IsUsable(field)) {
-    comparisons.push_back({field, FScope.Resolved(condition.Left), condition.Operation,
-                           FScope.Resolved(condition.Right), condition.Right});
+    comparisons.push_back({field, condition.Operation, ValueText(condition.Right), condition.Right});
   }
   if (std::optional<TComparison> lower = WithoutLower(condition)) comparisons.push_back(*std::move(lower));
   const auto* symbol = std::find_if(std::begin(Symbols), std::end(Symbols),
                                     [&condition](const TSymbol& entry) { return entry.Text == condition.Operation; });
   if (comparisons.empty() && symbol != std::end(Symbols)) {
     if (TDSField* field = FScope.FieldOf(condition.Right); IsUsable(field)) {
-      comparisons.push_back({field, FScope.Resolved(condition.Right), std::string(symbol->Mirrored),
-                             FScope.Resolved(condition.Left), condition.Left});
+      comparisons.push_back({field, std::string(symbol->Mirrored), ValueText(condition.Left), condition.Left});
     }
   }
   return comparisons;
@@ -114,7 +130,7 @@ std::optional<TSelectConditions::TComparison> TSelectConditions::WithoutLower(co
   const TTokenRange inner{left.Begin + 2, left.End - 1};
   TDSField* field = FScope.FieldOf(inner);
   if (!IsUsable(field)) return std::nullopt;
-  TComparison comparison{field, FScope.Resolved(inner), condition.Operation, {}, condition.Right, true};
+  TComparison comparison{field, condition.Operation, {}, condition.Right, true};
   for (std::size_t at = condition.Right.Begin; at < condition.Right.End; ++at) {
     const bool isLower = isCall(at) && FText[at + 2].Kind == stkString && FText[at + 3].Word == swClose;
     const std::string_view text = FText[isLower ? at + 2 : at].Text;
@@ -145,13 +161,19 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::FindMatch(const TSel
 // The operators that the field offers go before the others.
 std::optional<TSelectConditions::TMatch> TSelectConditions::FindOperator(const TComparison& comparison,
                                                                          TNegation negation) {
-  FTokens.Assign(comparison.Left, comparison.Operation, comparison.Right, negation);
+  // Only the place of the field counts: its name could hold quotes that the tokens do not know.
+  FTokens.Assign("f", comparison.Operation, comparison.Right, negation);
+  std::optional<TMatch> best;
   for (const bool withWildcards : {false, true}) {
     for (const bool offered : {true, false}) {
       for (const TOperatorTemplate& candidate : Operators()) {
         if ((comparison.Field->IndexOfOperator(*candidate.Operator) >= 0) != offered) continue;
-        if (auto match = TryOperator(comparison, candidate, withWildcards)) return match;
+        std::optional<TMatch> match = TryOperator(comparison, candidate, withWildcards);
+        if (match && !withWildcards) return match;
+        // '%50% off%' contains "50% off" rather than starting with "%50% off".
+        if (match && (!best || match->PatternSize > best->PatternSize)) best = std::move(match);
       }
+      if (best) return best;
     }
   }
   return std::nullopt;
@@ -164,8 +186,7 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::TryOperator(const TC
   const TFieldType type = op.GetExprType() != ftUnknown ? op.GetExprType() : comparison.Field->GetFieldType();
   if ((op.GetCaseInsensative() && TextFieldTypes.Contains(type)) != comparison.IgnoringCase) return std::nullopt;
   if (!candidate.Template.HasToken(FTokens.Operation())) return std::nullopt;
-  const TTokenRange select = FText.WithoutBrackets(comparison.RightRange);
-  const bool isSubQuery = !select.Empty() && FText[select.Begin].Word == swSelect;
+  const bool isSubQuery = IsSelect(comparison.RightRange);
   if ((op.GetValueKind() == vkSubQuery) != isSubQuery) return std::nullopt;
   TMatch match;
   TValueCaptures captures;
@@ -175,7 +196,7 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::TryOperator(const TC
   if (isSubQuery) {
     if (FSubQueryError) return std::nullopt;
     try {
-      match.SubQuery = FReadSubQuery(select);
+      match.SubQuery = FReadSubQuery({comparison.RightRange.Begin + 1, comparison.RightRange.End - 1});
     } catch (const ESQLImportError& error) {
       FSubQueryError = error;
       return std::nullopt;
@@ -184,6 +205,7 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::TryOperator(const TC
   }
   if (op.GetParamCount() > captures.size()) return std::nullopt;
   if (!FitValues(match, captures, static_cast<int>(op.GetParamCount()), op.GetValueKind(), type)) return std::nullopt;
+  match.PatternSize = captures[0].Before.size() + captures[0].After.size();
   return match;
 }
 
@@ -226,17 +248,34 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::FindLike(const TComp
 // Operators in whose templates the field stands within an expression: any column may be it.
 std::optional<TSelectConditions::TMatch> TSelectConditions::FindByColumns(const TSelectCondition& condition,
                                                                           bool negative) {
-  FTokens.Assign(FScope.Resolved(condition.Range), {}, {}, negative ? ngBefore : ngNone);
+  struct TPlace {
+    TDSField* Field;
+    std::size_t Begin, End;
+  };
+  const auto hasFieldInside = [](const TOperatorTemplate& entry) { return entry.Template.HasFieldInside(); };
+  if (std::none_of(Operators().begin(), Operators().end(), hasFieldInside)) return std::nullopt;
+  constexpr std::size_t mostPlaces = 32;
+  std::string sql;
+  std::vector<TPlace> places;
+  FScope.Walk(
+      condition.Range, [&sql](std::string_view text) { sql += text; },
+      [&](TDSField& field) {
+        const std::size_t begin = sql.size();
+        sql += field.GetSQLExpr();
+        if (IsUsable(&field) && places.size() < mostPlaces) places.push_back({&field, begin, sql.size()});
+      });
+  FTokens.Assign(sql, {}, {}, negative ? ngBefore : ngNone);
   const auto& tokens = FTokens.Tokens();
-  for (std::size_t at = 0; at + 2 < tokens.size(); ++at) {
-    std::size_t end = at + 1;
-    while (end + 1 < tokens.size() && tokens[end].Text == ".") end += 2;
-    if (end == at + 1) continue;
-    TDSField* field = FModel.FieldByName(fnSQLExpr, FTokens.TextOf(at, end));
-    if (!IsUsable(field)) continue;
-    FTokens.SetLeft(at, end - at);
+  const std::size_t start = places.empty() ? 0 : tokens[FTokens.GetLeftBegin()].Pos;
+  std::size_t at = 0;
+  for (const auto& [field, begin, end] : places) {
+    while (at < tokens.size() && tokens[at].Pos < start + begin) ++at;
+    std::size_t next = at;
+    while (next < tokens.size() && tokens[next].Pos < start + end) ++next;
+    FTokens.SetLeft(at, next - at);
     for (const TOperatorTemplate& candidate : Operators()) {
       const TDSOperator& op = *candidate.Operator;
+      if (!candidate.Template.HasFieldInside()) continue;
       const TFieldType type = op.GetExprType() != ftUnknown ? op.GetExprType() : field->GetFieldType();
       if (op.GetValueKind() == vkSubQuery || (op.GetCaseInsensative() && TextFieldTypes.Contains(type))) continue;
       TMatch match;
@@ -249,7 +288,6 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::FindByColumns(const 
       match.Operator = candidate.Operator;
       return match;
     }
-    at = end - 1;
   }
   return std::nullopt;
 }

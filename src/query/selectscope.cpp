@@ -26,15 +26,31 @@ bool IsOneOf(std::string_view word, const std::string_view (&words)[Size]) {
                      [word](std::string_view entry) { return AsciiSameText(entry, word); });
 }
 
+bool IsPlainName(std::string_view name) {
+  return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) {
+    return static_cast<unsigned char>(c) >= 0x80 || (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') ||
+           (c >= 'A' && c <= 'Z') || c == '_';
+  });
+}
+
 }  // namespace
 
 std::string SQLKey(std::string_view sql) {
   std::string key;
   TJScanner scanner;
   scanner.SetSource(sql);
-  for (scanner.FirstToken(); !scanner.EOS(); scanner.NextToken()) {
-    const std::string_view token = scanner.GetTokStr();
-    if (token == "\"" || token == "`" || token == "[" || token == "]") continue;
+  const std::string_view text = scanner.GetSource();
+  scanner.FirstToken();
+  while (!scanner.EOS()) {
+    std::string token(scanner.GetTokStr());
+    const std::size_t close = token == "\"" || token == "`" ? text.find(token, scanner.GetTokEnd()) : text.npos;
+    if (close != text.npos) {
+      const std::string_view name = text.substr(scanner.GetTokEnd(), close - scanner.GetTokEnd());
+      token = IsPlainName(name) ? FoldCase(name) : "\"" + FoldCase(name) + "\"";
+      scanner.SkipTo(close + 1);
+    } else {
+      scanner.NextToken();
+    }
     if (token != "." && !key.ends_with('.') && !key.empty()) key += ' ';
     key += token;
   }
@@ -55,7 +71,8 @@ bool TSelectScope::MayBeColumn(std::size_t token, std::size_t end, std::size_t b
   if (FText[end].Kind == stkString) return false;
   if (token == begin) return true;
   const TSelectToken& before = FText[token - 1];
-  if (before.Word == swAs || before.Kind == stkNumber || before.Kind == stkString || before.Word == swClose)
+  if (before.Text.ends_with(':') || before.Word == swAs || before.Kind == stkNumber || before.Kind == stkString ||
+      before.Word == swClose)
     return false;
   if (before.IsName() && !IsOneOf(before.Text, ConnectingWords)) return false;
   const bool isUnit = before.Word == swOpen && FText[end].Word == swFrom && token > 1 &&
@@ -101,6 +118,14 @@ TSelectName TSelectScope::Qualified(std::size_t token, std::size_t parts, bool i
   return name;
 }
 
+void TSelectScope::CollectUsing(const TSelectSource& source) {
+  if (source.Left == nullptr) return;
+  FUsing.insert(source.Using.begin(), source.Using.end());
+  FOuterUsing = FOuterUsing || (!source.Using.empty() && source.Join != sjInner);
+  CollectUsing(*source.Left);
+  CollectUsing(*source.Right);
+}
+
 TSelectName TSelectScope::Unqualified(std::size_t token) const {
   const std::string column = FText[token].Name();
   TSelectName name{.Count = 1};
@@ -117,6 +142,11 @@ TSelectName TSelectScope::Unqualified(std::size_t token) const {
     name.Table = table;
     name.Field = field;
   }
+  if (FUsing.contains(column) && (name.Field == nullptr || FOuterUsing)) {
+    FLog.Refuse({token, token + 1},
+                Format("\"%s\" stands after USING and belongs to both tables: write its table before it", {column}),
+                "kept word for word");
+  }
   if (name.Field == nullptr && FOuter != nullptr && FOuter->Unqualified(token).Field != nullptr) {
     FLog.Refuse(
         {token, token + 1},
@@ -128,10 +158,16 @@ TSelectName TSelectScope::Unqualified(std::size_t token) const {
 
 TDSField* TSelectScope::FieldOf(TTokenRange range) const {
   range = FText.WithoutBrackets(range);
-  if (range.Empty()) return nullptr;
+  // A sub-query has names of its own.
+  if (range.Empty() || EndOfSubQuery(range.Begin) > range.Begin) return nullptr;
   if (const TSelectName name = NameOf(range); name.Count > 0) {
     const TTokenRange expr = ExprOfAlias(range.Begin, name);
-    return expr.Empty() ? name.Field : FieldOf(expr);
+    if (expr.Empty()) return name.Field;
+    // An alias in the expression of another one means a column.
+    FAliasesKnown = false;
+    TDSField* field = FieldOf(expr);
+    FAliasesKnown = true;
+    return field;
   }
   if (!FVirtualsKnown) {
     FVirtualsKnown = true;
@@ -144,17 +180,45 @@ TDSField* TSelectScope::FieldOf(TTokenRange range) const {
   return found == FVirtuals.end() ? nullptr : found->second;
 }
 
+std::size_t TSelectScope::ColumnByAlias(std::string_view alias) const {
+  if (FAliases.empty()) {
+    for (std::size_t i = 0; i < FStatement.Columns.size(); ++i) {
+      FAliases.try_emplace(FStatement.Columns[i].Alias, i);
+    }
+  }
+  const auto found = alias.empty() ? FAliases.end() : FAliases.find(std::string(alias));
+  return found == FAliases.end() ? FStatement.Columns.size() : found->second;
+}
+
+// The database may know columns that the model lacks; those by which it joins are known.
+bool TSelectScope::IsColumnOfModel(std::string_view name) const {
+  if (FModel.FieldByName(fnFieldExpr, name) != nullptr) return true;
+  const auto isSide = [name](const TStrings& fields) {
+    return std::any_of(fields.Lines().begin(), fields.Lines().end(), [name](std::string_view field) {
+      return SameText(field.starts_with("fld:") ? field.substr(4) : field, name);
+    });
+  };
+  return std::any_of(FModel.Links().begin(), FModel.Links().end(),
+                     [&isSide](const TDSLink& link) { return isSide(link.GetFields1()) || isSide(link.GetFields2()); });
+}
+
 // What an alias of the select list stands for; empty for what is none. An expression that holds its own alias means a
 // column.
 TTokenRange TSelectScope::ExprOfAlias(std::size_t token, const TSelectName& name) const {
   if (!FAliasesKnown || name.Count != 1 || name.Field != nullptr) return {};
   const std::string alias = FText[token].Name();
-  for (const TSelectColumn& column : FStatement.Columns) {
-    if (column.Alias.empty() || !SameText(column.Alias, alias)) continue;
-    const bool isInside = token >= column.Expr.Begin && token < column.Expr.End;
-    return isInside ? TTokenRange() : column.Expr;
+  const std::size_t index = ColumnByAlias(alias);
+  if (index == FStatement.Columns.size()) return {};
+  const TTokenRange expr = FStatement.Columns[index].Expr;
+  if (token >= expr.Begin && token < expr.End) return {};
+  if (IsColumnOfModel(alias) && !(NameOf(expr).Count > 0 && SameText(FText[expr.End - 1].Name(), alias))) {
+    FLog.Refuse(
+        {token, token + 1},
+        Format("\"%s\" is an alias here and may be a column of the database, too: give the column another alias",
+               {alias}),
+        "taken as the alias");
   }
-  return {};
+  return expr;
 }
 
 bool TSelectScope::IsCall(TTokenRange expr) const {
@@ -165,13 +229,12 @@ bool TSelectScope::IsCall(TTokenRange expr) const {
 // ---- SQL in the names of the model ----------------------------------------------------------------------------------
 
 void TSelectScope::Walk(TTokenRange range, const TTextHandler& onText, const TFieldHandler& onField) const {
-  std::string quoted;
   for (std::size_t at = range.Begin; at < range.End;) {
     const TSelectToken& token = FText[at];
     if (at > range.Begin) {
       const TSelectToken& before = FText[at - 1];
       const bool isCall = token.Word == swOpen && before.IsName() && IsOneOf(before.Text, Aggregates);
-      if (before.Pos + before.Text.size() < token.Pos && !isCall) onText(" ");
+      if (NeedsBlank(at) && !isCall) onText(" ");
     }
     if (const std::size_t end = EndOfSubQuery(at); end > at) {
       AppendSubQuery({at, end}, onText);
@@ -191,10 +254,21 @@ void TSelectScope::Walk(TTokenRange range, const TTextHandler& onText, const TFi
     } else if (name.Table != nullptr) {
       onText(name.Table->GetWhereExpr() + "." + std::string(FText[at + name.Count - 1].Text));
     } else {
+      if (name.Count == 1) FKeptNames.insert(FText[at].Name());
       onText(FText.TextOf({at, at + std::max<std::size_t>(name.Count, 1)}));
     }
     at += std::max<std::size_t>(name.Count, 1);
   }
+}
+
+// Between the token and the one before: where there is one, and where a name loses the quotes that keep it from a word.
+bool TSelectScope::NeedsBlank(std::size_t token) const {
+  const TSelectToken &before = FText[token - 1], &after = FText[token];
+  const auto isWord = [](const TSelectToken& entry) {
+    return entry.IsName() || entry.Kind == stkWord || entry.Kind == stkNumber;
+  };
+  return before.Pos + before.Text.size() < after.Pos ||
+         ((before.Kind == stkQuotedName || after.Kind == stkQuotedName) && isWord(before) && isWord(after));
 }
 
 std::string TSelectScope::Resolved(TTokenRange range) const {
@@ -204,48 +278,22 @@ std::string TSelectScope::Resolved(TTokenRange range) const {
   return sql;
 }
 
-// Where a select in brackets that begins at the token ends; the token for any other.
-std::size_t TSelectScope::EndOfSubQuery(std::size_t token) const {
-  return FText[token].Word == swOpen && FText[token + 1].Word == swSelect ? FText[token].Partner + 1U : token;
-}
-
-// A sub-query has names of its own; only those of this statement's tables are written anew.
-void TSelectScope::AppendSubQuery(TTokenRange range, const TTextHandler& onText) const {
-  for (std::size_t at = range.Begin; at < range.End; ++at) {
-    if (at > range.Begin && FText[at - 1].Pos + FText[at - 1].Text.size() < FText[at].Pos) onText(" ");
-    const bool qualifies = FText[at].IsName() && FText[at + 1].Word == swPoint && FText[at - 1].Word != swPoint;
-    const std::size_t table = qualifies ? TableFor(at, 1) : FTables.size();
-    if (table == FTables.size() || FTables[table] == nullptr || IsDeclaredIn(range, FText[at].Name())) {
-      onText(FText[at].Text);
-      continue;
-    }
-    const std::string& alias = FTables[table]->GetTableAlias();
-    if (IsDeclaredIn(range, alias)) {
-      FLog.Refuse(
-          {at, at + 1},
-          Format("the model calls this table \"%s\", as the sub-query calls one of its own: give that one an alias",
-                 {alias}),
-          "taken as the table of the sub-query");
-    }
-    onText(FTables[table]->GetWhereExpr());
-  }
-}
-
-// Whether the name also stands alone in the range, as an alias does, and a table without one.
-bool TSelectScope::IsDeclaredIn(TTokenRange range, std::string_view name) const {
-  for (std::size_t at = range.Begin; at < range.End; ++at) {
-    const TSelectToken& next = FText[at + 1];
-    if (!FText[at].IsName() || next.Word == swPoint || next.Word == swAs || next.IsName()) continue;
-    if (SameText(FText[at].Name(), name)) return true;
-  }
-  return false;
-}
-
 std::size_t TSelectScope::FindParam(TTokenRange range) const {
   for (std::size_t at = range.Begin; at < range.End; ++at) {
     if (FText[at].Kind == stkParam) return at;
   }
   return range.End;
+}
+
+bool TSelectScope::HasNames(TTokenRange range) const {
+  for (std::size_t at = range.Begin; at < range.End; ++at) {
+    if (const std::size_t end = EndOfSubQuery(at); end > at) {
+      at = end - 1;
+    } else if (NameAt(at, range.Begin).Count > 0) {
+      return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace tolvi

@@ -6,8 +6,10 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
+#include <tolvi/foundation/text.h>
 #include <tolvi/query/selectlog.h>
 #include <tolvi/sqlimport/selectreader.h>
 
@@ -60,9 +62,18 @@ class TSelectScope final {
 
   /// The first place for a value in the range; `range.End` for none.
   [[nodiscard]] std::size_t FindParam(TTokenRange range) const;
+  /// The first item of the select list with that alias; the number of items for none.
+  [[nodiscard]] std::size_t ColumnByAlias(std::string_view alias) const;
+  /// Whether a name stands in the statement's expressions word for word, without a table.
+  [[nodiscard]] bool IsKeptName(std::string_view name) const { return FKeptNames.contains(std::string(name)); }
+  /// Whether any table of the model, and so maybe one of the statement, has a column of that name.
+  [[nodiscard]] bool IsColumnOfModel(std::string_view name) const;
+  /// Whether there are names of columns in the range, sub-queries aside.
+  [[nodiscard]] bool HasNames(TTokenRange range) const;
 
  private:
   using TCandidates = std::vector<std::vector<TDSTable*>>;
+  class TSubQueryText;
 
   [[nodiscard]] std::vector<TDSTable*> CandidatesFor(const TSelectTable& table) const;
   void Assign();
@@ -73,13 +84,15 @@ class TSelectScope final {
   [[nodiscard]] bool IsCalled(std::size_t table, std::size_t token, std::size_t qualifiers) const;
   [[nodiscard]] bool MayBeColumn(std::size_t token, std::size_t end, std::size_t begin) const;
   [[nodiscard]] TSelectName Unqualified(std::size_t token) const;
+  void CollectUsing(const TSelectSource& source);
   [[nodiscard]] TSelectName Qualified(std::size_t token, std::size_t parts, bool isAll) const;
   [[nodiscard]] TDSField* ColumnOf(const TDSTable& table, std::string_view column) const;
   [[nodiscard]] TTokenRange ExprOfAlias(std::size_t token, const TSelectName& name) const;
   [[nodiscard]] bool IsCall(TTokenRange expr) const;
   [[nodiscard]] std::size_t EndOfSubQuery(std::size_t token) const;
+  [[nodiscard]] bool NeedsBlank(std::size_t token) const;
   void AppendSubQuery(TTokenRange range, const TTextHandler& onText) const;
-  [[nodiscard]] bool IsDeclaredIn(TTokenRange range, std::string_view name) const;
+  void CheckQualifier(std::size_t token, bool declared) const;
 
   TJCustomDBStructure& FModel;
   const TSelectText& FText;
@@ -87,6 +100,12 @@ class TSelectScope final {
   TSelectLog& FLog;
   const TSelectScope* FOuter;
   std::vector<TDSTable*> FTables;
+  using TNames = std::unordered_set<std::string, TFoldedHash, TFoldedEqual>;
+  mutable std::unordered_map<std::string, std::size_t, TFoldedHash, TFoldedEqual> FAliases;
+  mutable TNames FKeptNames;
+  // The columns after USING, and whether an outer join has some.
+  TNames FUsing;
+  bool FOuterUsing = false;
   // Virtual fields by their SQL, once asked for.
   mutable std::unordered_map<std::string, TDSField*> FVirtuals;
   mutable bool FVirtualsKnown = false, FAliasesKnown = false;

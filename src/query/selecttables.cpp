@@ -55,6 +55,7 @@ TSelectScope::TSelectScope(TJCustomDBStructure& model, const TSelectText& text, 
                            TSelectLog& log, const TSelectScope* outer)
     : FModel(model), FText(text), FStatement(statement), FLog(log), FOuter(outer) {
   Assign();
+  CollectUsing(*statement.From);
 }
 
 // The model's tables of that name: the one of the same alias alone, else the one that has no other alias first.

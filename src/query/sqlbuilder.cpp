@@ -5,6 +5,7 @@
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/sqlbuilder.h>
+#include <tolvi/query/sqlfragment.h>
 
 // Walking the query: tables, columns, and the tree of conditions. The texts of single conditions are made in
 // conditionsql.cpp, joins and the whole statement in queryresult.cpp.
@@ -176,7 +177,13 @@ void TSQLBuilder::BuildResultFields() {
   const bool byName = fields.GetJustSorting() || result.GetSQLOptions().Contains(soSortByNames);
   std::vector<TTerm> terms;
   bool anyAggregate = false;
+  const char openQuote = FPanel.GetDBStruct()->SQLFormats().GetQuoteSymbol1();
   for (const TResultField& field : fields) {
+    const std::string fault = FormulaFault(field.GetFormula(), openQuote, FPanel.GetAllowSQLFragments());
+    if (!fault.empty()) {
+      throw EJQueryPanelError(0, "Column \"%s\": its formula \"%s\" is no expression: %s",
+                              {field.GetCaption(), field.GetFormula(), fault});
+    }
     anyAggregate = anyAggregate || field.GetAgregate();
     for (const TDSField* dsField : field.DSFields()) AddTables(dsField->Tables());
     if (field.GetSorting() == stNoSort) continue;

@@ -96,7 +96,8 @@ std::string Split(std::string_view sql, const TReading& reading, std::vector<TTo
 constexpr std::string_view Opening = "([{", Closing = ")]}";
 
 // Words that no condition holds outside brackets.
-constexpr std::string_view ClauseWords[] = {"by", "except", "having", "intersect", "select", "union", "where"};
+constexpr std::string_view ClauseWords[] = {"by",   "except", "fetch",  "from",   "having", "intersect", "into",
+                                            "join", "limit",  "offset", "select", "union",  "where"};
 
 bool IsOneOf(std::string_view symbol, std::string_view characters) {
   return symbol.size() == 1 && characters.find(symbol) != std::string_view::npos;
@@ -161,10 +162,18 @@ class TFragmentCheck {
 
   std::string OtherFault() const {
     const TToken& token = FTokens[FAt];
-    if (token.Kind == tkLiteral && TouchesWord()) return PrefixFault(token.Text);
+    if (token.Kind == tkLiteral && TouchesWord()) {
+      if (std::string fault = PrefixFault(token.Text); !fault.empty()) return fault;
+    }
+    const bool isEscape = token.Text == "'\\'" && Before() != nullptr && Before()->IsWord("escape");
+    if (token.Kind == tkLiteral && !isEscape && token.Text.find("\\'") != std::string_view::npos) {
+      return "it holds a backslash before a quote, which some databases take for a part of the text";
+    }
     if (token.Kind != tkWord || !FOpen.empty() || (Before() != nullptr && Before()->Is("."))) return {};
     const auto isWord = [&token](std::string_view word) { return token.IsWord(word); };
     if (std::none_of(std::begin(ClauseWords), std::end(ClauseWords), isWord)) return {};
+    // "is distinct from" is a comparison.
+    if (token.IsWord("from") && Before() != nullptr && Before()->IsWord("distinct")) return {};
     return Format("it holds \"%s\", which is no part of a condition", {token.Text});
   }
 
@@ -268,6 +277,21 @@ std::string FragmentFault(std::string_view sql, char openQuote) {
     std::string fault = Split(sql, reading, tokens);
     if (fault.empty()) fault = TFragmentCheck(sql, tokens).Fault();
     if (!fault.empty()) return fault;
+  }
+  return {};
+}
+
+std::string FormulaFault(std::string_view formula, char openQuote, bool allowSelects) {
+  // Most formulas are a field alone.
+  if (formula == "@1") return {};
+  const std::string sql = ReplaceStr(formula, "@", "f");
+  std::string fault = FragmentFault(sql, openQuote);
+  if (!fault.empty() || allowSelects) return fault;
+  for (const TReading& reading : ReadingsFor(openQuote)) {
+    std::vector<TToken> tokens;
+    static_cast<void>(Split(sql, reading, tokens));
+    const auto isSelect = [](const TToken& token) { return token.IsWord("select"); };
+    if (std::any_of(tokens.begin(), tokens.end(), isSelect)) return "it holds a SELECT: allow SQL in queries";
   }
   return {};
 }

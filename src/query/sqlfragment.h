@@ -15,6 +15,10 @@ namespace tolvi {
 /// text must be closed whichever way the database reads them.
 [[nodiscard]] std::string FragmentFault(std::string_view sql, char openQuote = '"');
 
+/// The same for the formula of a column, in which "@1" and the like stand for fields. A select in it is SQL of its own,
+/// which only queries may hold that may hold conditions as SQL.
+[[nodiscard]] std::string FormulaFault(std::string_view formula, char openQuote, bool allowSelects);
+
 /// Whether the condition must stand in brackets not to take in, or be torn apart by, what stands around it.
 [[nodiscard]] bool NeedsBrackets(std::string_view sql, char openQuote = '"');
 

@@ -146,6 +146,14 @@ bool TSQLTemplate::HasToken(std::string_view operation) const {
                      [operation](const TItem& item) { return item.Kind == tiText && SameText(item.Text, operation); });
 }
 
+bool TSQLTemplate::HasFieldInside() const {
+  const auto isBefore = [](const TItem& item) {
+    return item.Kind == tiText && (item.Text == "(" || SameText(item.Text, "not"));
+  };
+  const auto first = std::find_if_not(FItems.begin(), FItems.end(), isBefore);
+  return first != FItems.end() && first->Kind != tiField;
+}
+
 bool TSQLTemplate::IsFieldAndValue(std::string_view operation) const {
   return FItems.size() == 3 && FItems[0].Kind == tiField && SameText(FItems[1].Text, operation) &&
          FItems[2].Kind == tiQuotedValue;

@@ -76,6 +76,10 @@ class TSQLTemplate final {
   /// Whether the template has that operation as a token outside literals.
   [[nodiscard]] bool HasToken(std::string_view operation) const;
 
+  [[nodiscard]] std::size_t Count() const { return FItems.size(); }
+  /// Whether the field stands within an expression, and not alone on the left, be it behind "not(".
+  [[nodiscard]] bool HasFieldInside() const;
+
   /// Whether the template is nothing but the field, that operation and a value in quotes.
   [[nodiscard]] bool IsFieldAndValue(std::string_view operation) const;
 

@@ -105,6 +105,7 @@ std::string TSelectToken::Name() const {
 TSelectText::TSelectText(std::string_view text, char open, char close, int firstLine)
     : FText(text), FFirstLine(firstLine) {
   if (const std::size_t nul = FText.find('\0'); nul != std::string::npos) FailAt(nul, "The text holds a NUL");
+  if (!IsValidUtf8(FText)) FailAt(0, "The text is no UTF-8: save it in that encoding");
   Scan(open, close);
   while (!FTokens.empty() && FTokens.back().Text == ";") FTokens.pop_back();
   FTokens.push_back({{}, FText.size(), stkEnd, swNone, 0});
@@ -130,6 +131,7 @@ void TSelectText::Scan(char open, char close) {
     if (token.Kind == stkNumber) {
       end = EndOfNumber(end);
     } else if (token.Kind == stkSymbol) {
+      if (static_cast<unsigned char>(FText[pos]) < ' ') FailAt(pos, "The text holds a control character");
       if (FText[pos] == '"' || FText[pos] == open) {
         token.Kind = stkQuotedName;
         end = EndOfQuoted(pos, FText[pos] == '"' ? '"' : close);
@@ -264,7 +266,8 @@ std::string_view TSelectText::TextOf(TTokenRange range) const {
 }
 
 TTokenRange TSelectText::WithoutBrackets(TTokenRange range) const {
-  while (range.Count() > 1 && (*this)[range.Begin].Word == swOpen && (*this)[range.Begin].Partner == range.End - 1) {
+  while (range.Count() > 1 && (*this)[range.Begin].Word == swOpen && (*this)[range.Begin].Partner == range.End - 1 &&
+         (*this)[range.Begin + 1].Word != swSelect) {
     ++range.Begin;
     --range.End;
   }
@@ -301,7 +304,9 @@ void TSelectText::Fail(std::size_t index, const std::string& reason) const {
 
 void TSelectText::FailAt(std::size_t pos, const std::string& reason) const {
   const std::size_t line = LineIndexAt(pos);
-  throw ESQLImportError(FFirstLine + static_cast<int>(line), static_cast<int>(pos - FLineStarts[line]) + 1, reason);
+  // A byte order mark is no part of the first line.
+  const std::size_t column = std::max(pos, FLineStarts[line]) - FLineStarts[line] + 1;
+  throw ESQLImportError(FFirstLine + static_cast<int>(line), static_cast<int>(column), reason);
 }
 
 }  // namespace tolvi

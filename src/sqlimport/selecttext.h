@@ -118,7 +118,7 @@ class TSelectText final {
   /// Copies the text. Names may stand in double quotes, and between `open` and `close` ("[" and "]", "`" and "`"). The
   /// statement's first line has the number `firstLine`. Raises `ESQLImportError` for a literal, a quoted name or a
   /// comment that does not end, for a bracket or "case" without its other one, for brackets nested deeper than
-  /// `MaxDepth`, for a text in dollar signs, and for a NUL.
+  /// `MaxDepth`, for a text in dollar signs, for a NUL, and for bytes that are no UTF-8.
   explicit TSelectText(std::string_view text, char open = '"', char close = '"', int firstLine = 1);
   TSelectText(const TSelectText&) = delete;
   TSelectText& operator=(const TSelectText&) = delete;
@@ -134,7 +134,7 @@ class TSelectText final {
   [[nodiscard]] TTokenRange All() const { return {0, Count()}; }
   /// The text as written from the first token of the range to the end of its last one; empty for an empty range.
   [[nodiscard]] std::string_view TextOf(TTokenRange range) const;
-  /// The range without the brackets round all of it.
+  /// The range without the brackets round all of it; those of a select stay.
   [[nodiscard]] TTokenRange WithoutBrackets(TTokenRange range) const;
 
   /// The line and column of a token; of the end, those behind the last token.

@@ -18,7 +18,11 @@ TEST(FuzzTargets, FindNothingInTheirCorpora) {
   const struct {
     const char* corpus;
     void (*run)(std::string_view text);
-  } targets[] = {{"parser", FuzzParser}, {"model", FuzzModel}, {"query", FuzzQuery}};
+  } targets[] = {{"parser", FuzzParser},
+                 {"model", FuzzModel},
+                 {"query", FuzzQuery},
+                 {"select", FuzzSelect},
+                 {"import", FuzzImport}};
   std::uintmax_t sizeOfAll = 0;
   for (const auto& [corpus, run] : targets) {
     std::size_t count = 0;

@@ -94,11 +94,15 @@ TEST_F(SelectImport, KeepsOtherConditionsAsSQLWhereThatIsAllowed) {
       {"Total = '5'", "( Orders.Total = '5' )"},
       {"ShipDate < '2025-01-01'", "( Orders.ShipDate < '2025-01-01' )"},
       {"City like 'a_c'", "( Customers.City like 'a_c' )"},
+      {"case when\"c\".City='a'then\"o\".\"Total\"else 0 end > 5",
+       "( case when Customers.City='a'then Orders.Total else 0 end > 5 )"},
+      {"x = (select max(y.Total) from Orders y)", "( x = (select max(y.Total) from Orders y) )"},
       {"lower(City) = 'Linz'", "( lower(Customers.City) = 'Linz' )"},
       {"c.CustNo in (select o.CustNo from Orders x)", "( Customers.CustNo in (select Orders.CustNo from Orders x) )"},
       {"not exists (select * from Products where Products.PartNo = o.OrderNo and o.Total in (select o.y from z o))",
-       "( not exists (select * from Products where Products.PartNo = o.OrderNo and o.Total in (select o.y from z o)) "
-       ")"},
+       "( not exists (select * from Products where Products.PartNo = Orders.OrderNo and Orders.Total in (select o.y "
+       "from "
+       "z o)) )"},
   };
   for (const auto& [condition, expected] : cases) {
     EXPECT_EQ(Where(condition).substr(0, 1), "!") << condition;
@@ -119,6 +123,11 @@ TEST_F(SelectImport, KeepsColumnsSortingAndGroups) {
        "SELECT * FROM Customers ORDER BY length(Customers.City) DESC"},
       {"select t.* from Products t", "SELECT * FROM Products"},
       {"select count ( * ) n from Orders", "SELECT count( * ) as n FROM Orders"},
+      // No alias is reserved by SQL, or hides a name that the model does not know.
+      {"select (null), -Town from Customers order by Town",
+       "SELECT (null) as Column_1, -Town as Column_2 FROM Customers ORDER BY Town ASC"},
+      {"select Customers.Town from Customers order by Town",
+       "SELECT Customers.Town as Town FROM Customers ORDER BY 1 ASC"},
       {"select City, count(distinct Company) as n, Active from Customers group by Active, 1 having n > 1 order by n",
        "SELECT Customers.City, count(distinct Customers.Company) as n, Customers.Active FROM Customers GROUP BY "
        "Customers.City, Customers.Active HAVING ( count(distinct Customers.Company) > 1 ) ORDER BY 2 ASC"},
@@ -185,6 +194,8 @@ TEST_F(SelectImport, RefusesWhatAQueryCannotSay) {
       {"select City, count(*) from Customers",
        "! Line 1, column 8: a query with aggregates groups by every other column, the statement not by "
        "\"Customers.City\": add it to GROUP BY"},
+      {"select 0, City, count(*) from Customers group by 1, 2",
+       "! Line 1, column 8: \"0\" would be the number of a column in the GROUP BY of the query: leave it out"},
       {"select Company from Customers order by 2", "! Line 1, column 40: there is no column 2 in the select list"},
       {"select c.Company from Customers c left join Orders o on o.CustNo = c.CustNo",
        "! Line 1, column 23: outer joins differ: the links of the model join these tables in another way, or in "
@@ -226,6 +237,50 @@ TEST_F(SelectImport, KeepsTheOldQueryWhenItRefuses) {
   EXPECT_EQ(panel.GetQueryLimitClause(), "");
 }
 
+TEST_F(SelectImport, RefusesWhatDatabasesReadInDifferentWays) {
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"select @1 from Customers",
+       "\"@\" stands for fields in the formulas of a query: make a field of the model of this "
+       "expression"},
+      {"select upper(Company) as City, count(*) n from Orders, Customers where Orders.CustNo = Customers.CustNo group "
+       "by "
+       "upper(Company) having PayerNo > 1",
+       "no error"},
+      {"select Total + 1 as Description, count(*) n from Orders group by Description",
+       "\"Description\" is an alias here and may be a column of the database, too: give the column another alias"},
+      {"select Qty as a, OrderNo as b from \"Order Details\" order by a collate nocase",
+       "an alias with a collation: sort by the expression itself"},
+      {"select City 'Town' from Customers", "a value follows another one: an alias stands after AS"},
+      {"select `City` from Customers",
+       "names stand between \" and \" in this database, as the formats of the model say"},
+      {"select * from Customers join Orders using (CustNo)",
+       "\"*\" shows the columns after USING once, a query twice: write the columns"},
+      {"select Company from Customers order by 1 + 1", "a constant sorts nothing: leave it out"},
+      {"select City from Customers a where exists (select 1 from Orders b where exists (select 1 from Products p where "
+       "p.PartNo = a.CustNo) union select 1 from Products a)",
+       "the model calls this table \"Customers\", as the sub-query calls one of its own: give that one an alias"},
+      {"select Company from Customers a where CustNo in (select b.CustNo from Orders b where exists (select 1 from "
+       "Products p "
+       "where p.PartNo = a.CustNo))",
+       "no error"},
+  };
+  for (const auto& [sql, reason] : cases) {
+    const std::string result = Import(sql, true);
+    const std::size_t at = result.starts_with("! ") ? result.find(": ") : std::string::npos;
+    EXPECT_EQ(at == std::string::npos ? "no error" : result.substr(at + 2), reason) << sql;
+  }
+  EXPECT_EQ(
+      Where("c.CustNo in (select b.CustNo from Orders b where exists (select 1 from Products p where p.PartNo = "
+            "c.CustNo))",
+            true),
+      "( Customers.CustNo in (select b.CustNo from Orders b where exists (select 1 from Products p where p.PartNo = "
+      "Customers.CustNo)) )")
+      << "an outer table two levels up";
+  EXPECT_EQ(Where("City is not not null", true), "( Customers.City is not not null )");
+  EXPECT_EQ(Where("c.CustNo in ((select CustNo from Orders))", true),
+            "( Customers.CustNo in ((select CustNo from Orders)) )");
+}
+
 TEST_F(SelectImport, WarnsInsteadWhenApproximating) {
   EXPECT_EQ(
       Import("select Company, x.y from Customers\nwhere City = Company and City = 'a'\nunion select 1", false, true),
@@ -233,6 +288,12 @@ TEST_F(SelectImport, WarnsInsteadWhenApproximating) {
       "word: \"x\" is no table of the statement ! \"City = Company\": left out: no field and operator of the model "
       "say this: allow SQL in queries to keep it as it is, or give the model a field, an operator or a condition "
       "for it ! \"union select 1\": left out: UNION: a query is one SELECT; import each of them on its own");
+  EXPECT_EQ(Where("c.CustNo in (select z.CustNo from Orders x)", true),
+            "( Customers.CustNo in (select z.CustNo from Orders x) )");
+  TSQLImportOptions options;
+  options.Faithful = options.Approximate = true;
+  panel.ParseSQL("select x from Nowhere", options);
+  EXPECT_EQ(panel.ImportWarnings().size(), 1U);
 }
 
 TEST_F(SelectImport, LetsASubQueryKeepTheTablesItHas) {

@@ -93,6 +93,7 @@ TEST(SelectText, RefusesWhatDoesNotEndWithItsPlace) {
       {"(case a)", "Line 1, column 2: CASE has no END"},
       {"case a", "Line 1, column 1: CASE has no END"},
       {"$q$ or $q$", "Line 1, column 1: A text between dollar signs cannot be read: put it in single quotes"},
+      {"a '\x01' \x01", "Line 1, column 7: The text holds a control character"},
       {"a\nb\0"s, "Line 2, column 2: The text holds a NUL"},
       {std::string(1001, '('), "Line 1, column 1001: Brackets are nested deeper than 1000 levels: use fewer of them"},
   };

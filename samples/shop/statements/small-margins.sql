@@ -1,0 +1,3 @@
+select ProductName, ListPrice
+from Products
+where Discontinued = 0 and ListPrice * 0.6 < PurchasePrice

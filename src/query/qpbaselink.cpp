@@ -1,0 +1,54 @@
+#include <string>
+
+#include <tolvi/query/panelview.h>
+#include <tolvi/query/qpbaselink.h>
+
+namespace tolvi {
+
+TJQPBaseLink::TJQPBaseLink(TJQueryPanel& panel) { FQueryPanel.Set(&panel); }
+
+void TJQPBaseLink::LoadCurBaseQuery() {
+  TJQueryItem* query = GetQueryBase() != nullptr ? GetQueryBase()->GetCurrentQuery() : nullptr;
+  if (query == nullptr || !FQueryPanel) return;
+  TStrings strings;
+  query->LoadContent(strings);
+  PutQueryContent(strings);
+}
+
+// The panel's handlers may destroy the link, the query and the panel.
+void TJQPBaseLink::QueryChanged(int index) {
+  if (GetQueryBase() == nullptr || index != GetQueryBase()->GetItemIndex()) return;
+  const TJQueryItem* query = GetQueryBase()->GetCurrentQuery();
+  if (query == nullptr) return;
+  const std::string name = query->GetQueryName();
+  TStrings description;
+  description.SetText(query->GetDescription());
+  TRef<TJQueryPanel> panel;
+  panel.Set(GetQueryPanel());
+  if (panel) panel->SetDescription(description);
+  if (panel) panel->SetQueryName(name);
+  if (panel && panel->GetView() != nullptr) panel->GetView()->TitlesChanged();
+}
+
+void TJQPBaseLink::QueryIndexChanged() {
+  if (GetQueryBase() != nullptr && GetQueryBase()->GetItemIndex() != -1) LoadCurBaseQuery();
+}
+
+void TJQPBaseLink::QueryListChanged(TQBOperation operation, int index) {
+  if (operation != qboItemDeleted || !FQueryPanel || GetQueryBase() == nullptr) return;
+  if (index == GetQueryBase()->GetItemIndex()) FQueryPanel->ClearAll();
+}
+
+bool TJQPBaseLink::GetQueryContent(TStrings& strings) {
+  if (!FQueryPanel) return false;
+  FQueryPanel->SaveToStrings(strings);
+  return true;
+}
+
+bool TJQPBaseLink::PutQueryContent(const TStrings& strings) {
+  if (!FQueryPanel) return false;
+  FQueryPanel->LoadFromStrings(strings);
+  return true;
+}
+
+}  // namespace tolvi
