@@ -148,6 +148,13 @@ TDSLinkType JoinTypeBefore(std::string_view words) {
   return ltInner;
 }
 
+std::string_view MirroredSymbol(std::string_view symbol) {
+  for (const TSymbol& entry : Symbols) {
+    if (entry.Text == symbol) return entry.Mirrored;
+  }
+  return {};
+}
+
 std::string UnquotedName(std::string_view name, const TSQLFormats& formats) {
   std::string result(name);
   std::erase_if(result, [&formats](char c) { return IsQuote(c, formats); });

@@ -29,6 +29,9 @@ std::vector<std::string> ExpressionsOf(std::string_view list, std::string_view t
 /// How a table is joined, by the words of the statement that end before its name. "A left join B" is `ltOuterLeft`.
 TDSLinkType JoinTypeBefore(std::string_view words);
 
+/// The comparison symbol that says the same with the sides exchanged; empty for what is none.
+std::string_view MirroredSymbol(std::string_view symbol);
+
 /// The name without quote symbols.
 std::string UnquotedName(std::string_view name, const TSQLFormats& formats);
 

@@ -217,6 +217,11 @@ void TSelectImport::MapSorting() {
       column = &AddColumn(std::move(hidden), {});
       column->SetCaption(CaptionOf(term.Expr, *column));
     }
+    // Where columns are sorted by their expressions, a number would be the place of one.
+    const bool isNumber = column->GetSQLExpr().find_first_not_of("+-0123456789() ") == std::string::npos;
+    if (isNumber && FPanel.GetSQLOptions().Contains(soSortByNames)) {
+      FLog.Refuse(term.Expr, "a constant sorts nothing: leave it out");
+    }
     ++order;
     // What sorts already decides nothing a second time.
     if (column->GetSorting() != stNoSort) continue;

@@ -125,6 +125,7 @@ void TSelectConditions::SetValues(TFilterCond& row, const TMatch& match) {
 void TSelectConditions::AddFragment(TFilterBracket& bracket, const TSelectCondition& condition) {
   const std::size_t param = FScope.FindParam(condition.Range);
   if (param < condition.Range.End) {
+    if (FSubQueryError && !FLog.GetApproximate()) throw ESQLImportError(*FSubQueryError);
     FLog.Refuse({param, param + 1},
                 "no operator of the model takes a parameter here: compare a field with it, as an operator of the model "
                 "does");

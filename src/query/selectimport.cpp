@@ -25,8 +25,6 @@ std::string PlainText(const TSelectText& text, TTokenRange range) {
   return plain;
 }
 
-TTokenRange RangeOf(const TSelectTable& table) { return {table.Token, table.Token + table.Names.size() * 2 - 1}; }
-
 }  // namespace
 
 TSelectImport::TSelectImport(TJQueryPanel& panel, const TSelectText& text, TTokenRange range, TSelectLog& log,
@@ -160,7 +158,7 @@ bool TSelectImport::CollectTables() {
   }
   FPanel.FActive = false;
   if (error.empty()) return true;
-  FLog.Refuse(RangeOf(FStatement.Tables.front()), error, "the query has no statement");
+  FLog.Refuse(FStatement.Tables.front().Range, error, "the query has no statement");
   return false;
 }
 
@@ -182,7 +180,7 @@ void TSelectImport::MapTables() {
   if (!CollectTables() || isSame()) return;
   FJoins->RefuseDifference(tables, brackets);
   if (!ordered || !FJoins->IsSame(tables, brackets)) return;
-  FLog.Refuse(RangeOf(FStatement.Tables.front()),
+  FLog.Refuse(FStatement.Tables.front().Range,
               "the model joins these tables in another order, so that \"*\" would have its columns in another order");
 }
 
@@ -205,7 +203,7 @@ void TSelectImport::HoldTable(std::size_t index, bool inOrder) {
     return field.GetFieldKind() == jfkData && field.GetTable() == table;
   });
   if (found == fields.end()) {
-    FLog.Refuse(RangeOf(FStatement.Tables[index]),
+    FLog.Refuse(FStatement.Tables[index].Range,
                 Format("no field of \"%s\" is in the model, so that no query can have the table: add one",
                        {table->GetWhereExpr()}));
     return;

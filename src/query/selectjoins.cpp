@@ -13,17 +13,6 @@ namespace tolvi {
 
 namespace {
 
-// Conditions that must all apply: of "a and b" both.
-std::vector<const TSelectCondition*> TermsOf(const TSelectCondition& condition) {
-  std::vector<const TSelectCondition*> terms;
-  if (condition.Kind == TSelectCondition::ckAll && !condition.Negated) {
-    for (const TSelectCondition& node : condition.Nodes) terms.push_back(&node);
-  } else {
-    terms.push_back(&condition);
-  }
-  return terms;
-}
-
 bool HasKey(const TJoinComparisons& comparisons, std::string_view key) {
   return std::any_of(comparisons.begin(), comparisons.end(),
                      [key](const TJoinComparison& comparison) { return comparison.Key == key; });
@@ -41,18 +30,14 @@ TSelectJoins::TSelectJoins(const TJCustomDBStructure& model, const TSelectStatem
   MoveOthers();
 }
 
-TTokenRange TSelectJoins::From() const {
-  const std::size_t begin = FStatement.Tables.front().Token;
-  return {begin, begin + FStatement.Tables.front().Names.size() * 2 - 1};
-}
+TTokenRange TSelectJoins::From() const { return FStatement.Tables.front().Range; }
 
 // ---- The joins of the statement -------------------------------------------------------------------------------------
 
 bool TSelectJoins::ComparesColumns(const TSelectCondition& condition) const {
   const auto isColumn = [this](TTokenRange range) { return FScope.NameOf(range).Table != nullptr; };
   return condition.Kind == TSelectCondition::ckPredicate && !condition.Negated && !condition.NotInside &&
-         StrInList(condition.Operation, {"=", "<>", "!=", "<", ">", "<=", ">="}) && isColumn(condition.Left) &&
-         isColumn(condition.Right);
+         !MirroredSymbol(condition.Operation).empty() && isColumn(condition.Left) && isColumn(condition.Right);
 }
 
 // A predicate that compares columns of two tables is known by that, any other by its whole SQL.
@@ -120,7 +105,7 @@ TJoinComparisons TSelectJoins::ComparisonsOfSource(const TSelectSource& source) 
   if (!source.Using.empty()) return UsingOf(source);
   TJoinComparisons comparisons;
   if (!source.On) return comparisons;
-  for (const TSelectCondition* term : TermsOf(*source.On)) comparisons.push_back(ComparisonOf(*term));
+  for (const TSelectCondition* term : source.On->Terms()) comparisons.push_back(ComparisonOf(*term));
   return comparisons;
 }
 
@@ -160,7 +145,7 @@ bool TSelectJoins::IsLink(const TJoinComparison& comparison, const TJoinComparis
 void TSelectJoins::AddWhere() {
   if (!FStatement.Where || FStatement.Tables.size() < 2) return;
   TJoinComparisons comparisons;
-  for (const TSelectCondition* term : TermsOf(*FStatement.Where)) {
+  for (const TSelectCondition* term : FStatement.Where->Terms()) {
     if (ComparesColumns(*term)) comparisons.push_back(ComparisonOf(*term));
   }
   TJoinComparisons all = FForm->Comparisons();

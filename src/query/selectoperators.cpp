@@ -4,6 +4,7 @@
 
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/text.h>
+#include <tolvi/query/joincheck.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/selectconditions.h>
 #include <tolvi/query/valuefit.h>
@@ -13,13 +14,6 @@
 namespace tolvi {
 
 namespace {
-
-struct TSymbol {
-  std::string_view Text, Mirrored;
-};
-constexpr TSymbol Symbols[] = {
-    {"=", "="}, {"<>", "<>"}, {"!=", "!="}, {"<", ">"}, {">", "<"}, {"<=", ">="}, {">=", "<="},
-};
 
 // Longer ones than a predefined condition and such a list of values are none.
 constexpr std::size_t MostListTokens = 4000;
@@ -109,11 +103,10 @@ std::vector<TSelectConditions::TComparison> TSelectConditions::ComparisonsFor(co
     comparisons.push_back({field, condition.Operation, ValueText(condition.Right), condition.Right});
   }
   if (std::optional<TComparison> lower = WithoutLower(condition)) comparisons.push_back(*std::move(lower));
-  const auto* symbol = std::find_if(std::begin(Symbols), std::end(Symbols),
-                                    [&condition](const TSymbol& entry) { return entry.Text == condition.Operation; });
-  if (comparisons.empty() && symbol != std::end(Symbols)) {
+  const std::string_view mirrored = MirroredSymbol(condition.Operation);
+  if (comparisons.empty() && !mirrored.empty()) {
     if (TDSField* field = FScope.FieldOf(condition.Right); IsUsable(field)) {
-      comparisons.push_back({field, std::string(symbol->Mirrored), ValueText(condition.Left), condition.Left});
+      comparisons.push_back({field, std::string(mirrored), ValueText(condition.Left), condition.Left});
     }
   }
   return comparisons;

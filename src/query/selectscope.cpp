@@ -8,6 +8,7 @@
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/query/selectscope.h>
 #include <tolvi/sqlimport/scanner.h>
+#include <tolvi/sqlimport/subselects.h>
 
 // Names: which column a name means, and SQL written in the names of the model. Tables are in selecttables.cpp.
 
@@ -159,7 +160,7 @@ TSelectName TSelectScope::Unqualified(std::size_t token) const {
 TDSField* TSelectScope::FieldOf(TTokenRange range) const {
   range = FText.WithoutBrackets(range);
   // A sub-query has names of its own.
-  if (range.Empty() || EndOfSubQuery(range.Begin) > range.Begin) return nullptr;
+  if (range.Empty() || EndOfSubSelect(FText, range.Begin) > range.Begin) return nullptr;
   if (const TSelectName name = NameOf(range); name.Count > 0) {
     const TTokenRange expr = ExprOfAlias(range.Begin, name);
     if (expr.Empty()) return name.Field;
@@ -236,7 +237,7 @@ void TSelectScope::Walk(TTokenRange range, const TTextHandler& onText, const TFi
       const bool isCall = token.Word == swOpen && before.IsName() && IsOneOf(before.Text, Aggregates);
       if (NeedsBlank(at) && !isCall) onText(" ");
     }
-    if (const std::size_t end = EndOfSubQuery(at); end > at) {
+    if (const std::size_t end = EndOfSubSelect(FText, at); end > at) {
       AppendSubQuery({at, end}, onText);
       at = end;
       continue;
@@ -287,7 +288,7 @@ std::size_t TSelectScope::FindParam(TTokenRange range) const {
 
 bool TSelectScope::HasNames(TTokenRange range) const {
   for (std::size_t at = range.Begin; at < range.End; ++at) {
-    if (const std::size_t end = EndOfSubQuery(at); end > at) {
+    if (const std::size_t end = EndOfSubSelect(FText, at); end > at) {
       at = end - 1;
     } else if (NameAt(at, range.Begin).Count > 0) {
       return true;

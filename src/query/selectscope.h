@@ -73,7 +73,6 @@ class TSelectScope final {
 
  private:
   using TCandidates = std::vector<std::vector<TDSTable*>>;
-  class TSubQueryText;
 
   [[nodiscard]] std::vector<TDSTable*> CandidatesFor(const TSelectTable& table) const;
   void Assign();
@@ -89,10 +88,9 @@ class TSelectScope final {
   [[nodiscard]] TDSField* ColumnOf(const TDSTable& table, std::string_view column) const;
   [[nodiscard]] TTokenRange ExprOfAlias(std::size_t token, const TSelectName& name) const;
   [[nodiscard]] bool IsCall(TTokenRange expr) const;
-  [[nodiscard]] std::size_t EndOfSubQuery(std::size_t token) const;
   [[nodiscard]] bool NeedsBlank(std::size_t token) const;
   void AppendSubQuery(TTokenRange range, const TTextHandler& onText) const;
-  void CheckQualifier(std::size_t token, bool declared) const;
+  void CheckQualifier(std::size_t token) const;
 
   TJCustomDBStructure& FModel;
   const TSelectText& FText;

@@ -77,7 +77,7 @@ void TSelectScope::Assign() {
   for (const TSelectTable& table : FStatement.Tables) {
     candidates.push_back(CandidatesFor(table));
     if (!candidates.back().empty()) continue;
-    FLog.Refuse({table.Token, table.Token + table.Names.size() * 2 - 1},
+    FLog.Refuse(table.Range,
                 Format("the model has no table \"%s\": add it to the model, or take it out of the statement",
                        {JoinNames(table.Names)}));
     candidates.back().push_back(nullptr);
@@ -96,7 +96,7 @@ void TSelectScope::Assign() {
     const auto free = std::find_if(candidates[i].begin(), candidates[i].end(), isFree);
     if (free == candidates[i].end()) {
       const TSelectTable& table = FStatement.Tables[i];
-      FLog.Refuse({table.Token, table.Token + table.Names.size() * 2 - 1},
+      FLog.Refuse(table.Range,
                   Format("the statement has the table \"%s\" more often than the model: give the model another table "
                          "\"%s\" with an alias of its own",
                          {JoinNames(table.Names), table.Names.back()}));
@@ -139,9 +139,7 @@ bool TSelectScope::JoinsAreLinks(const std::vector<TDSTable*>& tables) const {
   };
   const auto addPairs = [&addPair](const std::optional<TSelectCondition>& condition) {
     if (!condition) return;
-    addPair(*condition);
-    if (condition->Kind != TSelectCondition::ckAll || condition->Negated) return;
-    for (const TSelectCondition& node : condition->Nodes) addPair(node);
+    for (const TSelectCondition* term : condition->Terms()) addPair(*term);
   };
   std::vector<const TSelectSource*> sources{FStatement.From.get()};
   while (!sources.empty()) {

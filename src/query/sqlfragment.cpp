@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <initializer_list>
 #include <iterator>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -12,7 +11,7 @@
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/sqlfragment.h>
 #include <tolvi/sqlimport/scanner.h>
-#include <tolvi/sqlimport/selecttext.h>
+#include <tolvi/sqlimport/subselects.h>
 
 namespace tolvi {
 namespace {
@@ -225,27 +224,6 @@ bool BindsLoosely(const std::vector<TToken>& tokens) {
   return cases > 0 || betweens > 0;
 }
 
-// ---- Tables ---------------------------------------------------------------------------------------------------------
-
-// A name that stands alone is an alias of the select, a table without one, or a column.
-bool StandsAlone(const TSelectText& text, std::size_t token) {
-  const TSelectToken& next = text[token + 1];
-  return text[token].IsName() && next.Word != swPoint && next.Word != swAs && !next.IsName();
-}
-
-void BlankInnerTables(const TSelectText& text, std::size_t open, std::string& sql) {
-  const std::size_t end = text[open].Partner;
-  std::unordered_set<std::string, TFoldedHash, TFoldedEqual> names;
-  for (std::size_t at = open + 1; at < end; ++at) {
-    if (StandsAlone(text, at)) names.insert(text[at].Name());
-  }
-  for (std::size_t at = open + 1; at < end; ++at) {
-    const bool qualifies = text[at].IsName() && text[at + 1].Word == swPoint && text[at - 1].Word != swPoint;
-    if (qualifies && names.contains(text[at].Name()))
-      sql.replace(text[at].Pos, text[at].Text.size(), text[at].Text.size(), ' ');
-  }
-}
-
 // ---- TOP and LIMIT --------------------------------------------------------------------------------------------------
 
 /// The clause if its tokens, numbers as "1" and words in lower case, are one of the shapes: joined by blanks, none
@@ -308,9 +286,11 @@ std::string WithoutInnerTables(std::string_view sql, char openQuote, char closeQ
   std::string result(sql);
   try {
     const TSelectText text(sql, openQuote, closeQuote);
-    for (std::size_t at = 0; at < text.Count(); ++at) {
-      if (text[at].Word == swOpen && text[at + 1].Word == swSelect) BlankInnerTables(text, at, result);
-    }
+    const auto blank = [&](std::size_t at, TSubSelects::TQualifier meaning) {
+      const TSelectToken& token = text[at];
+      if (meaning != TSubSelects::sqOuter) result.replace(token.Pos, token.Text.size(), token.Text.size(), ' ');
+    };
+    TSubSelects(text, text.All()).ForEach(blank, [](std::size_t) {});
   } catch (const ESQLImportError&) {
     // No statement is built with such a text.
   }

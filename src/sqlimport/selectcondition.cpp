@@ -177,4 +177,11 @@ TSelectCondition ReadSelectCondition(const TSelectText& text, TTokenRange range)
   return TConditionReader(text).Read(range);
 }
 
+std::vector<const TSelectCondition*> TSelectCondition::Terms() const {
+  if (Kind != ckAll || Negated) return {this};
+  std::vector<const TSelectCondition*> terms;
+  for (const TSelectCondition& node : Nodes) terms.push_back(&node);
+  return terms;
+}
+
 }  // namespace tolvi

@@ -26,6 +26,8 @@ struct TSelectCondition {
   /// At least two. A bracket round a single condition is none of its own; a bracket of the same kind inside another
   /// one stays.
   std::vector<TSelectCondition> Nodes;
+  /// The conditions that must all apply: those of "a and b", itself for any other.
+  [[nodiscard]] std::vector<const TSelectCondition*> Terms() const;
 
   // Of a predicate: `Left Operation Right`, or `Left not Operation Right`.
 
@@ -58,7 +60,8 @@ struct TSelectTable {
   std::vector<std::string> Names;
   /// Without quotes; empty for none.
   std::string Alias;
-  std::size_t Token = 0;
+  /// Of the name and its qualifiers.
+  TTokenRange Range;
 };
 
 /// A table, or two sources joined.

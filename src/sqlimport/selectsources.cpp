@@ -141,16 +141,18 @@ class TSourceReader {
 
   TSource ReadTable(TSelectCursor& at) {
     TSelectTable table;
-    table.Token = at.At();
+    table.Range.Begin = at.At();
     CheckTable(at);
     table.Names.push_back(ReadName(at, "A table is missing here"));
     while (at.Pass(swPoint)) {
       // The middle of "Shop..Orders" is what the database takes for itself.
       if (at.Word() != swPoint) table.Names.push_back(ReadName(at, "A name is missing behind the point"));
     }
+    table.Range.End = at.At();
     if (at.Word() == swOpen) {
-      at.Text().Fail(table.Token, ShownToken(at.Text()[table.Token]) +
-                                      ": a function in FROM is no table; put what it gives into a table or a view");
+      at.Text().Fail(table.Range.Begin,
+                     ShownToken(at.Text()[table.Range.Begin]) +
+                         ": a function in FROM is no table; put what it gives into a table or a view");
     }
     if (at.Pass(swAs)) {
       table.Alias = ReadName(at, "A name is missing after AS");
@@ -158,11 +160,11 @@ class TSourceReader {
       table.Alias = ReadName(at, "");
     }
     if (FStatement.Tables.size() == MaxTables) {
-      at.Text().Fail(table.Token, Format("FROM has more than %d tables: use fewer of them", {MaxTables}));
+      at.Text().Fail(table.Range.Begin, Format("FROM has more than %d tables: use fewer of them", {MaxTables}));
     }
     auto source = std::make_unique<TSelectSource>();
     source->Table = FStatement.Tables.size();
-    source->Token = table.Token;
+    source->Token = table.Range.Begin;
     FStatement.Tables.push_back(std::move(table));
     return source;
   }
