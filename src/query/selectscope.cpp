@@ -93,7 +93,8 @@ TSelectName TSelectScope::NameAt(std::size_t token, std::size_t begin) const {
   bool isAll = false;
   for (; !isAll && FText[end].Word == swPoint; end += 2, ++parts) {
     isAll = FText[end + 1].Word == swStar;
-    if (!isAll && !FText[end + 1].IsName()) return {};
+    if (!isAll && FText[end + 1].Word == swPoint) return {};
+    if (!isAll && !FText[end + 1].IsName()) FText.Fail(end, "A name is missing behind the point");
   }
   if (FText[end].Word == swOpen) return {};
   if (parts > 1) return Qualified(token, parts, isAll);
@@ -160,7 +161,8 @@ TSelectName TSelectScope::Unqualified(std::size_t token) const {
 TDSField* TSelectScope::FieldOf(TTokenRange range) const {
   range = FText.WithoutBrackets(range);
   // A sub-query has names of its own.
-  if (range.Empty() || EndOfSubSelect(FText, range.Begin) > range.Begin) return nullptr;
+  const bool isSelect = FText[range.Begin].Word == swSelect || EndOfSubSelect(FText, range.Begin) > range.Begin;
+  if (range.Empty() || isSelect) return nullptr;
   if (const TSelectName name = NameOf(range); name.Count > 0) {
     const TTokenRange expr = ExprOfAlias(range.Begin, name);
     if (expr.Empty()) return name.Field;

@@ -140,11 +140,21 @@ class TSelectReader {
       column.Expr.End = last;
       SetAlias(column, last);
     }
-    if (column.Expr.Count() > 2 && FText[column.Expr.End - 1].Word == swStar && !column.Alias.empty() &&
+    if (column.Expr.Count() > 2 && FText[column.Expr.End - 1].Word == swStar &&
         FText[column.Expr.End - 2].Word == swPoint) {
-      FText.Fail(column.AliasToken, ShownToken(FText[column.AliasToken]) + ": all columns of a table take no alias");
+      CheckTableColumns(column);
     }
     FStatement.Columns.push_back(std::move(column));
+  }
+
+  void CheckTableColumns(const TSelectColumn& column) const {
+    for (std::size_t at = column.Expr.Begin; at + 1 < column.Expr.End; ++at) {
+      const bool isTable = (at - column.Expr.Begin) % 2 == 0 ? FText[at].IsName() : FText[at].Word == swPoint;
+      if (!isTable) FText.Fail(at, ShownToken(FText[at]) + " does not belong here");
+    }
+    if (!column.Alias.empty()) {
+      FText.Fail(column.AliasToken, ShownToken(FText[column.AliasToken]) + ": all columns of a table take no alias");
+    }
   }
 
   void ReadAllColumns(TTokenRange star) {

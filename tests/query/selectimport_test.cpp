@@ -96,6 +96,7 @@ TEST_F(SelectImport, KeepsOtherConditionsAsSQLWhereThatIsAllowed) {
       {"City like 'a_c'", "( Customers.City like 'a_c' )"},
       {"case when\"c\".City='a'then\"o\".\"Total\"else 0 end > 5",
        "( case when Customers.City='a'then Orders.Total else 0 end > 5 )"},
+      {"lower(select y.City from Payers y) = 'x'", "( lower(select y.City from Payers y) = 'x' )"},
       {"x = (select max(y.Total) from Orders y)", "( x = (select max(y.Total) from Orders y) )"},
       {"lower(City) = 'Linz'", "( lower(Customers.City) = 'Linz' )"},
       {"c.CustNo in (select o.CustNo from Orders x)", "( Customers.CustNo in (select Orders.CustNo from Orders x) )"},
@@ -208,6 +209,7 @@ TEST_F(SelectImport, RefusesWhatAQueryCannotSay) {
       {"select c.Company from Customers c join Orders o on o.OrderNo = c.CustNo",
        "! Line 1, column 23: the query joins on customers.custno = orders.custno by a link of the model, the statement "
        "does not"},
+      {"select c.City., Company from Customers c", "! Line 1, column 14: A name is missing behind the point"},
       {"select c.*, 1 from Customers c",
        "! Line 1, column 8: a query names its columns: write those of the table instead of \"*\""},
   };

@@ -283,6 +283,7 @@ TEST(SelectReader, RefusesWhatAQueryCannotSay) {
       {"select a as from t", "1, column 13: A name is missing after AS"},
       {"select a as \"\" from t", "1, column 13: The name between the quotes is empty"},
       {"select a as b c from t", "1, column 15: \"c\" does not belong here"},
+      {"select a t.* from t", "1, column 10: \"t\" does not belong here"},
       {"select 1", "1, column 9: FROM is missing: a query shows columns of tables"},
       {"select 1 union select 2", "1, column 10: UNION: " + oneSelect},
       {"(select a from t) minus (select b from u)", "1, column 19: MINUS: " + oneSelect},
