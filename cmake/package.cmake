@@ -9,6 +9,14 @@ install(
   FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tolvi
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT TolviCore NAMESPACE Tolvi:: FILE TolviCoreTargets.cmake DESTINATION ${tolvi_package_dir})
+if(TOLVI_BUILD_CONNECT)
+  install(
+    TARGETS tolvi_connect
+    EXPORT TolviConnect
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tolvi
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(EXPORT TolviConnect NAMESPACE Tolvi:: FILE TolviConnectTargets.cmake DESTINATION ${tolvi_package_dir})
+endif()
 
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/TolviConfig.cmake.in ${PROJECT_BINARY_DIR}/TolviConfig.cmake
                               INSTALL_DESTINATION ${tolvi_package_dir})

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include <tolvi/foundation/errors.h>
+
+namespace tolvi {
+
+/// A connection cannot be opened, or a statement failed. The message holds what the database said, never a password.
+class EConnectError : public EException {
+ public:
+  using EException::EException;
+};
+
+/// The databases that a URL can name.
+enum TDatabaseKind : std::uint8_t { dkSQLite, dkPostgreSQL, dkMySQL };
+
+/// Where a database is: "sqlite:FILE", "postgresql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE[?schema=NAME]", or
+/// "mysql:" with the same but no schema. Parts may hold "%20" and the like; a "%" itself is "%25". "postgres" and
+/// "mariadb" mean the same as the names above. A host of a local socket is its folder, encoded:
+/// "postgresql://%2Fvar%2Frun%2Fpostgresql/shop".
+struct TConnectionUrl {
+  TDatabaseKind Kind = dkSQLite;
+  /// The file of `dkSQLite` (":memory:" for none), else the name of the database.
+  std::string Database = {};
+  std::string Host = {}, User = {}, Password = {};
+  /// 0 for the usual one.
+  int Port = 0;
+  /// Empty for the usual one.
+  std::string Schema = {};
+
+  /// The URL without the password.
+  [[nodiscard]] std::string Shown() const;
+
+  bool operator==(const TConnectionUrl&) const = default;
+};
+
+/// Whether the text begins like a URL ("sqlite:", "postgresql://", also "other://"), and is not the name of a file.
+[[nodiscard]] bool IsConnectionUrl(std::string_view text);
+
+/// Raises `EConnectError`, which says what is wrong and how such a URL looks, and does not repeat a password.
+[[nodiscard]] TConnectionUrl ParseConnectionUrl(std::string_view url);
+
+}  // namespace tolvi

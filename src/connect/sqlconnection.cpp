@@ -1,0 +1,195 @@
+#include <QSqlDatabase>
+#include <QStringList>
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <filesystem>
+#include <utility>
+
+#include <tolvi/connect/sqlaccess.h>
+#include <tolvi/connect/sqlconnection.h>
+
+namespace tolvi {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What a kind of server needs besides.
+struct TServer {
+  const char* PasswordVariable;
+  std::string_view Hint;
+};
+constexpr TServer PostgreSQL{"PGPASSWORD", "check that the server runs, and host, database, user and password"};
+constexpr TServer MySQL{"MYSQL_PWD", "check that the server runs, and host, database, user and password"};
+
+const TServer& ServerOf(TDatabaseKind kind) { return kind == dkMySQL ? MySQL : PostgreSQL; }
+
+[[noreturn]] void Refuse(const TConnectionUrl& url, std::string_view words, std::string_view hint) {
+  throw EConnectError("Cannot open %s: %s: %s", {url.Shown(), words, hint});
+}
+
+std::string NewName() {
+  static std::atomic<unsigned> count{0};
+  return "tolvi-" + std::to_string(++count);
+}
+
+/// Takes the connection off the list again unless it is kept.
+class TOpening final {
+ public:
+  TOpening(const TConnectionUrl& url, const TSqlConnectOptions& options)
+      : FUrl(url), FOptions(options), FName(NewName()) {
+    EnsureApplication();
+    const QString driver = DriverOf(url.Kind);
+    if (!QSqlDatabase::isDriverAvailable(driver)) {
+      Refuse(url, "there is no driver " + FromQString(driver), "install Qt's driver for this kind of database");
+    }
+    FDatabase = QSqlDatabase::addDatabase(driver, ToQString(FName));
+  }
+  TOpening(const TOpening&) = delete;
+  TOpening& operator=(const TOpening&) = delete;
+  ~TOpening() {
+    FDatabase = {};
+    if (!FKept) QSqlDatabase::removeDatabase(ToQString(FName));
+  }
+
+  std::string Open() {
+    FUrl.Kind == dkSQLite ? OpenFile() : OpenServer();
+    FKept = true;
+    return FName;
+  }
+
+ private:
+  void OpenFile() {
+    constexpr int MillisecondsPerSecond = 1000;
+    QStringList connectOptions{QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1")
+                                   .arg(static_cast<qlonglong>(FOptions.TimeoutSeconds) * MillisecondsPerSecond)};
+    if (FOptions.ReadOnly && !IsInMemory()) connectOptions << QStringLiteral("QSQLITE_OPEN_READONLY");
+    std::error_code error;
+    if (FOptions.MustExist && !IsInMemory() && !fs::exists(fs::path(FUrl.Database), error)) {
+      Refuse(FUrl, "there is no such file", "check its name");
+    }
+    FDatabase.setDatabaseName(ToQString(FUrl.Database));
+    FDatabase.setConnectOptions(connectOptions.join(QLatin1Char(';')));
+    constexpr std::string_view Hint = "check that it is an SQLite database and that you may read it";
+    if (!FDatabase.open()) Refuse(FUrl, WordsOf(FDatabase.lastError()), Hint);
+    // Nothing has been read so far.
+    QSqlQuery query(FDatabase);
+    if (!query.exec(QStringLiteral("PRAGMA schema_version"))) Refuse(FUrl, WordsOf(query.lastError()), Hint);
+    if (FOptions.ReadOnly) RunSql(FDatabase, "PRAGMA query_only = 1");
+  }
+
+  bool IsInMemory() const { return FUrl.Database == ":memory:"; }
+
+  void OpenServer() {
+    const TServer& server = ServerOf(FUrl.Kind);
+    FDatabase.setDatabaseName(ToQString(FUrl.Database));
+    FDatabase.setUserName(ToQString(FUrl.User));
+    if (FUrl.Port != 0) FDatabase.setPort(FUrl.Port);
+    FDatabase.setConnectOptions(ConnectOptions());
+    std::string password = FUrl.Password;
+    if (const char* variable = std::getenv(server.PasswordVariable); password.empty() && variable != nullptr) {
+      password = variable;
+    }
+    // Kept with the connection, so that another one can be opened to end its statements.
+    FDatabase.setPassword(ToQString(password));
+    if (!FDatabase.open()) {
+      const QSqlError error = FDatabase.lastError();
+      const auto given = WantsPassword(error) && FUrl.Password.empty() && FOptions.OnPasswordRequest
+                             ? FOptions.OnPasswordRequest(FUrl)
+                             : std::nullopt;
+      if (!given) Refuse(FUrl, WordsOf(error), server.Hint);
+      FDatabase.setPassword(ToQString(*given));
+      if (!FDatabase.open()) Refuse(FUrl, WordsOf(FDatabase.lastError()), server.Hint);
+    }
+    FUrl.Kind == dkMySQL ? SetUpMySQL() : SetUpPostgreSQL();
+  }
+
+  QString ConnectOptions() {
+    const QString host = ToQString(FUrl.Host);
+    const int seconds = std::max(FOptions.TimeoutSeconds, 1);
+    if (FUrl.Kind == dkPostgreSQL) {
+      FDatabase.setHostName(host);
+      return QStringLiteral("connect_timeout=%1;client_encoding=UTF8").arg(seconds);
+    }
+    QString connectOptions = QStringLiteral("MYSQL_OPT_CONNECT_TIMEOUT=%1").arg(seconds);
+    if (!FUrl.Host.starts_with('/')) {
+      FDatabase.setHostName(host);
+      return connectOptions;
+    }
+    if (host.contains(QLatin1Char(';'))) Refuse(FUrl, "a socket's name cannot hold \";\"", "move the socket");
+    return connectOptions + QStringLiteral(";UNIX_SOCKET=") + ToQString(SocketIn(FUrl.Host));
+  }
+
+  /// The socket may be given itself, or the folder that it is in.
+  static std::string SocketIn(const fs::path& folder) {
+    std::error_code error;
+    if (!fs::is_directory(folder, error)) return folder.string();
+    const fs::path old = folder / "mysql.sock";
+    return (fs::exists(old, error) ? old : folder / "mysqld.sock").string();
+  }
+
+  bool WantsPassword(const QSqlError& error) const {
+    if (FUrl.Kind == dkMySQL) return error.nativeErrorCode() == QLatin1String("1045");
+    // The client library says it so in every language, the server in its own.
+    return error.databaseText().contains(QLatin1String("password")) ||
+           error.driverText().contains(QLatin1String("password"));
+  }
+
+  void SetUpPostgreSQL() {
+    if (!FUrl.Schema.empty()) {
+      QSqlQuery query =
+          RunSql(FDatabase, "SELECT count(*) FROM pg_catalog.pg_namespace WHERE nspname = ?", {ToQString(FUrl.Schema)});
+      if (!query.next() || query.value(0).toInt() == 0) {
+        Refuse(FUrl, "there is no schema \"" + FUrl.Schema + "\"", "check its name, which is case-sensitive");
+      }
+      query.finish();
+      RunSql(FDatabase, "SET search_path TO " + QuotedName(FUrl.Schema, dkPostgreSQL));
+    }
+    if (FOptions.ReadOnly) RunSql(FDatabase, "SET SESSION CHARACTERISTICS AS TRANSACTION READ ONLY");
+  }
+
+  void SetUpMySQL() {
+    RunSql(FDatabase, "SET NAMES utf8mb4");
+    // A backslash that escapes would let a text leave its literal.
+    RunSql(FDatabase, "SET SESSION sql_mode = CONCAT(@@SESSION.sql_mode, ',ANSI_QUOTES,NO_BACKSLASH_ESCAPES')");
+    if (FOptions.ReadOnly) RunSql(FDatabase, "SET SESSION TRANSACTION READ ONLY");
+  }
+
+  const TConnectionUrl& FUrl;
+  const TSqlConnectOptions& FOptions;
+  std::string FName;
+  QSqlDatabase FDatabase;
+  bool FKept = false;
+};
+
+}  // namespace
+
+TSqlConnection::TSqlConnection(const TConnectionUrl& url, const TSqlConnectOptions& options)
+    : FName(TOpening(url, options).Open()), FUrl(url) {
+  FUrl.Password.clear();
+}
+
+TSqlConnection::~TSqlConnection() { Close(); }
+
+TSqlConnection::TSqlConnection(TSqlConnection&& other) noexcept
+    : FName(std::exchange(other.FName, {})), FUrl(std::move(other.FUrl)) {}
+
+TSqlConnection& TSqlConnection::operator=(TSqlConnection&& other) noexcept {
+  if (this == &other) return *this;
+  Close();
+  FName = std::exchange(other.FName, {});
+  FUrl = std::move(other.FUrl);
+  return *this;
+}
+
+void TSqlConnection::Execute(std::string_view sql) { RunSql(SessionOf(FName).Database, sql); }
+
+void TSqlConnection::Close() noexcept {
+  if (FName.empty()) return;
+  const QString name = ToQString(FName);
+  QSqlDatabase::database(name, false).close();
+  QSqlDatabase::removeDatabase(name);
+  FName.clear();
+}
+
+}  // namespace tolvi

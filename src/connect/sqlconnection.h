@@ -1,0 +1,58 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include <tolvi/connect/connecturl.h>
+
+namespace tolvi {
+
+struct TSqlConnectOptions {
+  /// Whether the database refuses changes. Default false.
+  bool ReadOnly = false;
+  /// Whether the file of an SQLite database must exist; without it, an empty one is made. Default true.
+  bool MustExist = true;
+  /// How long to wait for a server, and for a locked file. Default 10.
+  int TimeoutSeconds = 10;
+  /// Asked once, when the server wants a password and neither the URL nor the environment has one that it takes.
+  /// Nothing: give up.
+  std::function<std::optional<std::string>(const TConnectionUrl& url)> OnPasswordRequest = {};
+};
+
+/// An open connection, closed with the object. Other classes find it by its name; whatever uses it must be gone before.
+/// Belongs to the thread that opens it.
+///
+/// A URL without a password takes the one of the environment: PGPASSWORD or MYSQL_PWD. On MySQL, texts are
+/// UTF-8, names may stand in double quotes, and a backslash in a text is only that: a host that opens MySQL by itself
+/// and runs statements with literals sets the modes ANSI_QUOTES and NO_BACKSLASH_ESCAPES, too.
+///
+/// The database drivers need a QCoreApplication. Where none exists, this makes one, which stays to the end of the
+/// program: a host that has its own makes it before.
+class TSqlConnection final {
+ public:
+  /// Raises `EConnectError` with the database's words and what to do.
+  explicit TSqlConnection(const TConnectionUrl& url, const TSqlConnectOptions& options = {});
+  ~TSqlConnection();
+  TSqlConnection(const TSqlConnection&) = delete;
+  TSqlConnection& operator=(const TSqlConnection&) = delete;
+  TSqlConnection(TSqlConnection&& other) noexcept;
+  TSqlConnection& operator=(TSqlConnection&& other) noexcept;
+
+  /// The name of the QSqlDatabase, of its own.
+  [[nodiscard]] const std::string& GetName() const { return FName; }
+  [[nodiscard]] TDatabaseKind GetKind() const { return FUrl.Kind; }
+  /// Without the password.
+  [[nodiscard]] const TConnectionUrl& GetUrl() const { return FUrl; }
+
+  /// Runs one statement that gives no rows. Raises `EConnectError`.
+  void Execute(std::string_view sql);
+
+ private:
+  void Close() noexcept;
+
+  std::string FName;
+  TConnectionUrl FUrl;
+};
+
+}  // namespace tolvi
