@@ -67,8 +67,8 @@ QVariant ToVariant(const TBoundValue& value, TDatabaseKind kind, bool quotedBool
   if (const auto* whole = std::get_if<std::int64_t>(&value.Value)) {
     return QVariant::fromValue(static_cast<qlonglong>(*whole));
   }
-  // SQLite sorts every text behind every number; for the others, the text has all digits.
-  if (FloatFieldTypes.Contains(value.Type) && (kind == dkSQLite || LiteralTypeOf(value, kind).empty())) {
+  // SQLite sorts every text behind every number. Where CAST makes a number of it, the text has all digits.
+  if (FloatFieldTypes.Contains(value.Type) && LiteralTypeOf(value, kind).empty()) {
     return NumberValue(value.Text);
   }
   return Text(value);

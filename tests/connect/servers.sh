@@ -67,17 +67,24 @@ start_mysql() {
 
 stop_mysql() { kill -9 "$(cat data/pid)"; }
 
+clean_up() {
+  "stop_$kind" || true
+  cd /
+  rm -rf "$folder"
+}
+
+# What ends the tests in their midst is sent to their whole group; here is still to clean up.
+trap '' HUP INT TERM
 cd "$folder"
 mkdir data
 chmod 755 .
 if [ "$(id -u)" -eq 0 ]; then chown "$owner" . data; fi
 "start_$kind" >start.log 2>&1 </dev/null || {
   tail -n 20 start.log >&2
+  clean_up >/dev/null 2>&1
   exit 1
 }
 (
   while kill -0 "$process"; do sleep 0.5; done
-  "stop_$kind"
-  cd /
-  rm -rf "$folder"
+  clean_up
 ) >/dev/null 2>&1 </dev/null &
