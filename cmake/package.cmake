@@ -3,19 +3,20 @@ include(CMakePackageConfigHelpers)
 
 set(tolvi_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Tolvi)
 
-install(
-  TARGETS tolvi_core
-  EXPORT TolviCore
-  FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tolvi
-  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(EXPORT TolviCore NAMESPACE Tolvi:: FILE TolviCoreTargets.cmake DESTINATION ${tolvi_package_dir})
-if(TOLVI_BUILD_CONNECT)
+# tolvi_install(TARGET COMPONENT): the library with its public headers, as one component of the package.
+function(tolvi_install target component)
   install(
-    TARGETS tolvi_connect
-    EXPORT TolviConnect
+    TARGETS ${target}
+    EXPORT Tolvi${component}
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tolvi
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-  install(EXPORT TolviConnect NAMESPACE Tolvi:: FILE TolviConnectTargets.cmake DESTINATION ${tolvi_package_dir})
+  install(EXPORT Tolvi${component} NAMESPACE Tolvi:: FILE Tolvi${component}Targets.cmake
+          DESTINATION ${tolvi_package_dir})
+endfunction()
+
+tolvi_install(tolvi_core Core)
+if(TOLVI_BUILD_CONNECT)
+  tolvi_install(tolvi_connect Connect)
 endif()
 
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/TolviConfig.cmake.in ${PROJECT_BINARY_DIR}/TolviConfig.cmake

@@ -293,6 +293,8 @@ class TJQueryPanel : public TComponent, private TDSListener {
   void ImportSQL(std::string_view sql, const TSQLImportOptions& options, int level);
   void ImportSelect(std::string_view sql, const TSQLImportOptions& options);
   void MapSQL(TJSQLParser& parser, const TSQLImportOptions& options, int level);
+  // Collects tables and columns as if the panel were active; why that cannot be, empty if it can.
+  std::string BuildOutline();
   void TellImport();
 
   TRef<TJCustomDBStructure> FDBStruct;

@@ -197,11 +197,10 @@ std::string TResultField::GetSelectExpr() const {
 }
 
 bool TResultField::GetAgregate() const {
-  static constexpr std::string_view functions[] = {"sum", "count", "max", "min", "avg"};
   if (!FDSFields.empty() && FDSFields.front()->GetIsAggregate()) return true;
   const std::string_view formula = FFormula;
   for (std::size_t at = formula.find('('); at != std::string_view::npos; at = formula.find('(', at + 1)) {
-    for (const std::string_view name : functions) {
+    for (const std::string_view name : AggregateFunctions) {
       if (at >= name.size() && AsciiSameText(formula.substr(at - name.size(), name.size()), name)) return true;
     }
   }

@@ -11,6 +11,9 @@ namespace tolvi {
 class TDSField;
 class TJCustomDBStructure;
 
+/// The functions whose call makes a formula an aggregate.
+inline constexpr std::string_view AggregateFunctions[] = {"sum", "count", "max", "min", "avg"};
+
 /// Splits a formula at its placeholders "@1" to "@9" for the first `count` fields: calls `literal(text)` and
 /// `place(index from 0)` in the order of the text. Of a longer number the first digit counts.
 template <typename TLiteral, typename TPlace>

@@ -153,25 +153,17 @@ std::size_t TSelectImport::ColumnByName(TTokenRange expr, bool aliasFirst) const
   }
   if (!token.IsName() || (!aliasFirst && FScope.NameOf(expr).Field != nullptr)) return NoColumn;
   const std::string name = token.Name();
-  const auto find = [&columns](const auto& isIt) {
-    const auto found = std::find_if(columns.begin(), columns.end(), isIt);
-    return found == columns.end() ? NoColumn : static_cast<std::size_t>(found - columns.begin());
-  };
-  const std::size_t alias = FScope.ColumnByAlias(name), byAlias = alias < columns.size() ? alias : NoColumn;
-  if (byAlias != NoColumn && !aliasFirst && FScope.IsColumnOfModel(name) &&
-      !(FScope.NameOf(columns[alias].Expr).Count > 0 && SameText(FText[columns[alias].Expr.End - 1].Name(), name))) {
-    FLog.Refuse(
-        expr,
-        Format("\"%s\" is an alias here and may be a column of the database, too: give the column another alias",
-               {name}),
-        "taken as the alias");
+  if (const std::size_t column = FScope.ColumnByAlias(name); column < columns.size()) {
+    if (!aliasFirst) FScope.CheckAlias(expr, column);
+    return column;
   }
-  if (byAlias != NoColumn || !aliasFirst || FScope.NameOf(expr).Field != nullptr) return byAlias;
+  if (!aliasFirst || FScope.NameOf(expr).Field != nullptr) return NoColumn;
   // A name that the model does not know may be that of a column without an alias.
-  return find([this, &name](const TSelectColumn& column) {
+  const auto found = std::find_if(columns.begin(), columns.end(), [this, &name](const TSelectColumn& column) {
     const TTokenRange whole = FText.WithoutBrackets(column.Expr);
     return column.Alias.empty() && FScope.NameOf(whole).Count > 0 && SameText(FText[whole.End - 1].Name(), name);
   });
+  return found == columns.end() ? NoColumn : static_cast<std::size_t>(found - columns.begin());
 }
 
 TTokenRange TSelectImport::Expanded(TTokenRange expr, bool aliasFirst) const {
@@ -232,11 +224,12 @@ void TSelectImport::MapSorting() {
 
 // ---- GROUP BY -------------------------------------------------------------------------------------------------------
 
-bool TSelectImport::IsGrouped() const {
+bool TSelectImport::HasAggregate() const {
   const TRFieldList& columns = FPanel.RFields();
-  return !FStatement.GroupBy.empty() ||
-         std::any_of(columns.begin(), columns.end(), [](const TResultField& column) { return column.GetAgregate(); });
+  return std::any_of(columns.begin(), columns.end(), [](const TResultField& column) { return column.GetAgregate(); });
 }
+
+bool TSelectImport::IsGrouped() const { return !FStatement.GroupBy.empty() || HasAggregate(); }
 
 void TSelectImport::MapGroups() {
   std::vector<std::string> groups;
@@ -252,12 +245,9 @@ void TSelectImport::MapGroups() {
     column.SetCaption(CaptionOf(expr, column));
   }
   CheckGroups(groups);
-  const TRFieldList& columns = FPanel.RFields();
-  const bool anyAggregate =
-      std::any_of(columns.begin(), columns.end(), [](const TResultField& column) { return column.GetAgregate(); });
-  if (groups.empty() || anyAggregate) return;
+  if (groups.empty() || HasAggregate()) return;
   // Without an aggregate a query has no groups.
-  std::unique_ptr<TResultField> count = columns.CreateRField();
+  std::unique_ptr<TResultField> count = FPanel.RFields().CreateRField();
   count->SetFormula("count(*)");
   count->SetHidden(true);
   AddColumn(std::move(count), "count(*)");

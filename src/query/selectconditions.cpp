@@ -124,15 +124,15 @@ void TSelectConditions::SetValues(TFilterCond& row, const TMatch& match) {
 
 void TSelectConditions::AddFragment(TFilterBracket& bracket, const TSelectCondition& condition) {
   const std::size_t param = FScope.FindParam(condition.Range);
+  const bool isRefused = param < condition.Range.End || !FPanel.GetAllowSQLFragments();
+  if (isRefused && FSubQueryError && !FLog.GetApproximate()) throw ESQLImportError(*FSubQueryError);
   if (param < condition.Range.End) {
-    if (FSubQueryError && !FLog.GetApproximate()) throw ESQLImportError(*FSubQueryError);
     FLog.Refuse({param, param + 1},
                 "no operator of the model takes a parameter here: compare a field with it, as an operator of the model "
                 "does");
     return;
   }
-  if (!FPanel.GetAllowSQLFragments()) {
-    if (FSubQueryError && !FLog.GetApproximate()) throw ESQLImportError(*FSubQueryError);
+  if (isRefused) {
     FLog.Refuse(condition.Range,
                 FSubQueryError ? FSubQueryError->Reason()
                                : "no field and operator of the model say this: allow SQL in queries to keep it as "

@@ -10,7 +10,6 @@
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/selectimport.h>
 #include <tolvi/query/selectjoins.h>
-#include <tolvi/query/sqlbuilder.h>
 
 // The whole statement: its options, conditions and tables. Columns, sorting and groups are in selectcolumns.cpp.
 
@@ -86,9 +85,10 @@ namespace {
 // The condition without the predicates that are said otherwise; nothing when none is left.
 std::optional<TSelectCondition> WithoutJoins(const TSelectCondition& condition, const TSelectJoins& joins) {
   if (joins.IsJoin(condition)) return std::nullopt;
-  TSelectCondition rest = condition;
-  if (condition.Kind != TSelectCondition::ckAll || condition.Negated) return rest;
-  rest.Nodes.clear();
+  if (condition.Kind != TSelectCondition::ckAll || condition.Negated) return condition;
+  TSelectCondition rest;
+  rest.Kind = condition.Kind;
+  rest.Range = condition.Range;
   for (const TSelectCondition& node : condition.Nodes) {
     if (!joins.IsJoin(node)) rest.Nodes.push_back(node);
   }
@@ -148,15 +148,7 @@ TSubQuery TSelectImport::ReadSubQuery(TTokenRange range) {
 
 // Whether the tables can be joined at all.
 bool TSelectImport::CollectTables() {
-  // An inactive panel has no conditions in its statement.
-  FPanel.FActive = true;
-  std::string error;
-  try {
-    FPanel.FBuilder->BuildOutline();
-  } catch (const EJQueryPanelError& caught) {
-    error = caught.Message();
-  }
-  FPanel.FActive = false;
+  const std::string error = FPanel.BuildOutline();
   if (error.empty()) return true;
   FLog.Refuse(FStatement.Tables.front().Range, error, "the query has no statement");
   return false;
@@ -174,17 +166,15 @@ void TSelectImport::MapTables() {
     const std::vector<const TDSTable*> order = TJoinForm::OrderOf(tables, brackets);
     return std::equal(order.begin(), order.end(), own.begin(), own.end());
   };
-  HoldTables(false);
-  if (!CollectTables() || isSame()) return;
-  HoldTables(true);
-  if (!CollectTables() || isSame()) return;
+  if (!HoldTables(false) || isSame()) return;
+  if (!HoldTables(true) || isSame()) return;
   FJoins->RefuseDifference(tables, brackets);
   if (!ordered || !FJoins->IsSame(tables, brackets)) return;
   FLog.Refuse(FStatement.Tables.front().Range,
               "the model joins these tables in another order, so that \"*\" would have its columns in another order");
 }
 
-void TSelectImport::HoldTables(bool inOrder) {
+bool TSelectImport::HoldTables(bool inOrder) {
   TRFieldList& columns = FPanel.RFields();
   for (TResultField* holder : std::exchange(FHolders, {})) {
     static_cast<void>(columns.Delete(static_cast<std::size_t>(columns.IndexOf(*holder))));
@@ -193,6 +183,7 @@ void TSelectImport::HoldTables(bool inOrder) {
     const TDSTable* table = FScope.Tables()[i];
     if (table != nullptr && (inOrder || !FPanel.QResult().RTables().Holds(*table))) HoldTable(i, inOrder);
   }
+  return FHolders.empty() || CollectTables();
 }
 
 // A column that is not shown, and changes neither sorting nor groups.

@@ -52,12 +52,14 @@ class TSelectImport final {
   TResultField* ColumnFor(TTokenRange expr, bool aliasFirst);
   [[nodiscard]] TTokenRange Expanded(TTokenRange expr, bool aliasFirst) const;
   [[nodiscard]] std::size_t ColumnByName(TTokenRange expr, bool aliasFirst) const;
+  [[nodiscard]] bool HasAggregate() const;
   [[nodiscard]] bool IsGrouped() const;
   void CheckGroups(const std::vector<std::string>& groups);
 
   TSubQuery ReadSubQuery(TTokenRange range);
-  // Makes sure that every table takes part; from the first on, in the order of the statement, if `inOrder`.
-  void HoldTables(bool inOrder);
+  // Makes sure that every table takes part; from the first on, in the order of the statement, if `inOrder`. Whether the
+  // tables can be joined then.
+  bool HoldTables(bool inOrder);
   void HoldTable(std::size_t index, bool inOrder);
   bool CollectTables();
 

@@ -175,10 +175,8 @@ bool TSelectJoins::IsJoin(const TSelectCondition& condition) const {
 std::optional<TSelectJoins::TDifference> TSelectJoins::Difference(const TRTableList& tables, bool brackets) const {
   if (tables.Empty()) return TDifference{From(), "the query refers to no table"};
   const TJoinForm form = TJoinForm::Of(tables, brackets);
-  std::string joined;
+  const auto& own = FScope.Tables();
   for (const TResultTable& entry : tables) {
-    joined.append(joined.empty() ? "" : ", ").append(entry.Table->GetWhereExpr());
-    const auto& own = FScope.Tables();
     if (std::find(own.begin(), own.end(), entry.Table) != own.end()) continue;
     return TDifference{From(), Format("the model joins these tables through \"%s\", which the statement does not have: "
                                       "add it to the statement, or a link between them to the model",

@@ -18,6 +18,14 @@ namespace {
 // Longer ones than a predefined condition and such a list of values are none.
 constexpr std::size_t MostListTokens = 4000;
 
+TFieldType ExprTypeOf(const TDSOperator& op, const TDSField& field) {
+  return op.GetExprType() != ftUnknown ? op.GetExprType() : field.GetFieldType();
+}
+
+bool IgnoresCase(const TDSOperator& op, TFieldType type) {
+  return op.GetCaseInsensative() && TextFieldTypes.Contains(type);
+}
+
 bool IsParamName(std::string_view text) {
   return text.size() > 1 && text.front() == ':' && text.find_first_of(" \t\r\n,()'\"", 1) == std::string_view::npos;
 }
@@ -176,8 +184,8 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::TryOperator(const TC
                                                                         const TOperatorTemplate& candidate,
                                                                         bool withWildcards) {
   const TDSOperator& op = *candidate.Operator;
-  const TFieldType type = op.GetExprType() != ftUnknown ? op.GetExprType() : comparison.Field->GetFieldType();
-  if ((op.GetCaseInsensative() && TextFieldTypes.Contains(type)) != comparison.IgnoringCase) return std::nullopt;
+  const TFieldType type = ExprTypeOf(op, *comparison.Field);
+  if (IgnoresCase(op, type) != comparison.IgnoringCase) return std::nullopt;
   if (!candidate.Template.HasToken(FTokens.Operation())) return std::nullopt;
   const bool isSubQuery = IsSelect(comparison.RightRange);
   if ((op.GetValueKind() == vkSubQuery) != isSubQuery) return std::nullopt;
@@ -227,8 +235,7 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::FindLike(const TComp
     const auto candidate = std::find_if(Operators().begin(), Operators().end(),
                                         [op](const TOperatorTemplate& entry) { return entry.Operator == op; });
     if (candidate == Operators().end() || !candidate->Template.IsFieldAndValue("like")) continue;
-    const bool ignoresCase = op->GetCaseInsensative() && TextFieldTypes.Contains(comparison.Field->GetFieldType());
-    if (ignoresCase != comparison.IgnoringCase) continue;
+    if (IgnoresCase(*op, comparison.Field->GetFieldType()) != comparison.IgnoringCase) continue;
     TMatch match;
     match.Field = comparison.Field;
     match.Operator = op;
@@ -269,8 +276,8 @@ std::optional<TSelectConditions::TMatch> TSelectConditions::FindByColumns(const 
     for (const TOperatorTemplate& candidate : Operators()) {
       const TDSOperator& op = *candidate.Operator;
       if (!candidate.Template.HasFieldInside()) continue;
-      const TFieldType type = op.GetExprType() != ftUnknown ? op.GetExprType() : field->GetFieldType();
-      if (op.GetValueKind() == vkSubQuery || (op.GetCaseInsensative() && TextFieldTypes.Contains(type))) continue;
+      const TFieldType type = ExprTypeOf(op, *field);
+      if (op.GetValueKind() == vkSubQuery || IgnoresCase(op, type)) continue;
       TMatch match;
       TValueCaptures captures;
       if (op.GetParamCount() > captures.size() || !candidate.Template.Match(FTokens, true, captures) ||

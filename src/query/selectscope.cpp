@@ -6,6 +6,7 @@
 #include <tolvi/foundation/format.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/query/resultformula.h>
 #include <tolvi/query/selectscope.h>
 #include <tolvi/sqlimport/scanner.h>
 #include <tolvi/sqlimport/subselects.h>
@@ -19,7 +20,6 @@ namespace {
 // Words that stand between operands, so that a name may follow them.
 constexpr std::string_view ConnectingWords[] = {"when", "then",  "else", "glob", "ilike",  "similar",
                                                 "to",   "match", "div",  "mod",  "regexp", "rlike"};
-constexpr std::string_view Aggregates[] = {"sum", "count", "max", "min", "avg"};
 
 template <std::size_t Size>
 bool IsOneOf(std::string_view word, const std::string_view (&words)[Size]) {
@@ -209,19 +209,23 @@ bool TSelectScope::IsColumnOfModel(std::string_view name) const {
 // column.
 TTokenRange TSelectScope::ExprOfAlias(std::size_t token, const TSelectName& name) const {
   if (!FAliasesKnown || name.Count != 1 || name.Field != nullptr) return {};
-  const std::string alias = FText[token].Name();
-  const std::size_t index = ColumnByAlias(alias);
+  const std::size_t index = ColumnByAlias(FText[token].Name());
   if (index == FStatement.Columns.size()) return {};
   const TTokenRange expr = FStatement.Columns[index].Expr;
   if (token >= expr.Begin && token < expr.End) return {};
-  if (IsColumnOfModel(alias) && !(NameOf(expr).Count > 0 && SameText(FText[expr.End - 1].Name(), alias))) {
-    FLog.Refuse(
-        {token, token + 1},
-        Format("\"%s\" is an alias here and may be a column of the database, too: give the column another alias",
-               {alias}),
-        "taken as the alias");
-  }
+  CheckAlias({token, token + 1}, index);
   return expr;
+}
+
+void TSelectScope::CheckAlias(TTokenRange range, std::size_t column) const {
+  const TTokenRange expr = FStatement.Columns[column].Expr;
+  const std::string& alias = FStatement.Columns[column].Alias;
+  const bool isOwn = NameOf(expr).Count > 0 && SameText(FText[expr.End - 1].Name(), alias);
+  if (isOwn || !IsColumnOfModel(alias)) return;
+  FLog.Refuse(range,
+              Format("\"%s\" is an alias here and may be a column of the database, too: give the column another alias",
+                     {FText[range.Begin].Name()}),
+              "taken as the alias");
 }
 
 bool TSelectScope::IsCall(TTokenRange expr) const {
@@ -236,7 +240,7 @@ void TSelectScope::Walk(TTokenRange range, const TTextHandler& onText, const TFi
     const TSelectToken& token = FText[at];
     if (at > range.Begin) {
       const TSelectToken& before = FText[at - 1];
-      const bool isCall = token.Word == swOpen && before.IsName() && IsOneOf(before.Text, Aggregates);
+      const bool isCall = token.Word == swOpen && before.IsName() && IsOneOf(before.Text, AggregateFunctions);
       if (NeedsBlank(at) && !isCall) onText(" ");
     }
     if (const std::size_t end = EndOfSubSelect(FText, at); end > at) {

@@ -66,6 +66,9 @@ class TSelectScope final {
   [[nodiscard]] std::size_t ColumnByAlias(std::string_view alias) const;
   /// Whether a name stands in the statement's expressions word for word, without a table.
   [[nodiscard]] bool IsKeptName(std::string_view name) const { return FKeptNames.contains(std::string(name)); }
+  /// Refuses an alias of the select list where a column of the database could go by the same name, unless it is that
+  /// column's own.
+  void CheckAlias(TTokenRange range, std::size_t column) const;
   /// Whether any table of the model, and so maybe one of the statement, has a column of that name.
   [[nodiscard]] bool IsColumnOfModel(std::string_view name) const;
   /// Whether there are names of columns in the range, sub-queries aside.

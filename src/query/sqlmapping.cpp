@@ -113,17 +113,25 @@ void TJQueryPanel::MapSQL(TJSQLParser& parser, const TSQLImportOptions& options,
     where->DeleteEmptyBrackets();
     mapper.MapBracket(*FRoot, *where, parsed.Tables());
   }
-  // An inactive panel has no conditions in its statement.
-  FActive = true;
-  try {
-    FBuilder->BuildOutline();
-  } catch (const EJQueryPanelError& error) {
+  if (const std::string error = BuildOutline(); !error.empty()) {
     log.Warn(parsed.Tables().Empty() ? 0 : parsed.Tables()[0].GetPos(), "from",
-             Format("the query has no statement: %s", {error.Message()}));
+             Format("the query has no statement: %s", {error}));
   }
-  FActive = false;
   TImportReview(*this, parsed, log).Run();
   FImportWarnings = log.Take();
+}
+
+// An inactive panel has no conditions in its statement.
+std::string TJQueryPanel::BuildOutline() {
+  FActive = true;
+  std::string error;
+  try {
+    FBuilder->BuildOutline();
+  } catch (const EJQueryPanelError& caught) {
+    error = caught.Message();
+  }
+  FActive = false;
+  return error;
 }
 
 // A handler may destroy the panel.

@@ -6,22 +6,12 @@
 #include <gtest/gtest.h>
 
 #include "support/models.h"
+#include "support/stored_item.h"
 #include <tolvi/foundation/errors.h>
 #include <tolvi/query/qpbaselink.h>
 
 namespace tolvi {
 namespace {
-
-/// Keeps its text in a map.
-class TStoredItem final : public TJQueryItem {
- public:
-  TStoredItem(std::map<std::string, TStrings>& store, std::string_view name) : TJQueryItem(name), FStore(store) {}
-  void LoadContent(TStrings& strings) override { strings = FStore[GetQueryName()]; }
-  void SaveContent(const TStrings& strings) override { FStore[GetQueryName()] = strings; }
-
- private:
-  std::map<std::string, TStrings>& FStore;
-};
 
 class TTitleView final : public TQueryPanelView {
  public:

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/stored_item.h"
 #include <tolvi/schema/qrybase.h>
 
 namespace tolvi {
@@ -43,17 +44,6 @@ class TRecordingLink final : public TJQueryBaseLink {
   }
   std::string& FLog;
   std::string FName;
-};
-
-/// Keeps its text in a map.
-class TStoredItem final : public TJQueryItem {
- public:
-  TStoredItem(std::map<std::string, TStrings>& store, std::string_view name) : TJQueryItem(name), FStore(store) {}
-  void LoadContent(TStrings& strings) override { strings = FStore[GetQueryName()]; }
-  void SaveContent(const TStrings& strings) override { FStore[GetQueryName()] = strings; }
-
- private:
-  std::map<std::string, TStrings>& FStore;
 };
 
 class TLoadingBase final : public TJQueryBase {
