@@ -9,7 +9,7 @@ import re
 import sys
 import tempfile
 
-CORE = ["foundation", "schema", "sqlimport", "model", "query", "panel"]
+CORE = ["foundation", "schema", "sqlimport", "model", "query", "store", "panel"]
 
 # The arrows: what a folder of src/ may include besides itself.
 MAY_INCLUDE = {
@@ -18,9 +18,10 @@ MAY_INCLUDE = {
     "sqlimport": ["foundation"],
     "model": ["foundation", "schema", "sqlimport"],
     "query": ["foundation", "schema", "sqlimport", "model"],
+    "store": ["foundation", "schema", "sqlimport", "model", "query"],
     "panel": ["foundation", "schema", "sqlimport", "model", "query"],
-    "connect": ["foundation", "schema", "sqlimport", "model", "query"],
-    "ui": ["foundation", "schema", "sqlimport", "model", "query", "panel"],
+    "connect": ["foundation", "schema", "sqlimport", "model", "query", "store"],
+    "ui": ["foundation", "schema", "sqlimport", "model", "query", "store", "panel"],
 }
 
 # The core uses these and nothing else from outside.
@@ -34,8 +35,11 @@ STANDARD_HEADERS = set(
     syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility valarray
     variant vector version""".split())
 
-# What the standard library cannot do, and the one file that does it: flushing a file to the disk.
-SYSTEM_HEADERS = {"src/foundation/files.cpp": {"io.h", "unistd.h"}}
+# What the standard library cannot do, and the one file that does it: flushing a file to the disk, locking a folder.
+SYSTEM_HEADERS = {
+    "src/foundation/files.cpp": {"io.h", "unistd.h"},
+    "src/store/folderlock.cpp": {"fcntl.h", "sys/file.h", "unistd.h", "windows.h"},
+}
 
 MAX_LINES = 700
 MEASURED_DIRS = ["src", "apps", "tests", "bench", "fuzz", "examples", "tools"]

@@ -15,22 +15,21 @@
 #include <tolvi/model/modeltext_keys.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/querytext.h>
+#include <tolvi/query/querytext_keys.h>
 #include <tolvi/query/resultformula.h>
 
 namespace tolvi {
 namespace {
 
 // Sections. "Row" is followed by the ID of the row, "RField" by the number of the column.
-constexpr std::string_view MainSection = "Main", DescriptionSection = "Description", UserDataSection = "UserData",
-                           RFieldsSection = "RFields", RFieldPrefix = "RField", RowPrefix = "Row",
-                           OldTitlesSection = "Titles";
+constexpr std::string_view UserDataSection = "UserData", RFieldsSection = "RFields", RFieldPrefix = "RField",
+                           RowPrefix = "Row", OldTitlesSection = "Titles";
 constexpr std::string_view TitleSections[] = {"Query Panel", "PanelTitles", "Result Fields Editor"};
 constexpr std::string_view OtherSections[] = {MainSection, DescriptionSection, UserDataSection, RFieldsSection,
                                               OldTitlesSection};
 
 // Keys of "[Main]".
-constexpr std::string_view QueryNameKey = "QueryName", VersionKey = "Version", OptionsKey = "Options", TopKey = "Top",
-                           LimitKey = "Limit";
+constexpr std::string_view OptionsKey = "Options", TopKey = "Top", LimitKey = "Limit";
 
 // Keys of rows, as a bracket and as a condition write them.
 constexpr std::string_view EnabledKey = "Enabled", RowTypeKey = "RowType", LinkTypeKey = "LinkType",
@@ -54,8 +53,8 @@ constexpr TValueKeys ValueKeys[] = {
 constexpr double UnnumberedQueryVersion = 1.1;
 constexpr double ParamsSince = 1.2, FieldIDsSince = 2.0, CaptionsSince = 2.1;
 
-/// Whether the format itself writes or once wrote a header of that name, in any case: lines of a description that
-/// look so are told apart by a blank before them.
+}  // namespace
+
 bool IsQueryHeader(std::string_view name) {
   const auto isName = [name](std::string_view section) { return SameText(section, name); };
   if (std::any_of(std::begin(OtherSections), std::end(OtherSections), isName)) return true;
@@ -68,8 +67,6 @@ bool IsQueryHeader(std::string_view name) {
   }
   return false;
 }
-
-}  // namespace
 
 /// Reads a query text into a panel. What the text says is set as it stands, without what setters change besides.
 class TQueryReader {

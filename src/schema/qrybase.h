@@ -203,6 +203,8 @@ class TJQueryBase : public TComponent {
  protected:
   /// Adds the stored queries by `AddItem`; links are not told of each. Does nothing in the base.
   virtual void LoadQueries();
+  /// Says what number the current query has; -1 for none. Fires and tells nothing.
+  void MoveItemIndex(int index) { FItemIndex = index; }
 
  private:
   friend class TJQueryItem;
