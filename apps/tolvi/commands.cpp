@@ -4,7 +4,6 @@
 #include <cstring>
 #include <exception>
 
-#include "apps/tolvi/run_sqlite.h"
 #include "apps/tolvi/session.h"
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/explain.h>
@@ -20,8 +19,9 @@ struct THandler {
   int (*run)(TSession& session);
 };
 constexpr THandler Handlers[] = {
-    {"sql", RunSql},         {"filters", RunFilters}, {"path", RunPath}, {"model", RunModel}, {"query", RunQuery},
-    {"explain", RunExplain}, {"check", RunCheck},     {"run", RunRun},   {"parse", RunParse}, {"import", RunImport},
+    {"sql", RunSql},     {"filters", RunFilters}, {"path", RunPath},   {"model", RunModel},
+    {"query", RunQuery}, {"explain", RunExplain}, {"check", RunCheck}, {"init-model", RunInitModel},
+    {"run", RunRun},     {"store", RunStore},     {"parse", RunParse}, {"import", RunImport},
 };
 
 int RunCommand(const TArguments& arguments, TStreams& streams) {

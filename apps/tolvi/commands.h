@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <span>
 #include <string>
@@ -14,6 +16,8 @@ struct TStreams {
   std::ostream& Err;
   /// Whether somebody sits at a terminal to answer questions.
   bool CanAsk = false;
+  /// Asks for a text that is not shown as it is typed; nothing when there is none. Null: nobody can be asked.
+  std::function<std::optional<std::string>(const std::string& question)> AskSecret = {};
 };
 
 /// The program `tolvi` with its arguments (without the program's name). Returns the exit status: 0 done, 1 the input

@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "apps/tolvi/run_sqlite.h"
+#include "apps/tolvi/database.h"
+#include "apps/tolvi/output.h"
 #include "apps/tolvi/session.h"
+#include <tolvi/connect/queryrunner.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/paramvalues.h>
 
@@ -95,6 +97,39 @@ TBoundStatement CompleteStatement(TSession& session) {
   return statement;
 }
 
+TCellKind CellKindOf(TSqlValueKind kind) {
+  switch (kind) {
+    case svNull:
+      return ckNull;
+    case svNumber:
+    case svBoolean:
+      return ckNumber;
+    case svBytes:
+      return ckBytes;
+    default:
+      return ckText;
+  }
+}
+
+void PrintRows(TSession& session, TJQueryRunner& runner) {
+  const auto writer = MakeRowWriter(session.Arguments.Value("format", "table"), session.Streams.Out);
+  const std::size_t count = runner.Columns().size();
+  std::vector<TSqlValue> values(count);
+  std::vector<TCell> cells(count);
+  // The first row shows whether the statement runs at all, before anything is printed.
+  bool isRow = runner.Next();
+  writer->Begin(runner.Columns());
+  for (; isRow; isRow = runner.Next()) {
+    for (std::size_t i = 0; i < count; ++i) {
+      values[i] = runner.Value(i);
+      cells[i] = {CellKindOf(values[i].Kind), values[i].Text};
+    }
+    writer->Row(cells);
+    session.CheckOutput();
+  }
+  writer->End();
+}
+
 }  // namespace
 
 int RunRun(TSession& session) {
@@ -102,14 +137,12 @@ int RunRun(TSession& session) {
   session.TellWarnings(session.Panel.LoadWarnings());
   const TBoundStatement statement = Reading(session.QuerySource, [&session] { return CompleteStatement(session); });
   session.TellWarnings(session.Panel.QResult().Warnings());
-  const std::string file(session.Arguments.Value("db"));
-  try {
-    const TSQLiteDatabase database(file);
-    const auto writer = MakeRowWriter(session.Arguments.Value("format", "table"), session.Streams.Out);
-    database.Run(statement, session.Model.SQLFormats().GetQuoteBool(), *writer, [&session] { session.CheckOutput(); });
-  } catch (const ESQLiteError& error) {
-    throw EInputError(file + ": " + error.what());
-  }
+  const TSqlConnection connection = OpenDatabase(session, session.Arguments.Value("db"));
+  Using(connection.GetUrl().Shown(), [&] {
+    TJQueryRunner runner(connection.GetName());
+    runner.Run(statement, session.Model.SQLFormats().GetQuoteBool());
+    PrintRows(session, runner);
+  });
   return 0;
 }
 

@@ -1,17 +1,39 @@
 #include <csignal>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include <termios.h>
 #include <unistd.h>
 
 #include "apps/tolvi/commands.h"
+
+namespace {
+
+/// The terminal does not show what is typed.
+std::optional<std::string> AskSecret(const std::string& question) {
+  termios shown{};
+  if (tcgetattr(STDIN_FILENO, &shown) != 0) return std::nullopt;
+  termios hidden = shown;
+  hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+  std::cerr << question << std::flush;
+  if (tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden) != 0) return std::nullopt;
+  std::string answer;
+  const bool answered = static_cast<bool>(std::getline(std::cin, answer));
+  tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown);
+  std::cerr << std::endl;
+  return answered ? std::optional(answer) : std::nullopt;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   // A reader that goes away is told by the write that fails.
   std::signal(SIGPIPE, SIG_IGN);
   tolvi::TStreams streams{std::cin, std::cout, std::cerr, isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1};
+  if (streams.CanAsk) streams.AskSecret = AskSecret;
   const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
   return tolvi::RunTolvi(arguments, streams);
 }

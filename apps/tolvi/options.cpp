@@ -13,7 +13,15 @@ constexpr TOptionInfo OptionTable[] = {
     {"model", "FILE", "the data model", "", false},
     {"query", "FILE", "the query", "", false},
     {"sql", "FILE", "the SELECT statement", "", false},
-    {"db", "FILE", "the SQLite database; it is only read", "", false},
+    {"db", "DB", "the database, which is only read: an SQLite file, postgresql://... or mysql://...", "", false},
+    {"store", "STORE", "where the queries are: a folder, or the URL of a database", "", false},
+    {"merge", "FILE", "the data model to add to; what is in it stays as it is", "", false},
+    {"table", "NAME", "only this table or view; may be repeated", "", true},
+    {"no-views", "", "no views", "", false},
+    {"outer-links", "", "keep the rows that a foreign key leads nowhere from", "", false},
+    {"links-from-names", "", "link columns that are called like the key of another table, too", "", false},
+    {"changed-types", "", "take over types that have changed", "", false},
+    {"revision", "R", "only if the query is of this revision", "", false},
     {"syntax", "SYNTAX", "how the statement is written: sql1, sql2 (default), oracle, access or nexusdb",
      "sql1|sql2|oracle|access|nexusdb", false},
     {"top", "T", "only the first rows, as TOP: a number, or \"10 PERCENT\"", "", false},
@@ -72,7 +80,16 @@ constexpr TCommandInfo CommandTable[] = {
       checks queries against it, too. Each finding is a line FILE:LINE: error: ... or FILE:LINE: warning: ...; the exit
       status is 1 if there is an error.
 )help"},
-    {"run", "", "run a query on an SQLite database and print the rows", 0, 0, false, "model query db",
+    {"init-model", "", "make a data model of a database", 0, 0, false, "db",
+     "merge table no-views outer-links links-from-names changed-types",
+     R"help(  tolvi init-model --db shop.sqlite >shop.model
+      makes a model of all tables and views, with SQL formats for that database. What is in it stands on standard error.
+  tolvi init-model --db postgresql://anna@server/shop --table orders --table customers >shop.model
+      makes one of two tables. The password comes from PGPASSWORD (MYSQL_PWD for mysql://), or is asked for.
+  tolvi init-model --db shop.sqlite --merge shop.model >new.model
+      adds what is new in the database to a model. What has vanished is told and stays.
+)help"},
+    {"run", "", "run a query on a database and print the rows", 0, 0, false, "model query db",
      "param format limit syntax fragments",
      R"help(  tolvi run --model shop.model --query late.qry --db shop.sqlite
       prints the rows as a table; the widths of its columns are those of the first 100 rows.
@@ -82,6 +99,18 @@ constexpr TCommandInfo CommandTable[] = {
       prints comma separated values (RFC 4180, lines ended by LF); NULL is an empty field, an empty text "".
   tolvi run --model shop.model --query late.qry --db shop.sqlite --format json
       prints an array of objects, one in a line; NULL is null, bytes are written as hexadecimal digits.
+)help"},
+    {"store", "list | show NAME | save NAME | delete NAME", "keep queries in a folder or a database", 1, 2, false,
+     "store", "query format revision",
+     R"help(  tolvi store list --store queries
+      prints the queries in the folder, with their descriptions and revisions.
+  tolvi store show "Late orders" --store sqlite:shop.sqlite
+      prints the text of a query that is kept in a database.
+  tolvi store save "Late orders" --store queries --query late.qry
+      stores a new query; without --query, it is read from standard input.
+  tolvi store save "Late orders" --store queries --query late.qry --revision R
+      replaces the query, unless somebody else has changed it since it was of revision R.
+  tolvi store delete "Late orders" --store queries
 )help"},
     {"parse", "", "print what is understood of an SQL statement", 0, 0, false, "sql", "",
      R"help(  tolvi parse --sql late.sql
@@ -155,7 +184,8 @@ void CheckWhole(const TArguments& arguments) {
     throw EUsageError(name + " takes no \"" + arguments.Operands[command.MaxOperands] + "\"");
   }
   auto stdinCount = 0;
-  for (const std::string_view file : {"model", "query", "sql"}) stdinCount += arguments.Value(file) == "-" ? 1 : 0;
+  for (const std::string_view file : {"model", "query", "sql", "merge"})
+    stdinCount += arguments.Value(file) == "-" ? 1 : 0;
   if (command.OperandsAreFiles) {
     stdinCount += static_cast<int>(std::count(arguments.Operands.begin(), arguments.Operands.end(), "-"));
   }
@@ -260,7 +290,7 @@ std::string HelpText() {
       "usage: tolvi COMMAND ...\n\n"
       "Makes SQL from a data model and a query written in its words, and runs it.\n\n";
   for (const TCommandInfo& command : CommandTable) {
-    text += "  " + Padded(command.Name, 9) + std::string(command.Summary) + "\n";
+    text += "  " + Padded(command.Name, 12) + std::string(command.Summary) + "\n";
   }
   text +=
       "\nFor example:\n"

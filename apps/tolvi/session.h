@@ -48,7 +48,9 @@ int RunModel(TSession& session);
 int RunQuery(TSession& session);
 int RunExplain(TSession& session);
 int RunCheck(TSession& session);
+int RunInitModel(TSession& session);
 int RunRun(TSession& session);
+int RunStore(TSession& session);
 int RunParse(TSession& session);
 int RunImport(TSession& session);
 

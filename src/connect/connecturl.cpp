@@ -13,7 +13,7 @@ struct TScheme {
   std::string_view Name;
   TDatabaseKind Kind;
 };
-/// The first name of a kind is the one that is shown.
+/// The first name of a kind is the one that is shown, and that of its formats.
 constexpr TScheme Schemes[] = {{"sqlite", dkSQLite},
                                {"postgresql", dkPostgreSQL},
                                {"postgres", dkPostgreSQL},
@@ -166,11 +166,15 @@ class TUrlReader {
 
 }  // namespace
 
+std::string_view FormatPresetOf(TDatabaseKind kind) {
+  return std::find_if(std::begin(Schemes), std::end(Schemes),
+                      [kind](const TScheme& scheme) { return scheme.Kind == kind; })
+      ->Name;
+}
+
 std::string TConnectionUrl::Shown() const {
   constexpr std::string_view Special = "/?#@:[]";
-  std::string result(std::find_if(std::begin(Schemes), std::end(Schemes), [this](const TScheme& scheme) {
-                       return scheme.Kind == Kind;
-                     })->Name);
+  std::string result(FormatPresetOf(Kind));
   result += ':';
   if (Kind == dkSQLite) {
     AppendEncoded(result, Database, {});

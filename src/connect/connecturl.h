@@ -37,6 +37,9 @@ struct TConnectionUrl {
   bool operator==(const TConnectionUrl&) const = default;
 };
 
+/// The preset of SQL formats that suits the kind (see `ApplyFormatPreset`).
+[[nodiscard]] std::string_view FormatPresetOf(TDatabaseKind kind);
+
 /// Whether the text begins like a URL ("sqlite:", "postgresql://", also "other://"), and is not the name of a file.
 [[nodiscard]] bool IsConnectionUrl(std::string_view text);
 

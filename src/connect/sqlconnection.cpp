@@ -150,8 +150,10 @@ class TOpening final {
 
   void SetUpMySQL() {
     RunSql(FDatabase, "SET NAMES utf8mb4");
-    // A backslash that escapes would let a text leave its literal.
-    RunSql(FDatabase, "SET SESSION sql_mode = CONCAT(@@SESSION.sql_mode, ',ANSI_QUOTES,NO_BACKSLASH_ESCAPES')");
+    // A backslash that escapes would let a text leave its literal; "||" that is OR would make 0 of two texts.
+    RunSql(FDatabase,
+           "SET SESSION sql_mode = "
+           "CONCAT(@@SESSION.sql_mode, ',ANSI_QUOTES,NO_BACKSLASH_ESCAPES,PIPES_AS_CONCAT')");
     if (FOptions.ReadOnly) RunSql(FDatabase, "SET SESSION TRANSACTION READ ONLY");
   }
 

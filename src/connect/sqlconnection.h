@@ -24,8 +24,8 @@ struct TSqlConnectOptions {
 /// Belongs to the thread that opens it.
 ///
 /// A URL without a password takes the one of the environment: PGPASSWORD or MYSQL_PWD. On MySQL, texts are
-/// UTF-8, names may stand in double quotes, and a backslash in a text is only that: a host that opens MySQL by itself
-/// and runs statements with literals sets the modes ANSI_QUOTES and NO_BACKSLASH_ESCAPES, too.
+/// UTF-8, names may stand in double quotes, a backslash in a text is only that, and "||" joins texts as elsewhere: a
+/// host that opens MySQL by itself sets the modes ANSI_QUOTES, NO_BACKSLASH_ESCAPES and PIPES_AS_CONCAT, too.
 ///
 /// The database drivers need a QCoreApplication. Where none exists, this makes one, which stays to the end of the
 /// program: a host that has its own makes it before.

@@ -1,64 +1,8 @@
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
-#include <gtest/gtest.h>
-
-#include "apps/tolvi/commands.h"
 #include "apps/tolvi/options.h"
-#include "support/models.h"
-#include <tolvi/foundation/files.h>
-#include <tolvi/foundation/text.h>
+#include "command_line.h"
 
 namespace tolvi {
 namespace {
-
-struct TOutcome {
-  int status;
-  std::string out, err;
-};
-
-/// The program in a folder of its own, with the model and queries of the sample shop beside it.
-class CommandLine : public testing::Test {
- protected:
-  void SetUp() override {
-    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-    FFolder = std::filesystem::path(testing::TempDir()) / (std::string("tolvi_cli_") + test->name());
-    std::filesystem::create_directories(FFolder);
-    WriteFileAtomically(FFolder / "orders.model", OrdersModel()->GetStructString());
-  }
-  void TearDown() override { std::filesystem::remove_all(FFolder); }
-
-  /// `arguments` are separated by blanks; in them, MODEL, QUERIES and DB are the sample's, DIR is the test's folder.
-  TOutcome Run(std::string_view arguments, std::string_view input = {}, bool canAsk = false) const {
-    std::vector<std::string> words;
-    for (std::istringstream in{std::string(arguments)}; in >> words.emplace_back();) {
-    }
-    words.pop_back();
-    const std::string shop = TOLVI_SOURCE_DIR "/samples/shop/";
-    for (std::string& word : words) {
-      word = ReplaceStr(word, "MODEL", shop + "shop.model");
-      word = ReplaceStr(word, "QUERIES", shop + "queries");
-      word = ReplaceStr(word, "DB", TOLVI_SHOP_DATABASE);
-      word = ReplaceStr(word, "DIR", FFolder.string());
-    }
-    std::istringstream in{std::string(input)};
-    std::ostringstream out, err;
-    TStreams streams{in, out, err, canAsk};
-    const int status = RunTolvi(words, streams);
-    return {status, out.str(), ReplaceStr(ReplaceStr(err.str(), shop, ""), FFolder.string(), "DIR")};
-  }
-  std::string Write(const std::string& name, std::string_view text) const {
-    WriteFileAtomically(FFolder / name, text);
-    return "DIR/" + name;
-  }
-  /// A sample with LF line breaks.
-  static std::string Shop(const std::string& name) {
-    return ReplaceStr(ReadFile(std::string(TOLVI_SOURCE_DIR "/samples/shop/") + name), "\r\n", "\n");
-  }
-
-  std::filesystem::path FFolder;
-};
 
 TEST_F(CommandLine, TellsWrongUsageWithStatus2) {
   const std::pair<std::string_view, std::string_view> cases[] = {
@@ -114,8 +58,8 @@ TEST_F(CommandLine, TellsFaultsOfTheInputWithFileAndLine) {
        "DIR/bad.qry:61: section \"RField6\", key \"Sorting\": 'down' is not a valid integer value"},
       {"path --model MODEL Orders Nowhere", "shop.model: No such table Nowhere"},
       {"run --model MODEL --query QUERIES/01-late-to-these-cities.qry --db DIR/none.db",
-       "DIR/none.db: unable to open database file"},
-      {"run --model DIR/orders.model --query - --db DB", "DB: no such table: Order Details"},
+       "Cannot open sqlite:DIR/none.db: there is no such file: check its name"},
+      {"run --model DIR/orders.model --query - --db DB", "sqlite:DB: no such table: Order Details"},
   };
   const std::string anyQuery =
       "[Main]\nVersion=3.6\n[RFields]\nCount=1\n[RField1]\nFormula=@1\nFields=14\n[Row]\nRowType=1\n";

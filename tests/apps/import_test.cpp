@@ -1,42 +1,16 @@
-#include <filesystem>
-#include <sstream>
-#include <vector>
-
-#include <gtest/gtest.h>
-
-#include "apps/tolvi/commands.h"
-#include "support/models.h"
-#include <tolvi/foundation/files.h>
-#include <tolvi/foundation/text.h>
+#include "command_line.h"
 
 namespace tolvi {
 namespace {
 
-struct TOutcome {
-  int status;
-  std::string out, err;
-};
-
 /// `tolvi import` with the model of orders and a statement as standard input.
-class ImportCommand : public testing::Test {
+class ImportCommand : public CommandLine {
  protected:
-  void SetUp() override {
-    FModel = std::filesystem::path(testing::TempDir()) / "tolvi_import.model";
-    WriteFileAtomically(FModel, OrdersModel()->GetStructString());
-  }
-  void TearDown() override { std::filesystem::remove(FModel); }
-
-  TOutcome Run(std::string_view sql, std::vector<std::string> more = {}) const {
-    std::vector<std::string> words{"import", "--model", FModel.string(), "--sql", "-"};
+  TOutcome Run(std::string_view sql, const std::vector<std::string>& more = {}) const {
+    std::vector<std::string> words{"import", "--model", "DIR/orders.model", "--sql", "-"};
     words.insert(words.end(), more.begin(), more.end());
-    std::istringstream in{std::string(sql)};
-    std::ostringstream out, err;
-    TStreams streams{in, out, err};
-    const int status = RunTolvi(words, streams);
-    return {status, out.str(), err.str()};
+    return RunWords(words, sql);
   }
-
-  std::filesystem::path FModel;
 };
 
 TEST_F(ImportCommand, PrintsTheQueryTextOfAStatement) {

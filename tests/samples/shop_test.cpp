@@ -1,12 +1,12 @@
 #include <algorithm>
 #include <filesystem>
-#include <map>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "shop_database.h"
+#include "support/shop_reference.h"
 #include <tolvi/foundation/files.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/querpnl.h>
@@ -20,24 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path Shop = fs::path(TOLVI_SOURCE_DIR) / "samples/shop";
-const fs::path References = fs::path(TOLVI_SOURCE_DIR) / "tests/samples/reference";
-
-/// A hand-written statement and what its head says: "-- param NAME=VALUE", "-- unordered", "-- sql2 only".
-struct TReference {
-  explicit TReference(const std::string& name) {
-    SQL = ReadFile(References / (name + ".sql"));
-    for (std::string_view line : SplitLines(SQL)) {
-      if (line == "-- unordered") Unordered = true;
-      if (line == "-- sql2 only") JoinStyleOnly = true;
-      if (!line.starts_with("-- param ")) continue;
-      const auto [param, value] = GetNameAndValueSep(line.substr(9), "=");
-      Params[std::string(param)] = value;
-    }
-  }
-  std::string SQL;
-  bool Unordered = false, JoinStyleOnly = false;
-  std::map<std::string, std::string> Params;
-};
 
 TRows ReferenceRows(TShop& shop, const TReference& reference) {
   return shop.Rows(reference.SQL, [&reference](sqlite3_stmt* statement) {
