@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "apps/tolvi/session.h"
+#include <tolvi/connect/connecturl.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/explain.h>
 #include <tolvi/query/querycheck.h>
@@ -43,6 +44,18 @@ int Tell(TStreams& streams, std::string_view message, int status) {
   return status;
 }
 
+/// The message without what may be passwords in the arguments: a URL may have been given in the wrong place.
+std::string WithoutPasswords(std::string message, std::span<const std::string> arguments) {
+  for (const std::string& argument : arguments) {
+    for (const std::string_view password : PasswordsIn(argument)) {
+      // With the ":" or "=" before it.
+      const std::string shown(password.data() - 1, password.size() + 1);
+      message = ReplaceStr(message, shown, shown.substr(0, 1) + "***");
+    }
+  }
+  return message;
+}
+
 std::string_view StyleKind(const TBoundValue& value) {
   return value.IsMissing ? "missing" : value.IsParam ? "param" : "value";
 }
@@ -77,7 +90,7 @@ int RunTolvi(std::span<const std::string> arguments, TStreams& streams) {
     if (!streams.Out.flush()) throw EOutputError{errno};
     return status;
   } catch (const EUsageError& error) {
-    return Tell(streams, error.what(), 2);
+    return Tell(streams, WithoutPasswords(error.what(), arguments), 2);
   } catch (const EOutputError& error) {
     // Whoever reads the output has seen enough.
     if (error.Reason == EPIPE) return 0;
@@ -85,7 +98,7 @@ int RunTolvi(std::span<const std::string> arguments, TStreams& streams) {
     return Tell(streams, "the output cannot be written" + reason, 1);
   } catch (const std::exception& error) {
     streams.Out.flush();
-    return Tell(streams, error.what(), 1);
+    return Tell(streams, WithoutPasswords(error.what(), arguments), 1);
   }
 }
 

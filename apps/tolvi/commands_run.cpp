@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <unordered_set>
 
 #include "apps/tolvi/database.h"
 #include "apps/tolvi/output.h"
@@ -13,8 +12,6 @@
 namespace tolvi {
 namespace {
 
-using TNames = std::unordered_set<std::string, TFoldedHash, TFoldedEqual>;
-
 std::string Joined(const std::vector<std::string>& names) {
   std::string text;
   for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
@@ -22,8 +19,8 @@ std::string Joined(const std::vector<std::string>& names) {
 }
 
 /// Sets the values of --param; returns the names that got one.
-TNames SetGivenValues(TSession& session) {
-  TNames given;
+TParamNames SetGivenValues(TSession& session) {
+  TParamNames given;
   for (const std::string_view argument : session.Arguments.Values("param")) {
     const std::size_t sign = argument.find('=');
     if (sign == std::string_view::npos || sign == 0) {
@@ -51,18 +48,6 @@ std::vector<std::string> MissingNames(const TBoundStatement& statement) {
   return names;
 }
 
-/// An empty text that was given on purpose is one; other types have no empty value.
-void TakeEmptyTexts(TBoundStatement& statement, const TNames& given, const std::vector<TParamInfo>& params) {
-  for (TBoundValue& value : statement.Values) {
-    if (!value.IsMissing || !given.contains(value.Name) || !TextFieldTypes.Contains(value.Type)) continue;
-    const auto param = std::find_if(params.begin(), params.end(),
-                                    [&value](const TParamInfo& info) { return SameText(info.Name, value.Name); });
-    if (param != params.end()) value.Text = param->FullValue;
-    value.Value = value.Text;
-    value.IsMissing = false;
-  }
-}
-
 /// Asks for the values that are missing.
 void Ask(TSession& session, const std::vector<std::string>& names, const std::vector<TParamInfo>& params) {
   for (const std::string& name : names) {
@@ -78,10 +63,10 @@ void Ask(TSession& session, const std::vector<std::string>& names, const std::ve
 }
 
 TBoundStatement CompleteStatement(TSession& session) {
-  TNames given = SetGivenValues(session);
+  TParamNames given = SetGivenValues(session);
   const auto bind = [&session, &given] {
     TBoundStatement statement = session.Panel.GetBoundStatement(msQuestion);
-    TakeEmptyTexts(statement, given, ListParams(session.Panel));
+    TakeEmptyTexts(statement, session.Panel, given);
     return statement;
   };
   TBoundStatement statement = bind();

@@ -1,8 +1,13 @@
+#include <algorithm>
+#include <filesystem>
 #include <memory>
+#include <system_error>
+#include <vector>
 
 #include "apps/tolvi/database.h"
 #include "apps/tolvi/output.h"
 #include <tolvi/connect/sqlqrybase.h>
+#include <tolvi/foundation/text.h>
 #include <tolvi/store/fileqrybase.h>
 
 // The command "store": named queries in a folder or a database.
@@ -25,6 +30,9 @@ TStore OpenStore(TSession& session, TDatabaseUse use) {
     store.Name = store.Connection->GetUrl().Shown();
     store.Base = std::make_unique<TJSqlQueryBase>(store.Connection->GetName());
   } else {
+    if (std::error_code error; std::filesystem::is_regular_file(place, error)) {
+      throw EInputError(place + " is a file: a store is a folder or the URL of a database, such as sqlite:" + place);
+    }
     auto base = std::make_unique<TJFileQueryBase>();
     base->SetFolder(place);
     store.Base = std::move(base);
@@ -67,7 +75,7 @@ void CheckRevision(const TSession& session, const TJStoredQuery& query) {
   }
 }
 
-void List(TSession& session) {
+void List(TSession& session, const std::string&) {
   WithStore(session, duRead, [&session](TJStoredQueryBase& base) {
     const auto writer = MakeRowWriter(session.Arguments.Value("format", "table"), session.Streams.Out);
     writer->Begin({"Name", "Description", "Owner", "Changed", "Revision"});
@@ -95,6 +103,9 @@ void Show(TSession& session, const std::string& name) {
 
 void Save(TSession& session, const std::string& name) {
   session.QuerySource = ReadSource(std::string(session.Arguments.Value("query", "-")), session.Streams.In);
+  // As of a command before this one in a pipe that has failed.
+  if (Trim(session.QuerySource.Text).empty())
+    throw EInputError(session.QuerySource.Name + ": there is no text to store");
   // Without a model, whatever the text names is unknown; only its form is checked.
   session.Panel.SetDBStruct(&session.Model);
   session.Panel.SetAllowSQLFragments(true);
@@ -128,26 +139,39 @@ void Delete(TSession& session, const std::string& name) {
 
 struct TAction {
   std::string_view Name;
+  bool NeedsName;
+  /// Those of the options of "store" that are for it, separated by blanks.
+  std::string_view Options;
   void (*Run)(TSession& session, const std::string& name);
 };
-constexpr TAction Actions[] = {{"show", Show}, {"save", Save}, {"delete", Delete}};
+constexpr TAction Actions[] = {{"list", false, "format", List},
+                               {"show", true, "", Show},
+                               {"save", true, "query revision", Save},
+                               {"delete", true, "revision", Delete}};
+
+const TAction& ActionOf(std::string_view name) {
+  for (const TAction& action : Actions) {
+    if (action.Name == name) return action;
+  }
+  throw EUsageError("store is followed by list, show, save or delete, not \"" + std::string(name) + "\"");
+}
 
 }  // namespace
 
 int RunStore(TSession& session) {
   const std::vector<std::string>& words = session.Arguments.Operands;
-  if (words[0] == "list") {
-    if (words.size() > 1) throw EUsageError("store list takes no \"" + words[1] + "\"");
-    List(session);
-    return 0;
+  const TAction& action = ActionOf(words[0]);
+  if (action.NeedsName && words.size() < 2) throw EUsageError("store " + words[0] + " needs the name of a query");
+  if (!action.NeedsName && words.size() > 1) {
+    throw EUsageError("store " + words[0] + " takes no \"" + words[1] + "\"");
   }
-  for (const TAction& action : Actions) {
-    if (action.Name != words[0]) continue;
-    if (words.size() < 2) throw EUsageError("store " + words[0] + " needs the name of a query");
-    action.Run(session, words[1]);
-    return 0;
+  for (const std::string_view option : {"query", "format", "revision"}) {
+    if (session.Arguments.Has(option) && action.Options.find(option) == std::string_view::npos) {
+      throw EUsageError("store " + words[0] + " has no option --" + std::string(option));
+    }
   }
-  throw EUsageError("store is followed by list, show, save or delete, not \"" + words[0] + "\"");
+  action.Run(session, words.size() > 1 ? words[1] : std::string());
+  return 0;
 }
 
 }  // namespace tolvi

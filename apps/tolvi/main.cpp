@@ -1,5 +1,6 @@
 #include <csignal>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,17 +12,30 @@
 
 namespace {
 
-/// The terminal does not show what is typed.
+constexpr int Ends[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
+
+// The terminal's settings before the question.
+termios shown;
+
+void ShowAndEnd(int signal) {
+  tcsetattr(STDIN_FILENO, TCSANOW, &shown);
+  std::signal(signal, SIG_DFL);
+  raise(signal);
+}
+
+/// The terminal does not show what is typed. Whoever ends the program meanwhile finds the terminal as it was.
 std::optional<std::string> AskSecret(const std::string& question) {
-  termios shown{};
   if (tcgetattr(STDIN_FILENO, &shown) != 0) return std::nullopt;
   termios hidden = shown;
   hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
   std::cerr << question << std::flush;
+  void (*former[std::size(Ends)])(int);
+  for (std::size_t i = 0; i < std::size(Ends); ++i) former[i] = std::signal(Ends[i], ShowAndEnd);
   if (tcsetattr(STDIN_FILENO, TCSAFLUSH, &hidden) != 0) return std::nullopt;
   std::string answer;
   const bool answered = static_cast<bool>(std::getline(std::cin, answer));
   tcsetattr(STDIN_FILENO, TCSAFLUSH, &shown);
+  for (std::size_t i = 0; i < std::size(Ends); ++i) std::signal(Ends[i], former[i]);
   std::cerr << std::endl;
   return answered ? std::optional(answer) : std::nullopt;
 }

@@ -20,7 +20,7 @@ int main(int argc, char** argv) try {
   TJSqlDBInfo catalogue(connection.GetName());
   TJDBStructure model;
   ApplyFormatPreset(model.SQLFormats(), FormatPresetOf(connection.GetKind()));
-  FillModel(model, catalogue, {});
+  FillModel(model, catalogue, {.QuoteMixedCase = connection.GetKind() == dkPostgreSQL});
 
   TJQueryPanel panel;
   panel.SetDBStruct(&model);
@@ -30,7 +30,9 @@ int main(int argc, char** argv) try {
   store.SetFolder(argv[2]);
   link.SetQueryBase(&store);
   store.Open();
-  store.SetItemIndex(store.IndexByName(argv[3]));
+  const int query = store.IndexByName(argv[3]);
+  if (query < 0) throw EException("There is no query \"%s\" in %s", {argv[3], argv[2]});
+  store.SetItemIndex(query);
 
   TJQueryRunner runner(connection.GetName());
   runner.Run(panel);

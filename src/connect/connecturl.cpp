@@ -35,21 +35,20 @@ const TScheme* SchemeOf(std::string_view url) {
   return found == std::end(Schemes) ? nullptr : found;
 }
 
-/// The text with whatever may be a password replaced: all between the first ":" of the part after "//" and its last
-/// "@". A wrong URL may hold more of either.
-std::string WithoutPassword(std::string_view url) {
-  const std::size_t slashes = url.find("//");
-  const std::size_t start = slashes == std::string_view::npos ? url.find(':') + 1 : slashes + 2;
-  const std::size_t at = url.rfind('@');
-  const std::size_t colon = url.find(':', start);
-  if (at == std::string_view::npos || colon == std::string_view::npos || colon > at) return std::string(url);
-  return std::string(url.substr(0, colon + 1)).append("***").append(url.substr(at));
+std::string WithoutPasswords(std::string_view url) {
+  std::string text;
+  const char* rest = url.data();
+  for (const std::string_view password : PasswordsIn(url)) {
+    text.append(rest, password.data()).append("***");
+    rest = password.data() + password.size();
+  }
+  return text.append(rest, url.data() + url.size());
 }
 
 [[noreturn]] void Refuse(std::string_view url, std::string_view reason) {
   std::string forms;
   for (const std::string_view form : Forms) forms.append(forms.empty() ? "" : ", or ").append(form);
-  throw EConnectError("\"%s\" %s. A database is given as %s", {WithoutPassword(url), reason, forms});
+  throw EConnectError("\"%s\" %s. A database is given as %s", {WithoutPasswords(url), reason, forms});
 }
 
 int HexDigit(char c) {
@@ -119,6 +118,9 @@ class TUrlReader {
       FResult.Password = Decoded(password);
     }
     ReadHost(at == std::string_view::npos ? server : server.substr(at + 1));
+    if (database.find('@') != std::string_view::npos) {
+      Refuse(FUrl, "has a \"/\" before an \"@\": within a name or password, they are written \"%2F\" and \"%40\"");
+    }
     if (database.find('/') != std::string_view::npos) {
       Refuse(FUrl, "has a \"/\" too many: within a name, it is written \"%2F\"");
     }
@@ -205,6 +207,29 @@ bool IsConnectionUrl(std::string_view text) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '+' || c == '-' ||
            c == '.';
   });
+}
+
+std::vector<std::string_view> PasswordsIn(std::string_view url) {
+  constexpr std::string_view Option = "password=", Digits = "0123456789";
+  constexpr std::size_t None = std::string_view::npos;
+  std::vector<std::string_view> passwords;
+  const auto add = [&passwords](std::string_view text) {
+    if (!text.empty()) passwords.push_back(text);
+  };
+  const std::size_t slashes = url.find("//");
+  const std::size_t start = slashes == None ? url.find(':') + 1 : slashes + 2;
+  const std::size_t colon = url.find(':', start), at = url.rfind('@');
+  if (colon != None && at != None && at > colon) {
+    add(url.substr(colon + 1, at - colon - 1));
+  } else if (colon != None && slashes != None && url[start] != '[') {
+    const std::string_view port = url.substr(colon + 1, url.find_first_of("/?#", colon) - colon - 1);
+    if (port.find_first_not_of(Digits) != None) add(port);
+  }
+  if (const std::size_t option = url.find(Option, at == None ? start : at); option != None) {
+    const std::string_view value = url.substr(option + Option.size());
+    add(value.substr(0, value.find('&')));
+  }
+  return passwords;
 }
 
 TConnectionUrl ParseConnectionUrl(std::string_view url) { return TUrlReader(url).Read(); }

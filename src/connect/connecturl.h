@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <tolvi/foundation/errors.h>
 
@@ -42,6 +43,9 @@ struct TConnectionUrl {
 
 /// Whether the text begins like a URL ("sqlite:", "postgresql://", also "other://"), and is not the name of a file.
 [[nodiscard]] bool IsConnectionUrl(std::string_view text);
+
+/// The parts of a text that may be passwords, if it is a URL, right or wrong: for those who show what they were given.
+[[nodiscard]] std::vector<std::string_view> PasswordsIn(std::string_view url);
 
 /// Raises `EConnectError`, which says what is wrong and how such a URL looks, and does not repeat a password.
 [[nodiscard]] TConnectionUrl ParseConnectionUrl(std::string_view url);

@@ -1,7 +1,6 @@
 #include <QSqlField>
 #include <QSqlRecord>
 #include <algorithm>
-#include <unordered_set>
 
 #include <tolvi/connect/boundsql.h>
 #include <tolvi/connect/queryrunner.h>
@@ -13,8 +12,6 @@
 
 namespace tolvi {
 namespace {
-
-using TNames = std::unordered_set<std::string, TFoldedHash, TFoldedEqual>;
 
 bool IsComplete(const TBoundStatement& statement) {
   return std::none_of(statement.Values.begin(), statement.Values.end(),
@@ -52,7 +49,7 @@ class TCompletion final {
       if (value.IsMissing && !FGiven.contains(value.Name)) Ask(value);
     }
     TBoundStatement result = FCopy.GetBoundStatement();
-    TakeEmptyTexts(result);
+    TakeEmptyTexts(result, FCopy, FGiven);
     for (const TBoundValue& value : result.Values) {
       if (value.IsMissing) Refuse(value.Name);
     }
@@ -79,22 +76,11 @@ class TCompletion final {
     SetParamValue(FCopy, value.Name, *given);
   }
 
-  /// An empty text that was given is one; other types have no empty value.
-  void TakeEmptyTexts(TBoundStatement& statement) {
-    const std::vector<TParamInfo> params = ListParams(FCopy);
-    for (TBoundValue& value : statement.Values) {
-      if (!value.IsMissing || !FGiven.contains(value.Name) || !TextFieldTypes.Contains(value.Type)) continue;
-      if (const TParamInfo* param = Find(params, value.Name)) value.Text = param->FullValue;
-      value.Value = value.Text;
-      value.IsMissing = false;
-    }
-  }
-
   const TJQueryRunner::TParamRequestEvent& FOnRequest;
   // Those of the query itself: its text, and so the copy, knows no display names.
   std::vector<TParamInfo> FParams;
   TJQueryPanel FCopy;
-  TNames FGiven;
+  TParamNames FGiven;
 };
 
 }  // namespace

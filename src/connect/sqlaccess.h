@@ -25,6 +25,9 @@ void EnsureApplication();
 
 QString DriverOf(TDatabaseKind kind);
 
+/// The table of query stores, as statements name it.
+constexpr std::string_view QueryTable = "tolvi_queries";
+
 /// An open database and what it is.
 struct TSqlSession {
   QSqlDatabase Database;

@@ -70,12 +70,18 @@ class TOpening final {
     }
     FDatabase.setDatabaseName(ToQString(FUrl.Database));
     FDatabase.setConnectOptions(connectOptions.join(QLatin1Char(';')));
-    constexpr std::string_view Hint = "check that it is an SQLite database and that you may read it";
-    if (!FDatabase.open()) Refuse(FUrl, WordsOf(FDatabase.lastError()), Hint);
+    if (!FDatabase.open()) RefuseFile(FDatabase.lastError());
     // Nothing has been read so far.
     QSqlQuery query(FDatabase);
-    if (!query.exec(QStringLiteral("PRAGMA schema_version"))) Refuse(FUrl, WordsOf(query.lastError()), Hint);
+    if (!query.exec(QStringLiteral("PRAGMA schema_version"))) RefuseFile(query.lastError());
     if (FOptions.ReadOnly) RunSql(FDatabase, "PRAGMA query_only = 1");
+  }
+
+  [[noreturn]] void RefuseFile(const QSqlError& error) const {
+    const bool isLocked = error.nativeErrorCode() == QLatin1String("5");
+    Refuse(FUrl, WordsOf(error),
+           isLocked ? "try again when the program that writes in it is done"
+                    : "check that it is an SQLite database and that you may read it");
   }
 
   bool IsInMemory() const { return FUrl.Database == ":memory:"; }

@@ -15,7 +15,7 @@ struct TSqlConnectOptions {
   bool MustExist = true;
   /// How long to wait for a server, and for a locked file. Default 10.
   int TimeoutSeconds = 10;
-  /// Asked once, when the server wants a password and neither the URL nor the environment has one that it takes.
+  /// Asked once, when the URL has no password and the server wants one, another than the environment's if that has one.
   /// Nothing: give up.
   std::function<std::optional<std::string>(const TConnectionUrl& url)> OnPasswordRequest = {};
 };

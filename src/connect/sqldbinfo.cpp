@@ -59,7 +59,9 @@ void TJSqlDBInfo::AvailableDatabases(TStrings& list) { list.AddStrings(ReadSchem
 
 void TJSqlDBInfo::TablesByDatabase(TStrings& list) {
   Update();
-  for (const TSqlTable& table : Catalogue().Tables()) list.Add(ShownName(table));
+  for (const TSqlTable& table : Catalogue().Tables()) {
+    if (table.Name != QueryTable) list.Add(ShownName(table));
+  }
 }
 
 void TJSqlDBInfo::ViewsByDatabase(TStrings& list) {

@@ -17,11 +17,11 @@ class TSqlCatalogue;
 ///
 ///   TSqlConnection connection(ParseConnectionUrl("sqlite:shop.sqlite"));
 ///   TJSqlDBInfo info(connection.GetName());
-///   FillModel(model, info, {});
+///   FillModel(model, info, {.QuoteMixedCase = connection.GetKind() == dkPostgreSQL});
 ///
 /// 1. Databases are the schemas of PostgreSQL, the databases of MySQL, the attached files of SQLite. With
 ///    `CurrentDBName` empty, tables are those that statements find without a schema; those of another database are
-///    called "schema.table".
+///    called "schema.table". The table of a `TJSqlQueryBase` is not listed.
 /// 2. The catalogue is read as a whole, by a handful of statements: when it is first asked anything, whenever it is
 ///    asked for tables, and after `Update`. All other answers are of the same reading.
 /// 3. Links come from foreign keys between the tables of the list, columns joined by " and ", names in double quotes

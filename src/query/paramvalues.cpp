@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 
@@ -88,6 +89,18 @@ bool SetParamValue(TJQueryPanel& panel, std::string_view name, std::string_view 
   };
   TParamWalk(call).Run(panel);
   return found;
+}
+
+void TakeEmptyTexts(TBoundStatement& statement, TJQueryPanel& panel, const TParamNames& given) {
+  const std::vector<TParamInfo> params = ListParams(panel);
+  for (TBoundValue& value : statement.Values) {
+    if (!value.IsMissing || !given.contains(value.Name) || !TextFieldTypes.Contains(value.Type)) continue;
+    const auto param = std::find_if(params.begin(), params.end(),
+                                    [&value](const TParamInfo& info) { return SameText(info.Name, value.Name); });
+    if (param != params.end()) value.Text = param->FullValue;
+    value.Value = value.Text;
+    value.IsMissing = false;
+  }
 }
 
 }  // namespace tolvi

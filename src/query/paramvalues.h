@@ -2,13 +2,16 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include <tolvi/foundation/fieldtypes.h>
+#include <tolvi/foundation/text.h>
 
 namespace tolvi {
 
 class TJQueryPanel;
+struct TBoundStatement;
 
 /// A parameter that a program gives a value before it runs the statement. `Sentence` is the condition in words,
 /// `FullValue` the value in its format.
@@ -24,5 +27,11 @@ std::vector<TParamInfo> ListParams(TJQueryPanel& panel);
 /// Gives all parameters of that name, ignoring case, the value; those of a sub-query by writing its text anew. False
 /// when there is none.
 bool SetParamValue(TJQueryPanel& panel, std::string_view name, std::string_view value);
+
+using TParamNames = std::unordered_set<std::string, TFoldedHash, TFoldedEqual>;
+
+/// In a statement of the query, parameters of a text type are not missing when they were given an empty text; other
+/// types have no empty value. Raises as `ListParams`.
+void TakeEmptyTexts(TBoundStatement& statement, TJQueryPanel& panel, const TParamNames& given);
 
 }  // namespace tolvi

@@ -10,9 +10,16 @@ TJQPBaseLink::TJQPBaseLink(TJQueryPanel& panel) { FQueryPanel.Set(&panel); }
 void TJQPBaseLink::LoadCurBaseQuery() {
   TJQueryItem* query = GetQueryBase() != nullptr ? GetQueryBase()->GetCurrentQuery() : nullptr;
   if (query == nullptr || !FQueryPanel) return;
-  TStrings strings;
-  query->LoadContent(strings);
-  PutQueryContent(strings);
+  const std::shared_ptr<bool> isOld = FIsOld;
+  try {
+    TStrings strings;
+    query->LoadContent(strings);
+    *isOld = false;
+    PutQueryContent(strings);
+  } catch (...) {
+    *isOld = true;
+    throw;
+  }
 }
 
 // The panel's handlers may destroy the link, the query and the panel.
@@ -35,12 +42,15 @@ void TJQPBaseLink::QueryIndexChanged() {
 }
 
 void TJQPBaseLink::QueryListChanged(TQBOperation operation, int index) {
+  if (operation == qboListCleared) *FIsOld = false;
   if (operation != qboItemDeleted || !FQueryPanel || GetQueryBase() == nullptr) return;
-  if (index == GetQueryBase()->GetItemIndex()) FQueryPanel->ClearAll();
+  if (index != GetQueryBase()->GetItemIndex()) return;
+  *FIsOld = false;
+  FQueryPanel->ClearAll();
 }
 
 bool TJQPBaseLink::GetQueryContent(TStrings& strings) {
-  if (!FQueryPanel) return false;
+  if (!FQueryPanel || *FIsOld) return false;
   FQueryPanel->SaveToStrings(strings);
   return true;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <tolvi/foundation/components.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/query/querpnl.h>
@@ -8,7 +10,8 @@
 namespace tolvi {
 
 /// Links a query panel to a query base: the current query comes into the panel, the panel's query is what the base is
-/// given. Once the panel is destroyed, the link does nothing and hands nothing over.
+/// given. Once the panel is destroyed, the link does nothing and hands nothing over. Attach it before the base opens,
+/// or call `LoadCurBaseQuery`: until then, the panel shows another query than the current one.
 class TJQPBaseLink : public TJQueryBaseLink {
  public:
   /// The panel is not owned.
@@ -19,7 +22,7 @@ class TJQPBaseLink : public TJQueryBaseLink {
 
   /// Reads the text of the base's current query into the panel, whose unsaved changes are lost; the host asks for them
   /// in `BeforeScroll`. Does nothing without a current query. Errors as in `TJQueryPanel::LoadFromStrings`; the panel
-  /// then keeps its old query.
+  /// then keeps its old query, and hands nothing over until it can show one of the base again.
   void LoadCurBaseQuery();
 
   /// For the current query: name and description come into the panel, and its view refreshes its titles.
@@ -32,6 +35,9 @@ class TJQPBaseLink : public TJQueryBaseLink {
 
  private:
   TRef<TJQueryPanel> FQueryPanel;
+  // Whether the panel shows the query of before, as the current one could not be read: saving must not take it for
+  // that. Outlives the link while handlers run.
+  std::shared_ptr<bool> FIsOld = std::make_shared<bool>(false);
 };
 
 }  // namespace tolvi

@@ -1,8 +1,8 @@
 #include <algorithm>
-#include <exception>
 #include <utility>
 
 #include <tolvi/foundation/consts.h>
+#include <tolvi/foundation/deferrederrors.h>
 #include <tolvi/schema/qrybase.h>
 
 namespace tolvi {
@@ -35,25 +35,6 @@ class TFlagSet final {
   TAlive FAlive;
   bool& FFlag;
   bool FOld;
-};
-
-/// Puts errors off until an operation is done.
-class TErrors final {
- public:
-  template <typename TStep>
-  void Try(TStep step) {
-    try {
-      step();
-    } catch (...) {
-      if (!FFirst) FFirst = std::current_exception();
-    }
-  }
-  void Raise() const {
-    if (FFirst) std::rethrow_exception(FFirst);
-  }
-
- private:
-  std::exception_ptr FFirst;
 };
 
 }  // namespace
@@ -113,9 +94,10 @@ bool TJQueryItem::TakeContent(TStrings& strings) { return NeedQueryBase().NeedCo
 bool TJQueryItem::GiveContent(TStrings& strings) { return NeedQueryBase().GiveContent(strings); }
 
 void TJQueryItem::Load() {
+  const TWatch watch(*this);
   TStrings strings;
   LoadContent(strings);
-  GiveContent(strings);
+  if (!watch.destroyed) GiveContent(strings);
 }
 
 void TJQueryItem::Save() {
@@ -198,7 +180,7 @@ void TJQueryBase::Fire(const TQueryBaseEvent& event) {
 // Links that are attached meanwhile are not called.
 void TJQueryBase::CallLinks(TCallKind kind, const std::function<void(TJQueryBaseLink&)>& call) {
   const TCall round(*this, nullptr, ckRound);
-  TErrors errors;
+  TDeferredErrors errors;
   for (std::size_t i = 0, count = FLinks.size(); i < count && round.alive; ++i) {
     TJQueryBaseLink* link = FLinks[i];
     if (link == nullptr || IsRunning(link, kind)) continue;
@@ -261,7 +243,7 @@ void TJQueryBase::Open() {
   const TAlive alive(*this);
   const TFlagSet opening(*this, FOpening);
   const auto goesOn = [&] { return alive && FOpening; };
-  TErrors errors;
+  TDeferredErrors errors;
   Fire(BeforeOpen);
   if (goesOn()) LoadList();
   if (goesOn()) errors.Try([&] { ListChanged(qboListLoaded, -1); });
@@ -293,7 +275,7 @@ void TJQueryBase::LoadQueries() {}
 void TJQueryBase::Close() {
   if (FClosing) return;
   const TAlive alive(*this);
-  TErrors errors;
+  TDeferredErrors errors;
   {
     const TFlagSet closing(*this, FClosing);
     Fire(BeforeClose);
@@ -331,7 +313,7 @@ void TJQueryBase::SetItemIndex(int index) {
   if (index == FItemIndex) return;
   CheckIndex(index);
   const TAlive alive(*this);
-  TErrors errors;
+  TDeferredErrors errors;
   Fire(BeforeScroll);
   if (!alive || !HasIndex(index)) return;
   FItemIndex = index;
@@ -346,7 +328,7 @@ int TJQueryBase::AddItem(std::unique_ptr<TJQueryItem> queryItem) {
   added.FQueryBase = this;
   if (!FNames.empty()) FNames.try_emplace(added.FQueryName, index);
   const TJQueryItem::TWatch watch(added);
-  TErrors errors;
+  TDeferredErrors errors;
   errors.Try([&] { ListChanged(qboItemAdded, index); });
   // A link may have deleted queries, or destroyed the base and with it this query.
   if (!watch.destroyed) errors.Try([&] { QueryChanged(static_cast<int>(FQueries.IndexOf(&added))); });
@@ -359,7 +341,7 @@ TJQueryItem* TJQueryBase::NewQuery() { return nullptr; }
 void TJQueryBase::DeleteQuery(int index) {
   CheckIndex(index);
   const TAlive alive(*this);
-  TErrors errors;
+  TDeferredErrors errors;
   FNames.clear();
   FQueries.Delete(static_cast<std::size_t>(index)).reset();
   const bool wasCurrent = index == FItemIndex;

@@ -205,6 +205,8 @@ class TJQueryBase : public TComponent {
   virtual void LoadQueries();
   /// Says what number the current query has; -1 for none. Fires and tells nothing.
   void MoveItemIndex(int index) { FItemIndex = index; }
+  /// Raises `EJQueryBaseError` "List index out of bounds (%d)" for an index outside the list.
+  void CheckIndex(int index) const;
 
  private:
   friend class TJQueryItem;
@@ -212,7 +214,6 @@ class TJQueryBase : public TComponent {
   struct TCall;
 
   bool HasIndex(int index) const { return index >= 0 && index < Count(); }
-  void CheckIndex(int index) const;
   void LoadList();
   bool IsRunning(const void* receiver, TCallKind kind) const;
   void Fire(const TQueryBaseEvent& event);

@@ -60,14 +60,17 @@ void CloseLockFile(std::intptr_t file) { CloseHandle(HandleOf(file)); }
 
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
+// A pipe of that name would be waited for.
+constexpr int OpenFlags = O_CLOEXEC | O_NONBLOCK;
+
 int Descriptor(std::intptr_t file) { return static_cast<int>(file); }
 
 std::intptr_t OpenLockFile(const std::filesystem::path& path, TAccess access) {
-  if (access == accRead) return open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  const int file = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+  if (access == accRead) return open(path.c_str(), O_RDONLY | OpenFlags);
+  const int file = open(path.c_str(), O_RDWR | O_CREAT | OpenFlags, 0666);
   if (file >= 0 || errno != EACCES) return file;
   // In a folder that several people write in, the lock file belongs to the first of them; reading it is enough.
-  const int readOnly = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  const int readOnly = open(path.c_str(), O_RDONLY | OpenFlags);
   if (readOnly < 0) errno = EACCES;
   return readOnly;
 }

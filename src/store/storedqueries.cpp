@@ -1,10 +1,10 @@
 #include <algorithm>
-#include <exception>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
 #include <tolvi/foundation/components.h>
+#include <tolvi/foundation/deferrederrors.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/queryhead.h>
 #include <tolvi/store/storedqueries.h>
@@ -81,7 +81,7 @@ void TJStoredQuery::TakeOver(const TQueryEntry& entry) {
   alive.Set(&store);
   const std::string id = entry.Id, description = entry.Description;
   SetQueryName(std::string(entry.Name));
-  if (alive && store.IndexByID(id) >= 0) SetDescription(description);
+  if (const int index = alive ? store.IndexByID(id) : -1; index >= 0) store.GetQuery(index).SetDescription(description);
 }
 
 void TJStoredQuery::LoadContent(TStrings& strings) {
@@ -96,6 +96,9 @@ void TJStoredQuery::LoadContent(TStrings& strings) {
 
 void TJStoredQuery::SaveContent(const TStrings& strings) {
   const std::string name = GetQueryName();
+  if (strings.Empty()) {
+    throw EQueryStoreError("There is no text to store as the query \"%s\": no view shows the query", {name});
+  }
   CheckName(name);
   const std::string description = ReadQueryHead(strings.GetText()).Description;
   const std::string text = TextOf(WithQueryHead(strings, {.Name = name, .Description = description}));
@@ -193,6 +196,7 @@ void TJStoredQueryBase::DescribeQuery(int index, std::string_view description) {
 }
 
 void TJStoredQueryBase::EraseQuery(int index) {
+  CheckIndex(index);
   const TJStoredQuery& query = GetStoredQuery(index);
   if (!query.FEntry.Id.empty() && !EraseCopy(query.Seen())) {
     throw EQueryConflictError(query.GetQueryName(), {}, ReadCopy(query.FEntry.Id));
@@ -200,44 +204,50 @@ void TJStoredQueryBase::EraseQuery(int index) {
   DeleteQuery(index);
 }
 
+// What views show and the current query stay the same one, whatever handlers do to the list meanwhile.
 void TJStoredQueryBase::DeleteQuery(int index) {
+  // The number of the current query is that of before, here: the outer deletion sets it right.
+  if (FHasInner != nullptr) {
+    *FHasInner = true;
+    return TJQueryBase::DeleteQuery(index);
+  }
   const int current = GetItemIndex();
+  const TJQueryItem* const shown = index == current ? nullptr : GetCurrentQuery();
   TRef<TJQueryBase> alive;
   alive.Set(this);
-  std::exception_ptr fault;
-  const auto attempt = [&fault](auto step) {
-    try {
-      step();
-    } catch (...) {
-      if (!fault) fault = std::current_exception();
-    }
-  };
-  const int count = Count();
-  attempt([&] { TJQueryBase::DeleteQuery(index); });
-  // Handlers may have moved on.
-  if (alive && GetItemIndex() == current && Count() == count - 1) {
-    if (index < current) MoveItemIndex(current - 1);
-    if (index == current && current >= 0) {
-      MoveItemIndex(-1);
-      attempt([&] { SetItemIndex(current); });
-    }
+  TDeferredErrors errors;
+  bool hasInner = false;
+  FHasInner = &hasInner;
+  errors.Try([&] { TJQueryBase::DeleteQuery(index); });
+  if (alive) {
+    FHasInner = nullptr;
+    // Otherwise another one has come into the views.
+    if (current >= 0 && GetItemIndex() == current) errors.Try([&] { Follow(shown, current, hasInner); });
   }
-  if (fault) std::rethrow_exception(fault);
+  errors.Raise();
+}
+
+void TJStoredQueryBase::Follow(const TJQueryItem* shown, int former, bool reload) {
+  const int index = shown != nullptr ? static_cast<int>(Queries().IndexOf(shown)) : -1;
+  if (index >= 0 && !reload) return MoveItemIndex(index);
+  MoveItemIndex(-1);
+  if (Count() > 0) SetItemIndex(index >= 0 ? index : std::min(former, Count() - 1));
 }
 
 TStoreChanges TJStoredQueryBase::Refresh() {
   TStoreChanges changes;
-  if (!GetActive()) return changes;
+  if (!GetActive() || FHasInner != nullptr) return changes;
   TRef<TJQueryBase> alive;
   alive.Set(this);
   std::vector<TQueryEntry> entries = ReadEntries();
   std::unordered_map<std::string_view, const TQueryEntry*> stored;
   for (const TQueryEntry& entry : entries) stored.emplace(entry.Id, &entry);
 
-  // What handlers do to the list meanwhile must not confuse: queries are found by their IDs again.
+  // What handlers do meanwhile must not confuse: queries are found by their IDs again, and what is newer than the
+  // entries stays.
   std::unordered_set<std::string> listed;
   std::vector<std::string> gone;
-  std::vector<const TQueryEntry*> changed;
+  std::vector<std::pair<const TQueryEntry*, std::string>> changed;
   for (int index = 0; index < Count(); ++index) {
     TJStoredQuery& query = GetStoredQuery(index);
     listed.insert(query.FEntry.Id);
@@ -249,22 +259,28 @@ TStoreChanges TJStoredQueryBase::Refresh() {
       if (index != GetItemIndex()) gone.push_back(query.FEntry.Id);
     } else if (found->second->Revision != query.FEntry.Revision) {
       changes.Changed.Add(query.GetQueryName());
-      changed.push_back(found->second);
+      changed.emplace_back(found->second, query.FEntry.Revision);
     }
   }
   for (const TQueryEntry& entry : entries) {
     if (!listed.contains(entry.Id)) changes.Added.Add(entry.Name);
   }
 
+  TDeferredErrors errors;
   for (const std::string& id : gone) {
-    if (const int index = alive ? IndexByID(id) : -1; index >= 0) DeleteQuery(index);
+    const int index = alive ? IndexByID(id) : -1;
+    if (index >= 0 && GetStoredQuery(index).FEntry.Revision.empty()) errors.Try([&] { DeleteQuery(index); });
   }
-  for (const TQueryEntry* entry : changed) {
-    if (const int index = alive ? IndexByID(entry->Id) : -1; index >= 0) GetStoredQuery(index).TakeOver(*entry);
+  for (const auto& [entry, former] : changed) {
+    const int index = alive ? IndexByID(entry->Id) : -1;
+    if (index < 0 || GetStoredQuery(index).FEntry.Revision != former) continue;
+    errors.Try([&, newer = entry] { GetStoredQuery(index).TakeOver(*newer); });
   }
   for (const TQueryEntry& entry : entries) {
-    if (alive && !listed.contains(entry.Id)) AddItem(std::unique_ptr<TJQueryItem>(new TJStoredQuery(entry)));
+    if (!alive || listed.contains(entry.Id) || IndexByID(entry.Id) >= 0) continue;
+    errors.Try([&] { AddItem(std::unique_ptr<TJQueryItem>(new TJStoredQuery(entry))); });
   }
+  errors.Raise();
   return changes;
 }
 

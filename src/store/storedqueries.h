@@ -82,7 +82,8 @@ class TJStoredQuery final : public TJQueryItem {
   /// The stored text, with the query's name in it. Raises `EQueryStoreError` when somebody has erased it.
   void LoadContent(TStrings& strings) override;
   /// Stores the text under the query's name; the description becomes that of the text. Raises `EQueryConflictError`
-  /// when the stored query is another one than was last listed, read or written here.
+  /// when the stored query is another one than was last listed, read or written here, and `EQueryStoreError` when there
+  /// are no lines: `Save` found no link that shows the query.
   void SaveContent(const TStrings& strings) override;
 
   /// What the store has told of the query.
@@ -140,7 +141,7 @@ class TJStoredQueryBase : public TJQueryBase {
   void DeleteQuery(int index) override;
   /// Takes over what is stored now: queries that have come, that have gone, that have another name or description.
   /// Links are told of each. Texts are not read; the current query stays in the list even when somebody has erased it,
-  /// so that a view keeps what it shows. Does nothing on a closed base.
+  /// so that a view keeps what it shows. Does nothing on a closed base, nor while links are told of a deletion.
   TStoreChanges Refresh();
 
  protected:
@@ -170,6 +171,11 @@ class TJStoredQueryBase : public TJQueryBase {
   TQueryCopy ReadSeen(const TJStoredQuery& query);
   void Replace(TJStoredQuery& query, std::string_view name, std::string_view description);
   int IndexByID(std::string_view id) const;
+  // Makes the query that views show, once number `former`, the current one again; `reload`: they may have lost it.
+  void Follow(const TJQueryItem* shown, int former, bool reload);
+
+  // While a query is being deleted: whether a handler has deleted another one.
+  bool* FHasInner = nullptr;
 };
 
 }  // namespace tolvi

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <random>
 #include <span>
 #include <sstream>
 #include <string>
@@ -27,8 +28,7 @@ struct TOutcome {
 class CommandLine : public testing::Test {
  protected:
   void SetUp() override {
-    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-    FFolder = std::filesystem::path(testing::TempDir()) / (std::string("tolvi_cli_") + test->name());
+    FFolder = std::filesystem::path(testing::TempDir()) / ("tolvi_cli_" + std::to_string(std::random_device()()));
     std::filesystem::create_directories(FFolder);
     WriteFileAtomically(FFolder / "orders.model", OrdersModel()->GetStructString());
   }

@@ -79,7 +79,8 @@ cd "$folder"
 mkdir data
 chmod 755 .
 if [ "$(id -u)" -eq 0 ]; then chown "$owner" . data; fi
-"start_$kind" >start.log 2>&1 </dev/null || {
+# A shell of its own: this one would keep its output open for the server that it starts.
+("start_$kind") >start.log 2>&1 </dev/null || {
   tail -n 20 start.log >&2
   clean_up >/dev/null 2>&1
   exit 1

@@ -107,6 +107,7 @@ TEST_P(SqlDBInfo, FindsTablesHoweverTheirNamesAreWritten) {
 TEST_P(SqlDBInfo, ReadsAChangedCatalogueWhenAskedForTablesOrUpdated) {
   TStrings tables;
   Info.GetTableNames(tables);
+  Connection.Execute("CREATE TABLE tolvi_queries (id INT)");
   Connection.Execute("CREATE TABLE fresh (id INT)");
   EXPECT_TRUE(Info.GetFieldList("fresh").Empty());
   Info.Update();
@@ -114,7 +115,8 @@ TEST_P(SqlDBInfo, ReadsAChangedCatalogueWhenAskedForTablesOrUpdated) {
   Connection.Execute("DROP TABLE fresh");
   TStrings newTables;
   Info.GetTableNames(newTables);
-  EXPECT_EQ(newTables, tables);
+  EXPECT_EQ(newTables, tables) << "stored queries are no data";
+  Connection.Execute("DROP TABLE tolvi_queries");
   EXPECT_TRUE(Info.GetFieldList("fresh ").Empty());
 }
 

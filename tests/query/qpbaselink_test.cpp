@@ -119,6 +119,10 @@ TEST_F(QPBaseLink, LeavesOtherPanelsInStepWhenAQueryCannotBeRead) {
   store["big"] = {"[Nothing]"};
   EXPECT_THROW(base.SetItemIndex(0), EJQueryPanelError);
   EXPECT_EQ(Shown() + Shown(other), "rest2rest2");
+  TStrings content;
+  EXPECT_FALSE(base.NeedContent(content)) << "the other query is not handed over as this one";
+  base.SetItemIndex(1);
+  EXPECT_TRUE(base.NeedContent(content));
 }
 
 TEST_F(QPBaseLink, OutlivesPanelAndBase) {

@@ -228,7 +228,7 @@ TEST_F(FileQueryBase, LeavesOutWhatItCannotReadAndSaysSo) {
   Put("Good.qry", "good");
   fs::create_directories(folder / "Folder.qry");
   fs::create_symlink("nowhere", folder / "Link.qry");
-  ASSERT_EQ(mkfifo((folder / "Pipe.qry").c_str(), 0600), 0);
+  for (const char* const pipe : {"Pipe.qry", ".lock"}) ASSERT_EQ(mkfifo((folder / pipe).c_str(), 0600), 0);
   Put("b\xFF-.qry", "");
   Put("b\xFF.txt", "");
   a.Open();
