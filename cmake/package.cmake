@@ -18,6 +18,9 @@ tolvi_install(tolvi_core Core)
 if(TOLVI_BUILD_CONNECT)
   tolvi_install(tolvi_connect Connect)
 endif()
+if(TOLVI_BUILD_WIDGETS)
+  tolvi_install(tolvi_widgets Widgets)
+endif()
 
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/TolviConfig.cmake.in ${PROJECT_BINARY_DIR}/TolviConfig.cmake
                               INSTALL_DESTINATION ${tolvi_package_dir})

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -8,6 +7,7 @@
 #include <tolvi/query/explain.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/resultformula.h>
+#include <tolvi/query/rowphrase.h>
 #include <tolvi/query/sqlbuilder.h>
 
 namespace tolvi {
@@ -15,36 +15,6 @@ namespace {
 
 constexpr std::string_view OffMark = "(off) ", EmptyValue = "<empty>", AllColumns = "*";
 constexpr std::string_view SortTitles[] = {"ttlNotSorted", "ttlAscending", "ttlDescending"};
-
-std::string OneLine(std::string_view text) {
-  std::string line(text);
-  std::replace_if(
-      line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
-  return line;
-}
-
-/// Appends a word to a sentence.
-void AddWord(std::string& sentence, std::string_view word) {
-  if (word.empty()) return;
-  if (!sentence.empty()) sentence += ' ';
-  sentence += word;
-}
-
-/// How people tell the fields of a model apart.
-class TFieldNames {
- public:
-  explicit TFieldNames(const TJCustomDBStructure* model) {
-    if (!model) return;
-    for (const TDSField& field : model->Fields()) ++FCounts[field.GetDisplayName()];
-  }
-  std::string Of(const TDSField& field) const {
-    const auto count = FCounts.find(field.GetDisplayName());
-    return count != FCounts.end() && count->second > 1 ? field.GetCompoundName() : field.GetDisplayName();
-  }
-
- private:
-  std::unordered_map<std::string_view, int, TFoldedHash, TFoldedEqual> FCounts;
-};
 
 class TExplainer {
  public:
@@ -54,17 +24,11 @@ class TExplainer {
   TStrings Run() {
     FParamCount = FPanel->QResult().Params().GetParentParamCount() + FPanel->QResult().GetParamCount();
     const TFilterBracket& root = FPanel->RootBracket();
-    AddLine(BracketText(root, "ttlFilter"), root.GetEnabled() || root.GetRowCount() == 0);
+    AddRow(root, root.GetEnabled() || root.GetRowCount() == 0);
     AddRows(root);
     AddColumns();
     AddSorting();
     return std::move(FLines);
-  }
-
-  std::string Sentence(const TFilterCond& condition) const {
-    if (condition.GetRowType() == frtSQLFragment) return "SQL: " + condition.GetSQLExpr();
-    return condition.GetRowType() == frtSimpleCondition ? SimpleSentence(static_cast<const TSimpleCond&>(condition))
-                                                        : CustomSentence(static_cast<const TCustomCond&>(condition));
   }
 
  private:
@@ -74,82 +38,19 @@ class TExplainer {
     FLines.Add(line += OneLine(text));
   }
 
-  std::string BracketText(const TFilterBracket& bracket, std::string_view title) const {
-    return ReplaceStr(FPanel->GetTitle(title), "@", bracket.GetBracketKind());
-  }
+  void AddRow(const TFilterRow& row, bool enabled) { AddLine(PhraseText(RowPhrase(row, FNames)), enabled); }
 
   void AddRows(const TFilterBracket& bracket) {
     ++FLevel;
     for (const TFilterRow& row : bracket) {
+      AddRow(row, row.GetEnabled());
       if (row.GetRowType() == frtBracket) {
-        const auto& inner = static_cast<const TFilterBracket&>(row);
-        AddLine(BracketText(inner, "ttlBracket"), inner.GetEnabled());
-        AddRows(inner);
+        AddRows(static_cast<const TFilterBracket&>(row));
       } else {
-        const auto& condition = static_cast<const TFilterCond&>(row);
-        AddLine(Sentence(condition), condition.GetEnabled());
-        AddSubQuery(condition);
+        AddSubQuery(static_cast<const TFilterCond&>(row));
       }
     }
     --FLevel;
-  }
-
-  /// Field, operator, values with the operator's word between them; what the model lacks as the query names it.
-  std::string SimpleSentence(const TSimpleCond& condition) const {
-    const TJCustomDBStructure& model = *FPanel->GetDBStruct();
-    const bool unknownField = &condition.GetField() == &model.GetNullField();
-    const TDSOperator& op = condition.GetDSOperator();
-    std::string sentence = unknownField ? "<" + condition.GetMissing() + ">" : FNames.Of(condition.GetField());
-    if (&op == &model.GetNullOperator()) {
-      AddWord(sentence, "<" + condition.GetOperatorName() + ">");
-      for (const int index : {1, 2}) AddWord(sentence, condition.GetValueCaption(index));
-      return sentence;
-    }
-    AddWord(sentence, op.GetDisplayName());
-    for (int index = 1; index <= condition.GetValueCount(); ++index) {
-      if (index > 1) AddWord(sentence, op.GetValFormat());
-      AddWord(sentence, ValueText(condition, index));
-    }
-    return sentence;
-  }
-
-  /// The display format with the values in their places.
-  std::string CustomSentence(const TCustomCond& condition) const {
-    if (!condition.GetMissing().empty()) return "<" + condition.GetMissing() + ">";
-    std::string sentence;
-    int index = 0;
-    for (const char c : condition.GetDSCondition().GetDisplayFormat()) {
-      if (c == '@' && index < condition.GetValueCount()) {
-        sentence += ValueText(condition, ++index);
-      } else {
-        sentence += c;
-      }
-    }
-    return sentence;
-  }
-
-  std::string ValueText(const TFilterCond& condition, int index) const {
-    if (condition.GetValueKind(index) == vkSubQuery && !condition.GetValueIsParam(index)) {
-      return "<" + FPanel->GetTitle("ttlSubQueryCaption") + ">";
-    }
-    std::string text = Words(condition, index);
-    if (const TSQLParam* param = condition.GetParam(index)) {
-      return "<" + param->GetParamName() + (text.empty() ? "" : ": " + text) + ">";
-    }
-    return text.empty() ? std::string(EmptyValue) : text;
-  }
-
-  std::string Words(const TFilterCond& condition, int index) const {
-    if (condition.GetCaption(index).empty()) {
-      const std::string& value = condition.GetValue(index);
-      if (condition.GetValueKind(index) == vkList) {
-        return TStrings(SplitCommaText(value)).Joined(", ");
-      }
-      if (condition.GetValueType(index) == ftBoolean) {
-        if (const auto truth = TryXStrToBool(value)) return FPanel->GetTitle(*truth ? "ttlTrue" : "ttlFalse");
-      }
-    }
-    return condition.GetValueCaption(index);
   }
 
   void AddSubQuery(const TFilterCond& condition) {
@@ -267,8 +168,7 @@ TStrings Explain(const TJQueryPanel& panel) {
 }
 
 std::string ExplainCondition(const TFilterCond& condition) {
-  const TFieldNames names(condition.GetQueryPanel().GetDBStruct());
-  return OneLine(TExplainer(condition.GetQueryPanel(), names, 0, 0).Sentence(condition));
+  return PhraseText(RowPhrase(condition, TFieldNames(condition.GetQueryPanel().GetDBStruct())));
 }
 
 }  // namespace tolvi

@@ -35,6 +35,8 @@ class TSQLParam final {
   bool HasAutomaticName() const;
   /// What to ask a person for: the text given, else the title "ttlParameter", numbered where there are two values.
   std::string GetDisplayName() const;
+  /// The text given; empty for none.
+  const std::string& GetOwnDisplayName() const { return FDisplayName; }
   void SetDisplayName(std::string_view name) { FDisplayName = name; }
   /// The type of the value.
   TFieldType GetParamType() const;

@@ -170,11 +170,6 @@ TFilterRow* RowBefore(const TFilterRow& row) {
   return before;
 }
 
-bool IsWithin(const TFilterRow* row, const TFilterRow& outer) {
-  while (row != nullptr && row != &outer) row = row->GetParentBracket();
-  return row != nullptr;
-}
-
 }  // namespace
 
 void TJQueryPanel::EnumerateBracket(const TFilterBracket&) const {
@@ -222,7 +217,7 @@ void TJQueryPanel::DeleteCurrentRow() {
 }
 
 void TJQueryPanel::LeaveRow(const TFilterRow& row) {
-  if (!IsWithin(FCurrentRow, row)) return;
+  if (FCurrentRow == nullptr || !FCurrentRow->IsWithin(row)) return;
   TFilterRow* next = nullptr;
   if (FRoot->GetRowCount() > 1) {
     next = RowBehind(row);

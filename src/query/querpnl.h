@@ -77,6 +77,17 @@ class TJQueryPanel : public TComponent, private TDSListener {
   TSimpleCond& ManualAddCond(TFilterBracket& bracket, TDSField& field, TDSOperator& op, std::string_view value) {
     return AddSimpleCond(bracket, field, op, value);
   }
+  struct TInsertedRows {
+    std::vector<TFilterRow*> Rows;
+    std::vector<TQueryWarning> Warnings;
+  };
+  /// Inserts the rows that a query text holds, so that the first one gets the index. They become one bracket if they
+  /// are several and the root of the text links them in another way than "all". `Warnings` tells what the model lacks
+  /// (such rows are kept as in a query that is loaded), with the row IDs of the text. The current row stays.
+  ///
+  /// Raises `EJQueryPanelError` and `EConvertError` for a text that cannot be read, `EJQueryPanelError` for one without
+  /// rows and for brackets deeper than `MaxRowLevel`; nothing is inserted then.
+  TInsertedRows InsertRowsFromText(TFilterBracket& bracket, std::size_t index, std::string_view text);
   /// The row in that display place (0 the root); null when there is none.
   TFilterRow* RowByNum(int rowNum) const;
   /// The row that keys and menus act on; null for none.
@@ -212,6 +223,10 @@ class TJQueryPanel : public TComponent, private TDSListener {
 
   // Change notification
 
+  /// Between these, which may be nested, events wait; the last `EndUpdate` fires each that is due once. The panel may
+  /// be gone then. Views are told at once.
+  void BeginUpdate() { HoldBack(); }
+  void EndUpdate() { Release(); }
   /// Null for none; must outlive the panel or be taken off.
   TQueryPanelView* GetView() const { return FView; }
   void SetView(TQueryPanelView* view) { FView = view; }
@@ -301,6 +316,8 @@ class TJQueryPanel : public TComponent, private TDSListener {
   TQueryPanelView* FView = nullptr;
   std::unique_ptr<TQueryResult> FQResult;
   std::unique_ptr<TSQLBuilder> FBuilder;
+  // Rows take their numbers from it.
+  std::uint64_t FLastRowSerial = 0;
   std::unique_ptr<TFilterBracket> FRoot;
   TFilterRow* FCurrentRow = nullptr;
   TDSTable* FMainTable = nullptr;

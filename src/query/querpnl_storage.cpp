@@ -105,6 +105,37 @@ void TJQueryPanel::LoadFromText(std::string_view text) {
   Release();
 }
 
+TJQueryPanel::TInsertedRows TJQueryPanel::InsertRowsFromText(TFilterBracket& bracket, std::size_t index,
+                                                             std::string_view text) {
+  CheckIfDBStructAssigned();
+  TInsertedRows result;
+  auto read = std::make_unique<TFilterBracket>(*this);
+  ++FLoading;
+  FLoadWarnings.swap(result.Warnings);
+  try {
+    ReadRowsText(text, *read);
+  } catch (...) {
+    FLoadWarnings.swap(result.Warnings);
+    read.reset();
+    --FLoading;
+    throw;
+  }
+  FLoadWarnings.swap(result.Warnings);
+  --FLoading;
+  if (read->GetRowCount() == 0) throw EJQueryPanelError(0, "The text holds no conditions");
+  const bool isJoinOfAll = read->GetLinkType() == fltAll || (read->GetLinkType() == fltAny && read->GetRowCount() == 1);
+  Together([&] {
+    if (!isJoinOfAll) {
+      result.Rows.push_back(&bracket.InsertRow(index, std::move(read)));
+      return;
+    }
+    // Raises the error before the first row is in its place.
+    if (bracket.GetRowLevel() + read->Depth() > MaxRowLevel) bracket.InsertRow(index, std::move(read));
+    while (read->GetRowCount() > 0) result.Rows.push_back(&bracket.InsertRow(index++, read->TakeRow(0)));
+  });
+  return result;
+}
+
 void TJQueryPanel::SetQueryTopClause(std::string_view clause) {
   std::optional<std::string> top = Trim(clause).empty() ? std::string() : ReadTopClause(clause);
   if (!top) {

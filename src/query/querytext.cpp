@@ -87,8 +87,13 @@ class TQueryReader {
     FPanel.RFields().Read(FText, FVersion, [this](std::string_view section, const std::string& message) {
       FPanel.AddLoadWarning({}, Format("%s: %s", {section, message}));
     });
-    ReadRows();
+    ReadRows(FPanel.RootBracket());
     ReadTitles();
+  }
+
+  void ReadRowsInto(TFilterBracket& bracket) {
+    FVersion = ReadVersion();
+    ReadRows(bracket);
   }
 
   /// The name of a field that only texts without field IDs name, and that the model lacked.
@@ -146,7 +151,7 @@ class TQueryReader {
 
   // Rows. The brackets whose rows are being read stand in a list, so that depth costs no stack.
 
-  void ReadRows() {
+  void ReadRows(TFilterBracket& rootBracket) {
     std::string name(RowPrefix);
     const std::optional<TSection> root = FText.First(name);
     if (!root) {
@@ -156,7 +161,7 @@ class TQueryReader {
     if (ReadRowType(*root, frtBracket) != frtBracket) {
       RaiseWrongValue(*root, RowTypeKey, root->Value(RowTypeKey), "row type of the root");
     }
-    std::vector<TOpenBracket> open{ReadBracket(*root, FPanel.RootBracket())};
+    std::vector<TOpenBracket> open{ReadBracket(*root, rootBracket)};
     while (!open.empty()) {
       TOpenBracket& current = open.back();
       name.resize(current.nameLength);
@@ -317,6 +322,21 @@ class TQueryWriter {
     return std::move(FWriter).Text();
   }
 
+  std::string WriteRows(const std::vector<const TFilterRow*>& rows) && {
+    FWithAutomaticNames = false;
+    FWriter.Header(MainSection);
+    FWriter.Key(VersionKey, XFloatToStr(CurrentQueryVersion));
+    FWriter.Line({});
+    FWriter.Line("[Row]");
+    WriteBracketKeys(true, fltAll, rows.size());
+    std::size_t number = 0;
+    for (const TFilterRow* row : rows) {
+      FRowID = "." + std::to_string(++number);
+      WriteRow(*row);
+    }
+    return std::move(FWriter).Text();
+  }
+
  private:
   void WriteTitles() {
     for (const std::string& line : FPanel.Titles().Lines()) {
@@ -346,12 +366,16 @@ class TQueryWriter {
     }
   }
 
-  void WriteBracket(const TFilterBracket& bracket) {
-    FWriter.Key(EnabledKey, std::int64_t{bracket.GetEnabled()});
+  void WriteBracketKeys(bool enabled, TFilterLinkType linkType, std::size_t rowCount) {
+    FWriter.Key(EnabledKey, std::int64_t{enabled});
     FWriter.Key(RowTypeKey, std::int64_t{frtBracket});
-    FWriter.Key(LinkTypeKey, std::int64_t{bracket.GetLinkType()});
-    FWriter.Key(RowCountKey, static_cast<std::int64_t>(bracket.GetRowCount()));
+    FWriter.Key(LinkTypeKey, std::int64_t{linkType});
+    FWriter.Key(RowCountKey, static_cast<std::int64_t>(rowCount));
     FWriter.Line({});
+  }
+
+  void WriteBracket(const TFilterBracket& bracket) {
+    WriteBracketKeys(bracket.GetEnabled(), bracket.GetLinkType(), bracket.GetRowCount());
     const std::size_t ownID = FRowID.size();
     std::size_t number = 0;
     for (const TFilterRow& row : bracket) {
@@ -394,7 +418,7 @@ class TQueryWriter {
     FWriter.Key(SubQueryOptionsKey, std::int64_t{SQLOptionsToInt(condition.GetSubQueryOptions())});
     for (const TValueKeys& keys : ValueKeys) {
       const TSQLParam* param = condition.GetParam(keys.index);
-      if (param != nullptr && !HasNextName(*param)) FWriter.Key(keys.name, param->GetParamName());
+      if (param != nullptr && !NeedsNoName(*param)) FWriter.Key(keys.name, param->GetParamName());
     }
     if (isSimple) {
       // A field that an old text named and the model lacked has no ID.
@@ -404,8 +428,9 @@ class TQueryWriter {
     FWriter.Line({});
   }
 
-  // Whether the parameter is called as a reader will call it without its name.
-  bool HasNextName(const TSQLParam& param) {
+  // Whether the parameter is called as a reader will call it without its name, or may be.
+  bool NeedsNoName(const TSQLParam& param) {
+    if (!FWithAutomaticNames) return param.HasAutomaticName();
     while (FParamNames.contains("Param" + std::to_string(FNextParam))) ++FNextParam;
     FParamNames.insert(param.GetParamName());
     return param.GetParamName() == "Param" + std::to_string(FNextParam);
@@ -416,6 +441,7 @@ class TQueryWriter {
   std::string FRowID;
   std::unordered_set<std::string, TFoldedHash, TFoldedEqual> FParamNames;
   std::size_t FNextParam = 1;
+  bool FWithAutomaticNames = true;
 };
 
 }  // namespace
@@ -425,6 +451,20 @@ std::string WriteQueryText(const TJQueryPanel& panel) { return TQueryWriter(pane
 void ReadQueryText(std::string_view text, TJQueryPanel& panel) {
   panel.CheckIfDBStructAssigned();
   TQueryReader(text, panel).Read();
+}
+
+std::string WriteRowsText(const TJQueryPanel& panel, const std::vector<const TFilterRow*>& rows) {
+  return TQueryWriter(panel).WriteRows(rows);
+}
+
+void ReadRowsText(std::string_view text, TFilterBracket& bracket) {
+  TQueryReader(text, bracket.GetQueryPanel()).ReadRowsInto(bracket);
+}
+
+bool HasRows(std::string_view text) {
+  const TSectionedText sections(text, IsQueryHeader);
+  const std::string firstRow = std::string(RowPrefix) + ".1";
+  return sections.First(MainSection) && sections.First(RowPrefix) && sections.First(firstRow);
 }
 
 }  // namespace tolvi

@@ -2,11 +2,14 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
 
+class TFilterBracket;
+class TFilterRow;
 class TJQueryPanel;
 
 /// The version that is written and the newest that is read.
@@ -21,5 +24,13 @@ std::string WriteQueryText(const TJQueryPanel& panel);
 /// Raises `EJQueryPanelError` for a text that is no query, `EConvertError` for a value of the wrong kind; the message
 /// names section and line.
 void ReadQueryText(std::string_view text, TJQueryPanel& panel);
+
+/// Some rows as a query text of its own, without columns and options. Automatic names of parameters are left out.
+std::string WriteRowsText(const TJQueryPanel& panel, const std::vector<const TFilterRow*>& rows);
+/// Reads the rows of a query text, and how its root links them, into an empty bracket of a panel that is loading.
+/// Errors and warnings as in `ReadQueryText`.
+void ReadRowsText(std::string_view text, TFilterBracket& bracket);
+/// Whether the text is a query text with rows. Does not read them.
+bool HasRows(std::string_view text);
 
 }  // namespace tolvi

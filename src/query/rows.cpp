@@ -11,7 +11,16 @@ constexpr std::string_view LinkTypeTitles[] = {"ttlAll", "ttlAny", "ttlNone", "t
 
 }  // namespace
 
+TFilterRow::TFilterRow(TFilterRowType rowType, TJQueryPanel& panel)
+    : FRowType(rowType), FQueryPanel(panel), FSerial(++panel.FLastRowSerial) {}
+
 TFilterRow::~TFilterRow() = default;
+
+bool TFilterRow::IsWithin(const TFilterRow& outer) const {
+  const TFilterRow* row = this;
+  while (row != nullptr && row != &outer) row = row->FParentBracket;
+  return row != nullptr;
+}
 
 std::size_t TFilterRow::GetRowIndex() const {
   return FParentBracket != nullptr ? FParentBracket->IndexOfChild(*this) : 0;
@@ -98,10 +107,25 @@ bool TFilterRow::MoveRight() {
   return MoveTo(bracket, bracket.GetRowCount());
 }
 
-// `index` counts without this row. The row's depth may grow by one: a subtree as deep as the limit stays where it is.
+bool TFilterRow::CanMoveInto(const TFilterBracket& bracket, std::size_t index) const {
+  if (FParentBracket == nullptr || &bracket.FQueryPanel != &FQueryPanel || index > bracket.GetRowCount()) return false;
+  if (&bracket == FParentBracket) return index != GetRowIndex() && index != GetRowIndex() + 1;
+  return !bracket.IsWithin(*this) && FitsBelow(bracket);
+}
+
+bool TFilterRow::MoveInto(TFilterBracket& bracket, std::size_t index) {
+  if (!CanMoveInto(bracket, index)) return false;
+  return MoveTo(bracket, &bracket == FParentBracket && index > GetRowIndex() ? index - 1 : index);
+}
+
+bool TFilterRow::FitsBelow(const TFilterBracket& bracket) const {
+  const int depth = FRowType == frtBracket ? static_cast<const TFilterBracket*>(this)->Depth() : 0;
+  return bracket.GetRowLevel() + 1 + depth <= MaxRowLevel;
+}
+
+// `index` counts without this row. A subtree as deep as the limit allows stays where it is.
 bool TFilterRow::MoveTo(TFilterBracket& bracket, std::size_t index) {
-  const int depth = FRowType == frtBracket ? static_cast<TFilterBracket*>(this)->Depth() : 0;
-  if (&bracket != FParentBracket && bracket.GetRowLevel() + 1 + depth > MaxRowLevel) return false;
+  if (&bracket != FParentBracket && !FitsBelow(bracket)) return false;
   TFilterBracket& old = *FParentBracket;
   FQueryPanel.HoldBack();
   bracket.PlaceRow(index, old.TakeRow(GetRowIndex()));
@@ -230,8 +254,7 @@ int TFilterBracket::Depth() const {
 }
 
 TFilterRow& TFilterBracket::InsertRow(std::size_t index, std::unique_ptr<TFilterRow> row) {
-  const int depth = row->FRowType == frtBracket ? static_cast<TFilterBracket&>(*row).Depth() : 0;
-  if (GetRowLevel() + 1 + depth > MaxRowLevel) {
+  if (!row->FitsBelow(*this)) {
     throw EJQueryPanelError(0, "Brackets are nested deeper than %d levels: put the conditions into fewer brackets",
                             {MaxRowLevel});
   }

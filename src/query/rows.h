@@ -45,6 +45,8 @@ class TFilterRow {
   TFilterRowType GetRowType() const { return FRowType; }
   TRowState GetRowState() const { return FRowState; }
   TJQueryPanel& GetQueryPanel() const { return FQueryPanel; }
+  /// A number that no other row of the panel has or had, also not one of an earlier query.
+  std::uint64_t GetSerial() const { return FSerial; }
   /// Null for the root.
   TFilterBracket* GetParentBracket() const { return FParentBracket; }
   /// Index in the parent, 0 for the root.
@@ -75,13 +77,20 @@ class TFilterRow {
   bool MoveDown();
   bool MoveLeft();
   bool MoveRight();
+  /// Moves the row into a bracket of the same panel, so that it stands there before the row that now has the index (at
+  /// the end for the number of rows). False, and nothing moves, for the root, a place within the row itself, the place
+  /// where it stands, one beyond the bracket's rows or deeper than `MaxRowLevel`.
+  bool MoveInto(TFilterBracket& bracket, std::size_t index);
+  bool CanMoveInto(const TFilterBracket& bracket, std::size_t index) const;
+  /// Whether the row is `outer` or stands in it at any depth.
+  bool IsWithin(const TFilterRow& outer) const;
 
   /// An object of the host's own; not stored.
   const std::any& GetOleObject() const { return FOleObject; }
   void SetOleObject(std::any object) { FOleObject = std::move(object); }
 
  protected:
-  TFilterRow(TFilterRowType rowType, TJQueryPanel& panel) : FRowType(rowType), FQueryPanel(panel) {}
+  TFilterRow(TFilterRowType rowType, TJQueryPanel& panel);
   virtual void ApplyEnabled(bool) {}
   /// Whether the row is part of the panel's tree.
   bool IsPlaced() const;
@@ -96,11 +105,13 @@ class TFilterRow {
   friend class TQueryReader;
   void StoreEnabled(bool enabled);
   bool MoveTo(TFilterBracket& bracket, std::size_t index);
+  bool FitsBelow(const TFilterBracket& bracket) const;
 
   TFilterRowType FRowType;
   TRowState FRowState = rsNormal;
   bool FEnabled = true, FHidden = false;
   TJQueryPanel& FQueryPanel;
+  std::uint64_t FSerial;
   TFilterBracket* FParentBracket = nullptr;
   mutable std::size_t FIndex = 0;
   mutable int FRowNum = 0;

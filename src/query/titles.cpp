@@ -80,6 +80,22 @@ std::string OneLine(std::string_view text) {
 
 }  // namespace
 
+void LoadTitlesFromStrings(const TStrings& defaults, TStrings& titles, const TStrings& given) {
+  TStrings merged = defaults;
+  TStrings texts = given;
+  for (std::size_t i = 0; i < merged.Count(); ++i) {
+    if (IsSectionHeader(merged[i])) {
+      const std::string_view section = std::string_view(merged[i]).substr(1, merged[i].size() - 2);
+      texts = XReadSLSectionValues(given, section);
+      if (section == PanelSection) texts.AddStrings(XReadSLSectionValues(given, OldPanelSection));
+      continue;
+    }
+    const std::string key(merged.NameAt(i));
+    if (const std::string text = texts.Value(key); !text.empty()) merged.SetLine(i, key + "=" + OneLine(text));
+  }
+  titles = std::move(merged);
+}
+
 const TStrings& TTitles::DefaultLines() {
   static const TStrings lines(std::vector<std::string>(std::begin(DefaultTitles), std::end(DefaultTitles)));
   return lines;
@@ -93,21 +109,7 @@ void TTitles::SetTitle(std::string_view name, std::string_view text) {
   if (FLines.IndexOfName(name) >= 0) FLines.SetValue(name, OneLine(text));
 }
 
-void TTitles::Assign(const TStrings& lines) {
-  TStrings merged = DefaultLines();
-  TStrings given;
-  for (std::size_t i = 0; i < merged.Count(); ++i) {
-    if (IsSectionHeader(merged[i])) {
-      const std::string_view section = std::string_view(merged[i]).substr(1, merged[i].size() - 2);
-      given = XReadSLSectionValues(lines, section);
-      if (section == PanelSection) given.AddStrings(XReadSLSectionValues(lines, OldPanelSection));
-      continue;
-    }
-    const std::string key(merged.NameAt(i));
-    if (const std::string text = given.Value(key); !text.empty()) merged.SetLine(i, key + "=" + OneLine(text));
-  }
-  FLines = std::move(merged);
-}
+void TTitles::Assign(const TStrings& lines) { LoadTitlesFromStrings(DefaultLines(), FLines, lines); }
 
 void TTitles::AssignOld(const TStrings& lines) {
   for (std::size_t i = 0; i < lines.Count(); ++i) {

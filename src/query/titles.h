@@ -7,6 +7,12 @@
 
 namespace tolvi {
 
+/// Makes `titles` the lines of `defaults`, in that order, each key's text replaced by the one that `given` has for it
+/// in the section of the same name (anywhere, when the defaults have no sections), unless that is empty. Line breaks in
+/// texts become blanks, keys that only `given` holds are dropped. The section "[PanelTitles]" is read as the older name
+/// of "[Query Panel]". The lists may be the same ones.
+void LoadTitlesFromStrings(const TStrings& defaults, TStrings& titles, const TStrings& given);
+
 /// The texts of the query panel and of the result fields editor: lines "key=text" in two sections, which a host may
 /// replace or translate. "@" marks the place of a link word, "%s" that of a field name, "&" a menu accelerator.
 class TTitles final {
@@ -21,8 +27,7 @@ class TTitles final {
   /// Replaces the text of a key; an unknown key is ignored.
   void SetTitle(std::string_view name, std::string_view text);
   const TStrings& Lines() const { return FLines; }
-  /// Default texts, replaced by those that `lines` hold in the same section. The section "[PanelTitles]" is the older
-  /// name of "[Query Panel]". Unknown keys are ignored.
+  /// Default texts, replaced by those of `lines` (`LoadTitlesFromStrings`).
   void Assign(const TStrings& lines);
   /// The older form: keys and texts without a division into sections, over the present texts.
   void AssignOld(const TStrings& lines);

@@ -49,6 +49,15 @@ TEST(Titles, OnlyKnownKeysChange) {
   EXPECT_TRUE(titles.IsDefault());
 }
 
+TEST(Titles, AreLoadedOverAnyDefaults) {
+  const TStrings defaults{"ttlUp=Up", "ttlDown=Down", "ttlOff=Off"};
+  TStrings titles{"ttlUp=Hinauf", "old line"};
+  LoadTitlesFromStrings(defaults, titles, {"ttlNew=Neu", "TTLDOWN=Hin\nab", "ttlOff="});
+  EXPECT_EQ(titles, TStrings({"ttlUp=Up", "ttlDown=Hin ab", "ttlOff=Off"}));
+  LoadTitlesFromStrings({"ttlDown=x", "[Other]", "ttlDown=y"}, titles, titles);
+  EXPECT_EQ(titles, TStrings({"ttlDown=Hin ab", "[Other]", "ttlDown=y"}));
+}
+
 TEST(Titles, LoadedLinesReplaceTheDefaultsOfTheirSection) {
   TTitles titles;
   titles.SetTitle("ttlOr", "oder");

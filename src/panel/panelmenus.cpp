@@ -1,0 +1,94 @@
+#include <iterator>
+#include <optional>
+#include <span>
+#include <utility>
+
+#include <tolvi/foundation/text.h>
+#include <tolvi/panel/paneleditor.h>
+#include <tolvi/panel/panelmenus.h>
+
+namespace tolvi {
+namespace {
+
+/// An entry of a menu as the tables below list them: nothing for a separator.
+using TEntry = std::optional<TPanelCommand>;
+constexpr TEntry Separator;
+
+constexpr TEntry RowEntries[] = {
+    pcAddCondAfter, pcAddBracketAfter, pcAddCondInside, pcAddBracketInside,
+    Separator,      pcAddCustomCond,   Separator,       pcDelete,
+    Separator,      pcEnable,          Separator,       pcDuplicate,
+    pcWrap,         pcUngroup,         pcCollapse,      pcExpand,
+    pcLock,         Separator,         pcMoveUp,        pcMoveDown,
+    pcMoveOut,      pcMoveInto,        Separator,       pcCut,
+    pcCopy,         pcPaste,           Separator,       pcUndo,
+    pcRedo,
+};
+constexpr TEntry AddEntries[] = {pcAddCond, pcAddBracket, pcAddCustomCond, Separator, pcPaste};
+constexpr TEntry ValueEntries[] = {pcConstant, pcParameter, pcSubQuery};
+
+/// What is not checked is no switch, or is off.
+bool IsChecked(const TPanelEditor& editor, TPanelCommand command, const TFilterRow* row, int argument) {
+  if (row == nullptr) return false;
+  if (command == pcEnable) return row->GetEnabled();
+  if (command == pcLock) return editor.IsLocked(*row);
+  if (command != pcConstant && command != pcParameter && command != pcSubQuery) return false;
+  const auto& condition = static_cast<const TFilterCond&>(*row);
+  if (condition.GetValueIsParam(argument)) return command == pcParameter;
+  return command == (condition.GetValueKind(argument) == vkSubQuery ? pcSubQuery : pcConstant);
+}
+
+/// A sentence with places for values as a caption.
+std::string ConditionCaption(const TDSCondition& condition) {
+  const std::string caption = ReplaceStr(condition.GetDisplayFormat(), "&", "&&");
+  return condition.Values().Count() > 0 ? ReplaceStr(caption, "@", "…") : caption;
+}
+
+TPanelMenu CustomConditions(const TPanelEditor& editor, TFilterRow* row) {
+  TPanelMenu items;
+  int index = 0;
+  for (const TDSCondition& condition : editor.GetPanel()->GetDBStruct()->Conditions()) {
+    TPanelMenuItem item;
+    item.Command = pcAddCustomCond;
+    item.Argument = index++;
+    item.Caption = ConditionCaption(condition);
+    item.Enabled = CanRun(editor, item.Command, row, item.Argument);
+    items.push_back(std::move(item));
+  }
+  return items;
+}
+
+TPanelMenu MakeMenu(const TPanelEditor& editor, const TCommandTitles& titles, std::span<const TEntry> entries,
+                    TFilterRow* row, int argument = -1) {
+  TPanelMenu menu;
+  if (!editor.IsActive()) return menu;
+  for (const TEntry& entry : entries) {
+    if (entry == pcLock && !editor.GetAllowLocking()) continue;
+    TPanelMenuItem& item = menu.emplace_back();
+    item.IsSeparator = !entry;
+    if (item.IsSeparator) continue;
+    item.Command = *entry;
+    item.Argument = argument;
+    item.Caption = titles.GetCaption(*entry, editor.GetPanel()->Titles());
+    item.Enabled = CanRun(editor, *entry, row, argument);
+    item.Checked = IsChecked(editor, *entry, row, argument);
+    if (*entry == pcAddCustomCond) item.Items = CustomConditions(editor, row);
+  }
+  return menu;
+}
+
+}  // namespace
+
+TPanelMenu RowMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterRow& row) {
+  return MakeMenu(editor, titles, RowEntries, &row);
+}
+
+TPanelMenu AddMenu(const TPanelEditor& editor, const TCommandTitles& titles) {
+  return MakeMenu(editor, titles, AddEntries, nullptr);
+}
+
+TPanelMenu ValueMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterCond& condition, int index) {
+  return MakeMenu(editor, titles, ValueEntries, &condition, index);
+}
+
+}  // namespace tolvi

@@ -1,0 +1,135 @@
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include <tolvi/foundation/text.h>
+#include <tolvi/ui/controls/ddlist.h>
+#include <tolvi/ui/controls/itemlist.h>
+#include <tolvi/ui/qtext.h>
+
+namespace tolvi {
+
+namespace {
+
+/// The values in a comma text, with those that no item has at the end.
+struct TChosen {
+  std::vector<int> items;
+  std::vector<std::string> unknown;
+};
+
+TChosen ChosenItems(const QString& commaText, const std::vector<TDropDownItem>& items) {
+  TChosen result;
+  for (const std::string& value : SplitCommaText(FromQString(commaText))) {
+    const auto found = std::ranges::find(items, ToQString(value), &TDropDownItem::Value);
+    if (found == items.end())
+      result.unknown.push_back(value);
+    else
+      result.items.push_back(static_cast<int>(found - items.begin()));
+  }
+  return result;
+}
+
+}  // namespace
+
+void TDropDownList::AddItem(const QString& group, const QString& value, const QString& text) {
+  FItems.push_back({group, value, text});
+  if (FItemIndex < 0 && !value.isEmpty() && value == GetValue()) FItemIndex = static_cast<int>(FItems.size()) - 1;
+  TellList();
+}
+
+void TDropDownList::SetItems(std::vector<TDropDownItem> items) {
+  FItems = std::move(items);
+  FItemIndex = GetValue().isEmpty() ? -1 : FindValue(GetValue());
+  TellList();
+}
+
+int TDropDownList::FindValue(const QString& value) const {
+  const auto found = std::ranges::find(FItems, value, &TDropDownItem::Value);
+  return found == FItems.end() ? -1 : static_cast<int>(found - FItems.begin());
+}
+
+void TDropDownList::SetItemIndex(int index) {
+  const bool inside = index >= 0 && index < static_cast<int>(FItems.size());
+  const TDropDownItem item = inside ? FItems[static_cast<size_t>(index)] : TDropDownItem();
+  TDropDownLabel::SetValue(item.Value);
+  FItemIndex = inside ? index : -1;
+  SetCaption(item.Text);
+}
+
+void TDropDownList::SetValue(const QString& value) {
+  TDropDownLabel::SetValue(value);
+  FItemIndex = FindValue(value);
+}
+
+void TDropDownList::SetBusy(bool busy) {
+  FBusy = busy;
+  TellList();
+}
+
+void TDropDownList::SetListFault(const QString& fault) {
+  FListFault = fault;
+  TellList();
+}
+
+TItemList* TDropDownList::List() const { return qobject_cast<TItemList*>(Editor()); }
+
+void TDropDownList::TellList() {
+  TItemList* list = List();
+  if (!list) return;
+  if (list->Model().Items() != FItems) FillList(*list);
+  list->SetState(FBusy, FListFault);
+  PlaceEditor();
+}
+
+void TDropDownList::FillList(TItemList& list) {
+  list.SetItems(FItems);
+  list.SetItemIndex(FItemIndex);
+}
+
+QWidget* TDropDownList::CreateEditor(QWidget* parent) { return MakeList(false, parent); }
+
+TItemList* TDropDownList::MakeList(bool checkable, QWidget* parent) {
+  const int headings = HasHeadings() ? TItemList::WithHeadings : TItemList::PlainList;
+  auto* list = new TItemList(headings | (checkable ? TItemList::Checkable : TItemList::PlainList), parent);
+  FillList(*list);
+  list->SetState(FBusy, FListFault);
+  connect(list, &TItemList::Accepted, this, [this] { DropUp(true); });
+  return list;
+}
+
+bool TDropDownList::TakeFromEditor(QWidget& editor) {
+  const int item = static_cast<TItemList&>(editor).GetItemIndex();
+  if (item < 0) return false;
+  SetItemIndex(item);
+  return true;
+}
+
+QWidget* TDropDownCheckList::CreateEditor(QWidget* parent) { return MakeList(true, parent); }
+
+void TDropDownCheckList::FillList(TItemList& list) {
+  list.SetItems(Items());
+  const std::vector<int> chosen = ChosenItems(GetValue(), Items()).items;
+  for (const int item : chosen) list.Model().SetChecked(item, true);
+  list.SetItemIndex(chosen.empty() ? -1 : *std::ranges::min_element(chosen));
+}
+
+bool TDropDownCheckList::TakeFromEditor(QWidget& editor) {
+  const TItemModel& model = static_cast<TItemList&>(editor).Model();
+  std::vector<std::string> values;
+  QStringList texts;
+  for (int item = 0; item < static_cast<int>(Items().size()); ++item) {
+    if (!model.IsChecked(item)) continue;
+    const TDropDownItem& shown = Items()[static_cast<size_t>(item)];
+    values.push_back(FromQString(shown.Value));
+    texts.push_back(shown.Text);
+  }
+  for (const std::string& value : ChosenItems(GetValue(), Items()).unknown) {
+    values.push_back(value);
+    texts.push_back(ToQString(value));
+  }
+  SetValue(ToQString(ComposeCommaText(values)));
+  SetCaption(texts.join(QStringLiteral(", ")));
+  return true;
+}
+
+}  // namespace tolvi

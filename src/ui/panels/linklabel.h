@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+
+namespace tolvi {
+
+/// A text that does something when it is clicked: looks like a link, works as a button (Space, Enter).
+class TLinkLabel final : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  explicit TLinkLabel(QWidget* parent = nullptr);
+
+  /// Default: the palette's link colour (an invalid colour). Adjusted where it could not be read on the background.
+  const QColor& GetLinkColor() const { return FLinkColor; }
+  void SetLinkColor(const QColor& color);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QColor FLinkColor;
+};
+
+}  // namespace tolvi
