@@ -22,6 +22,10 @@ if(TOLVI_BUILD_WIDGETS)
   tolvi_install(tolvi_widgets Widgets)
 endif()
 
+# The panels' texts in other languages.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/translations DESTINATION ${CMAKE_INSTALL_DATADIR}/tolvi
+        FILES_MATCHING PATTERN "*.titles")
+
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/TolviConfig.cmake.in ${PROJECT_BINARY_DIR}/TolviConfig.cmake
                               INSTALL_DESTINATION ${tolvi_package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/TolviConfigVersion.cmake COMPATIBILITY SameMinorVersion)
