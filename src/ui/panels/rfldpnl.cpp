@@ -5,7 +5,7 @@
 
 #include <tolvi/foundation/consts.h>
 #include <tolvi/foundation/errors.h>
-#include <tolvi/query/titles.h>
+#include <tolvi/ui/dialogs/titlesdlg.h>
 #include <tolvi/ui/panels/rfldpnl.h>
 #include <tolvi/ui/qtext.h>
 
@@ -59,7 +59,18 @@ void TJResultFieldsPanel::SetResultFields(const TRFieldList& fields) {
 
 void TJResultFieldsPanel::SetTitles(const TStrings& titles) {
   const TStrings given = titles;
-  LoadTitlesFromStrings(DefaultRFPanelTitles(), FTitles, given);
+  LoadRFPanelTitles(FTitles, given);
+}
+
+bool TJResultFieldsPanel::EditTitles() {
+  const QPointer<TJResultFieldsPanel> alive(this);
+  // Under their header, so that the dialog finds them in a file of several panels' titles.
+  TStrings defaults{RFPanelTitlesHeader}, titles{RFPanelTitlesHeader};
+  defaults.AddStrings(DefaultRFPanelTitles());
+  titles.AddStrings(FTitles);
+  if (!tolvi::EditTitles(this, defaults, titles) || !alive) return false;
+  SetTitles(titles);
+  return true;
 }
 
 QString TJResultFieldsPanel::GetTitle(std::string_view key) const { return ToQString(FTitles.Value(key)); }

@@ -64,10 +64,13 @@ class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   void SetResultFields(const TRFieldList& fields);
 
   /// The texts, lines "key=text". Setting starts from the default texts: missing and empty ones keep these, unknown
-  /// keys are dropped. Rows and menu take the texts when they are made.
+  /// keys are dropped. In a list with sections the panel's is "[Result Fields Panel]". Rows and menu take the texts
+  /// when they are made.
   const TStrings& GetTitles() const { return FTitles; }
   void SetTitles(const TStrings& titles);
   QString GetTitle(std::string_view key) const;
+  /// Lets the user edit them; whether OK was chosen.
+  bool EditTitles();
   void SetTitle(std::string_view key, const QString& text) { FTitles.SetValue(key, text.toStdString()); }
   QStringList GetTitleLines() const;
   void SetTitleLines(const QStringList& lines);

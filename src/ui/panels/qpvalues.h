@@ -1,0 +1,81 @@
+// The labels by which the values of conditions are edited.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+#include <tolvi/query/rowphrase.h>
+#include <tolvi/query/rows.h>
+#include <tolvi/ui/controls/ddlabel.h>
+
+namespace tolvi {
+
+/// How a value is edited: as a line of text, items divided by commas, lines of text, a date, a time, both, true or
+/// false, an item of a list, several of them, the same fetched by SQL, by the host, as a query of its own, as a
+/// parameter.
+enum class TQPValueKind : std::uint8_t {
+  vkText,
+  vkTextList,
+  vkMemo,
+  vkDate,
+  vkTime,
+  vkDateTime,
+  vkBoolean,
+  vkItem,
+  vkItems,
+  vkFetchedItem,
+  vkFetchedItems,
+  vkHost,
+  vkQuery,
+  vkParam,
+};
+
+/// By the value's kind, the field's editor, and the type.
+TQPValueKind ValueKindOf(const TFilterCond& condition, int index);
+
+/// A label whose editor is a window of the host's or the view's.
+class TQPActionLabel final : public TDropDownLabel {
+  Q_OBJECT
+
+ public:
+  explicit TQPActionLabel(QWidget* parent);
+
+  /// Called from the event loop instead of opening an editor.
+  std::function<void()> OnOpen;
+
+ protected:
+  QWidget* CreateEditor(QWidget*) override { return nullptr; }
+  bool TakeFromEditor(QWidget&) override { return false; }
+};
+
+/// A label for name and prompt of a parameter.
+class TQPParamLabel final : public TDropDownLabel {
+  Q_OBJECT
+
+ public:
+  using TDropDownLabel::TDropDownLabel;
+
+  QString Name, Prompt;
+
+ protected:
+  QWidget* CreateEditor(QWidget* parent) override;
+  bool TakeFromEditor(QWidget& editor) override;
+  bool TabMovesInEditor() const override { return true; }
+};
+
+/// A label of that kind without a value. The caller sets its events.
+TDropDownLabel* MakeValueLabel(TQPValueKind kind, QWidget* parent);
+/// Shows the value, worded as in the row's sentence, with what is wrong with it.
+void ShowValue(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index,
+               const TPhrasePart& part);
+/// What the label offers, set when it opens. Lists fetched by SQL are only marked as busy: `FetchItems` fills them.
+void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index);
+void FetchItems(TDropDownLabel& label, const TFilterCond& condition, int index);
+/// Gives the condition the value that the user has chosen. Raises `EJQueryPanelError` for a parameter's name that is
+/// none.
+void TakeValue(const TDropDownLabel& label, TQPValueKind kind, TFilterCond& condition, int index);
+
+/// Why the text cannot be a value of the condition; empty when it can.
+QString FaultOfText(const TFilterCond& condition, int index, const QString& text);
+
+}  // namespace tolvi

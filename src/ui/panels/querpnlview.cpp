@@ -1,0 +1,288 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QEvent>
+#include <QMessageBox>
+#include <utility>
+
+#include <tolvi/model/dbstruc.h>
+#include <tolvi/ui/panels/linklabel.h>
+#include <tolvi/ui/panels/qpaccess.h>
+#include <tolvi/ui/panels/qpdrag.h>
+#include <tolvi/ui/panels/qprow.h>
+#include <tolvi/ui/panels/qpsubquery.h>
+#include <tolvi/ui/panels/querpnlview.h>
+#include <tolvi/ui/qtext.h>
+
+namespace tolvi {
+namespace {
+
+const QEvent::Type ShowChangesEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+}  // namespace
+
+/// What the panel tells the view.
+class TJQueryPanelView::TSink final : public TQueryPanelView {
+ public:
+  explicit TSink(TJQueryPanelView& view) : FView(view) {}
+
+  void RowInserted(TFilterRow& row) override {
+    FView.FNewRow = row.GetSerial();
+    Reshape();
+  }
+  void RowRemoved(TFilterRow& row) override {
+    FView.ReleaseWidgets(&row);
+    Reshape();
+  }
+  void RowMoved(TFilterRow&) override { Reshape(); }
+  void RowChanged(TFilterRow&) override { FView.Schedule(); }
+  void CurrentRowChanged(TFilterRow*) override {
+    FView.FBringCurrent = true;
+    FView.Schedule();
+  }
+  void ResultFieldsChanged() override { FView.Schedule(); }
+  void TitlesChanged() override { FView.Schedule(); }
+  void ActiveChanged(bool) override {
+    FView.ReleaseWidgets(nullptr);
+    FView.FBringCurrent = true;
+    Reshape();
+  }
+  void CloseEdit(bool accept) override {
+    for (const auto& [serial, row] : FView.FWidgets) {
+      for (auto* label : row->findChildren<TDropDownLabel*>(Qt::FindDirectChildrenOnly)) {
+        if (label->IsDroppedDown()) return label->DropUp(accept);
+      }
+    }
+  }
+  void RefreshValueEditors(TFilterBracket& bracket) override {
+    ForEachRow(bracket, [](TFilterRow& row) {
+      if (row.GetRowType() == frtBracket) return;
+      const auto& condition = static_cast<TFilterCond&>(row);
+      for (int index = 1; index <= condition.GetValueCount(); ++index) {
+        if (auto* editor = dynamic_cast<TDSSQLEditor*>(condition.GetValueEditor(index))) editor->SetOpened(false);
+      }
+    });
+    FView.Schedule();
+  }
+
+ private:
+  // The rows' places are found again before they are used; their objects may be gone until then.
+  void Reshape() {
+    FView.FRows.clear();
+    FView.FRowsStale = true;
+    FView.Schedule();
+  }
+
+  TJQueryPanelView& FView;
+};
+
+TJQueryPanelView::TJQueryPanelView(QWidget* parent)
+    : QAbstractScrollArea(parent),
+      FSink(std::make_unique<TSink>(*this)),
+      FPanel([this] { PanelGone(); }),
+      FAppearance(std::make_unique<TQPAppearance>()),
+      FActions(new TQPActions(this, [this](TPanelCommand command) { RunCommand(command); })),
+      FAddLabel(new TLinkLabel(viewport())),
+      FDrag(new TQPDrag(*this)) {
+  InstallPanelAccess();
+  setFocusPolicy(Qt::StrongFocus);
+  viewport()->setBackgroundRole(QPalette::Base);
+  viewport()->setAutoFillBackground(true);
+  FAppearance->OnChange = [this] {
+    FMeasured = false;
+    Schedule();
+  };
+  FAddLabel->setObjectName(QStringLiteral("addRowLabel"));
+  FAddLabel->installEventFilter(this);
+  FAddLabel->hide();
+  connect(FAddLabel, &QAbstractButton::clicked, this, [this] { OpenAddMenu(); });
+}
+
+TJQueryPanelView::~TJQueryPanelView() {
+  if (FPanel && FPanel->GetView() == FSink.get()) FPanel->SetView(nullptr);
+  // Labels must not come back here while they are destroyed.
+  delete viewport();
+}
+
+void TJQueryPanelView::SetQueryPanel(TJQueryPanel* panel) {
+  if (panel == FPanel.Get()) return;
+  if (FPanel && FPanel->GetView() == FSink.get()) FPanel->SetView(nullptr);
+  ReleaseWidgets(nullptr);
+  FEditor.reset();
+  FPanel.Set(panel);
+  FRows.clear();
+  FRowsStale = true;
+  FPart = 0;
+  if (panel != nullptr) {
+    panel->SetView(FSink.get());
+    FEditor = std::make_unique<TPanelEditor>(*panel);
+    FEditor->SetAllowLocking(FAllowLocking);
+    FEditor->OnReadClipboard = [] { return FromQString(QApplication::clipboard()->text()); };
+    FEditor->OnWriteClipboard = [](const std::string& text) { QApplication::clipboard()->setText(ToQString(text)); };
+    FEditor->OnRowStateChange = [this](TFilterRow&) {
+      FRowsStale = true;
+      Schedule();
+    };
+  }
+  Schedule();
+}
+
+// The panel, its rows and their objects are as good as gone.
+void TJQueryPanelView::PanelGone() {
+  ReleaseWidgets(nullptr);
+  FRows.clear();
+  FRowsStale = true;
+  Schedule();
+}
+
+void TJQueryPanelView::SetCommandTitles(const TStrings& lines) {
+  FCommandTitles.Assign(lines);
+  Schedule();
+}
+
+void TJQueryPanelView::SetAllowLocking(bool allow) {
+  FAllowLocking = allow;
+  if (FEditor) FEditor->SetAllowLocking(allow);
+}
+
+// What rows show
+
+TJCustomDBStructure* TJQueryPanelView::SeenModel() {
+  TJCustomDBStructure* model = FPanel ? FPanel->GetDBStruct() : nullptr;
+  // The reference tells a model from a later one in the same place.
+  const bool isSeen = model != nullptr && model == FSeenModel.Get() && model->GetRevision() == FSeenRevision;
+  if (!isSeen) {
+    FNames.reset();
+    FFieldItems.reset();
+    FSeenModel.Set(model);
+    FSeenRevision = model != nullptr ? model->GetRevision() : 0;
+  }
+  return model;
+}
+
+const TFieldNames& TJQueryPanelView::Names() {
+  const TJCustomDBStructure* model = SeenModel();
+  if (!FNames) FNames = std::make_unique<TFieldNames>(model);
+  return *FNames;
+}
+
+const std::vector<TDropDownItem>& TJQueryPanelView::FieldItems() {
+  const TJCustomDBStructure* model = SeenModel();
+  if (FFieldItems) return *FFieldItems;
+  std::vector<TDropDownItem> items;
+  const auto add = [this, &items](const TDSFieldGroup& group) {
+    for (const TDSField* field : group) {
+      if (!field->GetUseInConditions()) continue;
+      items.push_back(
+          {ToQString(group.GetGroupName()), QString::number(field->GetID()),
+           group.GetGroupName().empty() ? ToQString(Names().Of(*field)) : ToQString(field->GetDisplayName())});
+    }
+  };
+  if (model != nullptr) {
+    add(model->RootGroup());
+    for (const TDSFieldGroup& group : model->FieldGroups()) add(group);
+  }
+  return FFieldItems.emplace(std::move(items));
+}
+
+// Changes
+
+void TJQueryPanelView::Schedule() {
+  if (std::exchange(FPosted, true)) return;
+  QCoreApplication::postEvent(this, new QEvent(ShowChangesEvent), Qt::HighEventPriority);
+}
+
+bool TJQueryPanelView::event(QEvent* event) {
+  if (event->type() == ShowChangesEvent) {
+    ShowChanges();
+    return true;
+  }
+  return QAbstractScrollArea::event(event);
+}
+
+void TJQueryPanelView::ReleaseWidgets(const TFilterRow* within) {
+  const bool wasReleasing = std::exchange(FReleasing, true);
+  for (auto at = FWidgets.begin(); at != FWidgets.end();) {
+    TQPRow* widget = at->second;
+    const TFilterRow* row = widget->GetRow();
+    // A removed row has no bracket any more; those in it still have theirs.
+    if (within != nullptr && (row == nullptr || !row->IsWithin(*within))) {
+      ++at;
+      continue;
+    }
+    widget->Forget();
+    // While an editor is open, its label has the focus of the window only.
+    if (widget->isAncestorOf(window()->focusWidget())) setFocus();
+    widget->hide();
+    widget->deleteLater();
+    at = FWidgets.erase(at);
+  }
+  FReleasing = wasReleasing;
+}
+
+void TJQueryPanelView::CollectRows() {
+  if (!FRowsStale) return;
+  FRows.clear();
+  if (FEditor && FPanel) {
+    for (TFilterRow* row : FEditor->VisibleRows()) FRows.push_back({row, row->GetRowLevel()});
+  }
+  FRowsStale = false;
+}
+
+void TJQueryPanelView::ShowChanges() {
+  FPosted = false;
+  if (std::exchange(FShowing, true)) return;
+  if (FEditor && FPanel) FEditor->NoteChange();
+  if (FPanel) FActions->SetTexts(FCommandTitles, FPanel->Titles());
+  FActions->SetRightToLeft(isRightToLeft());
+  CollectRows();
+  if (!FMeasured) Measure();
+  UpdateScrollBars();
+  const TFilterRow* current = FPanel ? FPanel->GetCurrentRow() : nullptr;
+  const bool bring = std::exchange(FBringCurrent, false) && current != nullptr;
+  if (bring) {
+    const std::ptrdiff_t index = IndexOfRow(*current);
+    if (index >= 0) BringIntoView(static_cast<std::size_t>(index));
+  }
+  for (const auto& [serial, widget] : FWidgets) widget->Refresh();
+  PlaceRows();
+  RestoreFocus();
+  FNewRow = 0;
+  FShowing = false;
+}
+
+void TJQueryPanelView::Edit(TFilterRow& row, const std::function<void()>& change) {
+  if (!FEditor || !FEditor->CanEdit(row)) return Schedule();
+  const QPointer<TJQueryPanelView> self(this);
+  QString fault;
+  Schedule();
+  FEditor->BeginStep();
+  try {
+    change();
+  } catch (const std::exception& error) {
+    fault = QString::fromUtf8(error.what());
+  }
+  FEditor->EndStep();
+  if (self && !fault.isEmpty()) ShowError(fault);
+}
+
+void TJQueryPanelView::ShowError(const QString& message) {
+  if (const auto handler = OnError) return handler(*this, message);
+  QMessageBox::warning(this, window()->windowTitle(), message);
+}
+
+void TJQueryPanelView::EditCustom(TFilterCond& condition, int index) {
+  const auto handler = OnCustomEdit;
+  if (handler) Edit(condition, [&] { handler(*this, condition, index); });
+}
+
+void TJQueryPanelView::EditSubQuery(TFilterCond& condition, int index) {
+  if (const auto handler = OnEditSubQuery) return Edit(condition, [&] { handler(*this, condition, index); });
+  const std::uint64_t serial = condition.GetSerial();
+  const QPointer<TJQueryPanelView> self(this);
+  std::optional<TStrings> lines = RunSubQueryDialog(*this, condition);
+  // The row may have gone while the dialog was open.
+  TFilterRow* row = self && lines ? RowBySerial(serial) : nullptr;
+  if (row != nullptr) Edit(*row, [&] { static_cast<TFilterCond*>(row)->SetSubQuery(*lines); });
+}
+
+}  // namespace tolvi

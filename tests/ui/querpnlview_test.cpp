@@ -1,0 +1,276 @@
+#include "queryview.h"
+
+namespace tolvi {
+namespace {
+
+const char* const orders =
+    "Choose records where all of the following apply\n"
+    " Total is greater than 500\n"
+    " any of the following apply\n"
+    "  City is equal to Berlin\n"
+    "  City is equal to Paris\n"
+    " Sale date is between 2026-01-01 and 2026-12-31\n";
+
+TEST_F(QueryPanelView, BuildsTheSameQueryByKeysAndByMouse) {
+  const std::string empty = Phrases();
+  const auto choose = [this](const char* text) {
+    Press(Qt::Key_Return);
+    Enter(QLatin1String(text));
+    Press(view->isRightToLeft() ? Qt::Key_Left : Qt::Key_Right);
+  };
+  const auto addByKeys = [&](const char* field, const char* op, const char* value) {
+    Press(Qt::Key_Insert);
+    choose(field);
+    choose(op);
+    choose(value);
+  };
+  addByKeys("Total", "is greater than", "500");
+  Press(Qt::Key_Insert, Qt::ShiftModifier);
+  choose("any");
+  addByKeys("City", "is equal", "Berlin");
+  addByKeys("City", "is equal", "Paris");
+  Press(Qt::Key_Up);
+  Press(Qt::Key_Up);
+  ASSERT_EQ(panel->GetCurrentRow(), panel->RowByNum(2));
+  Press(Qt::Key_Insert, Qt::AltModifier);
+  choose("Sale date");
+  choose("is between");
+  choose("2026-01-01");
+  choose("2026-12-31");
+  ASSERT_EQ(Phrases(), orders);
+  const std::string sql = SQL();
+  Settle();
+
+  // Back to the start, and forward again.
+  const std::size_t steps = view->GetEditor()->GetUndoCount();
+  for (std::size_t i = 0; i < steps; ++i) Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Phrases(), empty);
+  for (std::size_t i = 0; i < steps; ++i) Press(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(Phrases(), orders);
+
+  panel->ClearRows();
+  Settle();
+  const auto fill = [&](int row, const char* field, const char* op, const char* value) {
+    ClickLabel(row, "field", QLatin1String(field));
+    ClickLabel(row, "operator", QLatin1String(op));
+    ClickLabel(row, "value1", QLatin1String(value));
+  };
+  Click(view->GetAddRowLabel());
+  Choose(pcAddCond);
+  fill(1, "Total", "is greater than", "500");
+  Click(view->GetAddRowLabel());
+  Choose(pcAddBracket);
+  ClickLabel(2, "linkWord", QStringLiteral("any"));
+  for (const int row : {3, 4}) {
+    Click(Row(2).GetButton());
+    Choose(pcAddCondInside);
+    fill(row, "City", "is equal", row == 3 ? "Berlin" : "Paris");
+  }
+  Click(view->GetAddRowLabel());
+  Choose(pcAddCond);
+  fill(5, "Sale date", "is between", "2026-01-01");
+  ClickLabel(5, "value2", QStringLiteral("2026-12-31"));
+  EXPECT_EQ(Phrases(), orders);
+  EXPECT_EQ(SQL(), sql);
+  EXPECT_TRUE(errors.isEmpty());
+}
+
+TEST_F(QueryPanelView, CopiesRowsFromOneViewToAnother) {
+  TFilterBracket& bracket = panel->AddBracket(panel->RootBracket());
+  bracket.SetLinkType(fltNone);
+  Add("Customers.City", "Equal", "Berlin", &bracket);
+  TJQueryPanel other;
+  other.SetDBStruct(model.get());
+  other.SetActive(true);
+  auto* otherView = new TJQueryPanelView(&window);
+  otherView->SetQueryPanel(&other);
+  otherView->setGeometry(0, 200, 600, 200);
+  otherView->show();
+  view->resize(600, 200);
+  Settle();
+  Click(Label(1, "linkWord"));
+  PopupKey(Qt::Key_Escape);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  otherView->setFocus();
+  Settle();
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(other.SaveToText().substr(other.SaveToText().find("[Row")),
+            panel->SaveToText().substr(panel->SaveToText().find("[Row")));
+  ASSERT_NE(otherView->FocusedRow(), nullptr);
+  EXPECT_EQ(otherView->FocusedRow()->GetSentence(), QStringLiteral("none of the following apply"));
+
+  view->setFocus();
+  Settle();
+  Press(Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(panel->RootBracket().GetRowCount(), 0u);
+  QApplication::clipboard()->setText(QStringLiteral("no rows"));
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(panel->RootBracket().GetRowCount(), 0u);
+  delete otherView;
+}
+
+TEST_F(QueryPanelView, MovesRowsByDraggingAndByKeys) {
+  TFilterRow& first = Add("Customers.City", "Equal", "A");
+  TFilterBracket& bracket = panel->AddBracket(panel->RootBracket());
+  TFilterRow& inner = Add("Customers.City", "Equal", "B", &bracket);
+  TFilterRow& last = Add("Customers.City", "Equal", "C");
+  Settle();
+  const auto drag = [this](TFilterRow& row, TFilterRow& below, bool release = true) {
+    TJRndBtn& button = view->RowWidget(row)->GetButton();
+    TJRndBtn& target = view->RowWidget(below)->GetButton();
+    QWindow* handle = window.windowHandle();
+    const QPoint from = button.mapTo(&window, button.rect().center());
+    const QPoint to = target.mapTo(&window, QPoint(target.width() / 2, target.height()));
+    QTest::mousePress(handle, Qt::LeftButton, {}, from);
+    QTest::mouseMove(handle, from + QPoint(0, QApplication::startDragDistance() + 1));
+    QTest::mouseMove(handle, to);
+    Settle();
+    if (release) QTest::mouseRelease(handle, Qt::LeftButton, {}, to);
+    Settle();
+  };
+  drag(first, inner);
+  EXPECT_EQ(first.GetRowID(), ".1.2");
+  drag(bracket, inner);
+  EXPECT_EQ(bracket.GetRowID(), ".1");
+  drag(bracket, last);
+  EXPECT_EQ(bracket.GetRowID(), ".2");
+
+  auto* mark = view->viewport()->findChild<QWidget*>(QStringLiteral("insertMark"));
+  drag(last, inner, false);
+  EXPECT_TRUE(mark->isVisible());
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(mark->isVisible());
+  QTest::mouseRelease(window.windowHandle(), Qt::LeftButton);
+  EXPECT_EQ(last.GetRowID(), ".1");
+
+  Click(view->RowWidget(last)->GetButton());
+  PopupKey(Qt::Key_Escape);
+  Press(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(last.GetRowID(), ".2");
+  Press(view->isRightToLeft() ? Qt::Key_Left : Qt::Key_Right, Qt::AltModifier);
+  EXPECT_EQ(last.GetRowID(), ".1.3");
+  ASSERT_NE(view->FocusedRow(), nullptr);
+  EXPECT_EQ(view->FocusedRow()->GetRow(), &last);
+}
+
+TEST_F(QueryPanelView, OpensMenusWithWhatIsPossible) {
+  Add("Customers.City", "Equal", "A");
+  Settle();
+  Click(Row(1).GetButton());
+  Settle();
+  EXPECT_EQ(Menu().split(u'\n').mid(0, 11),
+            QStringList({QStringLiteral("Add new &condition (after current)"),
+                         QStringLiteral("Open new &bracket (after current)"),
+                         QStringLiteral("!Add new &condition (inside current)"),
+                         QStringLiteral("!Open new &bracket (inside current)"), QStringLiteral("-"),
+                         QStringLiteral("Add custom condition"), QStringLiteral("-"), QStringLiteral("&Delete row"),
+                         QStringLiteral("-"), QStringLiteral("&Enable/Disable row"), QStringLiteral("-")}));
+  PopupKey(Qt::Key_Escape);
+  Press(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(Menu().startsWith(QStringLiteral("Add new &condition\nOpen new &bracket\nAdd custom condition\n-\n")));
+  PopupKey(Qt::Key_Escape);
+  Label(1, "value1").setFocus();
+  Press(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(Row(1).GetSentence(), QStringLiteral("City is equal to <Param1: A>"));
+  QContextMenuEvent event(QContextMenuEvent::Mouse, {}, Label(1, "value1").mapToGlobal(QPoint(3, 3)));
+  QApplication::sendEvent(&Label(1, "value1"), &event);
+  EXPECT_EQ(Menu(), QStringLiteral("Constant value\nParameter\n!Sub-query\n"));
+  Choose(pcConstant);
+  EXPECT_FALSE(static_cast<TFilterCond*>(panel->RowByNum(1))->GetValueIsParam(1));
+}
+
+TEST_F(QueryPanelView, LeadsTheFocusThroughRowsAndOut) {
+  TFilterBracket& bracket = panel->AddBracket(panel->RootBracket());
+  Add("Customers.City", "Equal", "A", &bracket);
+  QLineEdit after(&window);
+  after.show();
+  Settle();
+  view->FocusRow(*panel->RowByNum(2), 0);
+  for (const char* name : {"", "field", "operator", "value1"}) {
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(*name == '\0' ? Row(2).GetCheckBox()->hasFocus() : Label(2, name).hasFocus()) << name;
+  }
+  Press(Qt::Key_Tab);
+  EXPECT_TRUE(view->GetAddRowLabel().hasFocus());
+  Press(Qt::Key_Tab);
+  EXPECT_TRUE(after.hasFocus());
+  Press(Qt::Key_Tab, Qt::ShiftModifier);
+  Settle();
+  EXPECT_TRUE(view->isAncestorOf(QApplication::focusWidget()));
+
+  panel->SetCurrentRow(panel->RowByNum(2));
+  view->GetEditor()->SetCollapsed(bracket, true);
+  Settle();
+  EXPECT_EQ(view->GetRowWidgetCount(), 2u);
+  EXPECT_EQ(panel->GetCurrentRow(), &bracket);
+  Press(Qt::Key_Plus);
+  EXPECT_EQ(view->GetRowWidgetCount(), 3u);
+}
+
+TEST_F(QueryPanelView, IsAListOfSentencesToScreenReaders) {
+  Add("Customers.City", "Equal", "A").SetEnabled(false);
+  Settle();
+  QAccessibleInterface* list = QAccessible::queryAccessibleInterface(view);
+  ASSERT_NE(list, nullptr);
+  ASSERT_EQ(list->childCount(), 3);
+  QAccessibleInterface* row = list->child(1);
+  EXPECT_EQ(row->text(QAccessible::Name), QStringLiteral("City is equal to A"));
+  EXPECT_EQ(row->role(), QAccessible::ListItem);
+  EXPECT_FALSE(row->state().checked);
+  EXPECT_EQ(row->parent(), list);
+  EXPECT_EQ(list->indexOfChild(row), 1);
+}
+
+TEST_F(QueryPanelView, KeepsWidgetsForTheRowsInSightOnly) {
+  for (int i = 0; i < 1000; ++i) Add("Customers.City", "Equal", "A");
+  int told = 0;
+  panel->OnChange = [&told](TJQueryPanel&) { ++told; };
+  Settle();
+  EXPECT_EQ(view->Rows().size(), 1001u);
+  EXPECT_LT(view->GetRowWidgetCount(), 60u);
+  Press(Qt::Key_End);
+  EXPECT_EQ(panel->GetCurrentRow(), panel->RowByNum(1000));
+  EXPECT_TRUE(Row(1000).isVisible());
+  EXPECT_GT(view->verticalScrollBar()->value(), 0);
+  EXPECT_LT(view->GetRowWidgetCount(), 60u);
+  EXPECT_EQ(told, 0);
+}
+
+TEST_F(QueryPanelView, OutlivesPanelAndModelAndIsDestroyedByHandlers) {
+  Add("Customers.City", "Equal", "A");
+  Settle();
+  Click(Label(1, "value1"));
+  Settle();
+  model.reset();
+  Settle();
+  EXPECT_EQ(view->GetRowWidgetCount(), 0u);
+  model = OrdersModel();
+  panel->SetDBStruct(model.get());
+  panel->SetActive(true);
+  Add("Customers.City", "Equal", "A");
+  Settle();
+  EXPECT_EQ(view->GetRowWidgetCount(), 2u);
+  panel.reset();
+  Settle();
+  EXPECT_EQ(view->GetRowWidgetCount(), 0u);
+  EXPECT_FALSE(view->GetAddRowLabel().isVisible());
+  Press(Qt::Key_Insert);
+
+  panel = std::make_unique<TJQueryPanel>();
+  panel->SetDBStruct(model.get());
+  panel->SetActive(true);
+  view->SetQueryPanel(panel.get());
+  view->setFocus();
+  Settle();
+  panel->OnChange = [this](TJQueryPanel&) {
+    delete view;
+    view = nullptr;
+    panel.release()->OnChange = nullptr;
+  };
+  std::unique_ptr<TJQueryPanel> owned(panel.get());
+  Press(Qt::Key_Insert);
+  EXPECT_EQ(view, nullptr);
+}
+
+}  // namespace
+}  // namespace tolvi
