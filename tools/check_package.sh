@@ -1,6 +1,6 @@
 #!/bin/sh
-# Builds programs that are not part of Tolvi against it: one with find_package from an install tree (and one that
-# uses databases, if the build has that part), one with add_subdirectory. Says nothing when both work.
+# Builds programs that are not part of Tolvi against it: one with find_package from an install tree (and those that
+# use databases and panels, if the build has these parts), one with add_subdirectory. Says nothing when both work.
 #
 #   check_package.sh [BUILD-DIR]     the build to install; default: build/release, which `./run build` makes
 set -eu
@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 root=$PWD
 build=${1:-build/release}
 work=$root/build/package
-rm -rf "$work/installed" "$work/embed" "$work/connect" "$work/wrong" # the host's build stays: it compiles the core once more
+rm -rf "$work/installed" "$work/embed" "$work/connect" "$work/widgets" "$work/wrong" # the host's build stays: it compiles the core once more
 mkdir -p "$work/host" "$work/wrong"
 
 # expect_success / expect_failure COMMAND...: the output is in $work/log, and shown when the outcome is the other one.
@@ -30,6 +30,15 @@ if [ -n "$(find "$work/installed" -name TolviConnectTargets.cmake)" ]; then
   expect_success cmake --build "$work/connect"
   expect_success "$work/connect/connect" "sqlite:$build/samples/shop.sqlite" examples/connect/queries "Customers per city"
   printf 'Leipzig\t14\nDublin\t9\nHamburg\t9\nLinz\t8\nOrléans\t8\n' | cmp - "$work/log" || exit 1
+fi
+
+if [ -n "$(find "$work/installed" -name TolviWidgetsTargets.cmake)" ]; then
+  expect_success cmake -G Ninja -S examples/widgets -B "$work/widgets" -D CMAKE_PREFIX_PATH="$work/installed"
+  expect_success cmake --build "$work/widgets"
+  expect_success env QT_QPA_PLATFORM=offscreen "$work/widgets/widgets" samples/shop/shop.model \
+    samples/shop/queries/03-customers-who-never-ordered.qry --sql
+  grep -q '^not exists (select 1 from Orders x where x.CustomerID = Customers.CustomerID)$' "$work/log" ||
+    { cat "$work/log" && echo "the window shows another statement" && exit 1; }
 fi
 
 cat >"$work/host/CMakeLists.txt" <<TEXT
