@@ -13,13 +13,12 @@ void Tell(TSession& session, const TFillReport& report) {
 }
 
 TFillOptions FillOptionsOf(const TSession& session, TDatabaseKind kind) {
-  TFillOptions options;
+  TFillOptions options = FillOptionsFor(kind);
   for (const std::string_view table : session.Arguments.Values("table")) options.Tables.Add(table);
   options.Views = !session.Arguments.Has("no-views");
   options.LinksFromNames = session.Arguments.Has("links-from-names");
   if (session.Arguments.Has("outer-links")) options.LinkType = ltOuterLeft;
   options.TakeChangedTypes = session.Arguments.Has("changed-types");
-  options.QuoteMixedCase = kind == dkPostgreSQL;
   return options;
 }
 

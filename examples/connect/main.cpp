@@ -20,7 +20,7 @@ int main(int argc, char** argv) try {
   TJSqlDBInfo catalogue(connection.GetName());
   TJDBStructure model;
   ApplyFormatPreset(model.SQLFormats(), FormatPresetOf(connection.GetKind()));
-  FillModel(model, catalogue, {.QuoteMixedCase = connection.GetKind() == dkPostgreSQL});
+  FillModel(model, catalogue, FillOptionsFor(connection.GetKind()));
 
   TJQueryPanel panel;
   panel.SetDBStruct(&model);

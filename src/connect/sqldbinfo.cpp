@@ -27,6 +27,12 @@ void ReadValues(const TSqlSession& session, std::string_view sql, std::string_vi
 
 }  // namespace
 
+TFillOptions FillOptionsFor(TDatabaseKind kind) {
+  TFillOptions options;
+  options.QuoteMixedCase = kind == dkPostgreSQL;
+  return options;
+}
+
 TJSqlDBInfo::TJSqlDBInfo(std::string_view connectionName) : FConnectionName(connectionName) {}
 
 TJSqlDBInfo::~TJSqlDBInfo() = default;

@@ -6,18 +6,23 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/connect/connecturl.h>
+#include <tolvi/model/modelfill.h>
 #include <tolvi/schema/dbinfo.h>
 
 namespace tolvi {
 
 class TSqlCatalogue;
 
+/// How to fill a model from a database of that kind: the defaults, with names quoted where it would fold their case.
+[[nodiscard]] TFillOptions FillOptionsFor(TDatabaseKind kind);
+
 /// The catalogue of an open SQLite, PostgreSQL or MySQL database. The connection is the host's own QSqlDatabase, or
 /// that of a `TSqlConnection`; it is found by its name at each question, in the thread of the question.
 ///
 ///   TSqlConnection connection(ParseConnectionUrl("sqlite:shop.sqlite"));
 ///   TJSqlDBInfo info(connection.GetName());
-///   FillModel(model, info, {.QuoteMixedCase = connection.GetKind() == dkPostgreSQL});
+///   FillModel(model, info, FillOptionsFor(connection.GetKind()));
 ///
 /// 1. Databases are the schemas of PostgreSQL, the databases of MySQL, the attached files of SQLite. With
 ///    `CurrentDBName` empty, tables are those that statements find without a schema; those of another database are
