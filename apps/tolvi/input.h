@@ -8,6 +8,7 @@
 
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/sections.h>
+#include <tolvi/query/rowerror.h>
 
 namespace tolvi {
 
@@ -41,11 +42,13 @@ class TPlaces final {
 /// Reads the file; "-" is `in`. Raises `EInputError` when it cannot be read or is no UTF-8.
 TSource ReadSource(const std::string& name, std::istream& in);
 
-/// Calls `read`; what the library raises becomes an `EInputError` about the source.
+/// Calls `read`; what the library raises becomes an `EInputError` about the source, or the row in it.
 template <typename TRead>
 auto Reading(const TSource& source, TRead read) {
   try {
     return read();
+  } catch (const EQueryRowError& error) {
+    throw EInputError(TPlaces(source).Of("Row" + error.RowID()) + ": Row " + error.RowID() + ": " + error.Message());
   } catch (const EException& error) {
     throw EInputError(source.Located(error.Message()));
   }

@@ -21,6 +21,7 @@ class TQueryPanelView {
   /// The current row is another one; bring it into view. Null: there is none.
   virtual void CurrentRowChanged(TFilterRow*) {}
   virtual void ResultFieldsChanged() {}
+  /// Words of the sentences have changed: titles, or names in the model.
   virtual void TitlesChanged() {}
   /// Let go of all rows; show the tree as it is now. Loading tells no more of the rows than this.
   virtual void ActiveChanged(bool) {}

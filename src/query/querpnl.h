@@ -119,7 +119,8 @@ class TJQueryPanel : public TComponent, private TDSListener {
   const TQueryResult& QResult() const { return *FQResult; }
   TRFieldList& RFields() { return FQResult->RFields(); }
   /// Collects tables and clauses. Raises `EJQueryPanelError` when there is nothing to build from, two tables have no
-  /// path, a value does not fit its type, or an enabled row names what the model lacks.
+  /// path, a value does not fit its type, or an enabled row names what the model lacks; `EQueryRowError` where it is
+  /// the fault of a row.
   void BuildQuery();
   /// `BuildQuery` and the whole statement: one text, lines joined by CR LF; lines.
   const std::string& GetQueryText();

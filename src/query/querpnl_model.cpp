@@ -78,6 +78,7 @@ void TJQueryPanel::ModelChanged() {
     // The rows and columns keep their IDs: the text of the query is still the same.
     FModified = wasModified;
   }
+  if (TQueryPanelView* view = Viewer()) view->TitlesChanged();
   Release();
 }
 

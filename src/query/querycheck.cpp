@@ -4,6 +4,7 @@
 #include <tolvi/foundation/format.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/querycheck.h>
+#include <tolvi/query/rowerror.h>
 #include <tolvi/query/sqlbuilder.h>
 
 namespace tolvi {
@@ -156,6 +157,9 @@ class TQueryChecker {
   void CheckBuild() {
     try {
       static_cast<void>(FPanel.GetQueryText());
+    } catch (const EQueryRowError& error) {
+      AddOnce(csError, {error.RowID(), error.Message()});
+      return;
     } catch (const EException& error) {
       AddOnce(csError, {{}, error.Message()});
       return;

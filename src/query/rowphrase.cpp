@@ -8,7 +8,7 @@
 namespace tolvi {
 namespace {
 
-constexpr std::string_view EmptyValue = "<empty>", SQLWord = "SQL:";
+constexpr std::string_view EmptyValue = "<empty>", SQLWord = "SQL:", Ellipsis = "…";
 
 std::string Bracketed(std::string_view text) { return "<" + std::string(text) + ">"; }
 
@@ -191,6 +191,20 @@ std::string PhraseText(const TPhrase& phrase) {
   for (const TPhrasePart& part : phrase) {
     if (part.SpaceBefore) text += ' ';
     text += part.Text;
+  }
+  return text;
+}
+
+std::string RowsText(const TFilterBracket& bracket, const TFieldNames& names, std::size_t limit) {
+  std::string text;
+  for (const TFilterRow& row : bracket) {
+    if (!row.GetEnabled() || row.GetHidden()) continue;
+    if (!text.empty()) text += "; ";
+    if (text.size() >= limit) return text.append(Ellipsis);
+    text += PhraseText(RowPhrase(row, names));
+    if (row.GetRowType() != frtBracket) continue;
+    const std::size_t room = limit - std::min(limit, text.size());
+    text += " (" + RowsText(static_cast<const TFilterBracket&>(row), names, room) + ")";
   }
   return text;
 }

@@ -11,6 +11,7 @@
 namespace tolvi {
 
 class TDSField;
+class TFilterBracket;
 class TFilterRow;
 class TJCustomDBStructure;
 
@@ -59,5 +60,9 @@ std::string OneLine(std::string_view text);
 
 /// The parts as one line.
 std::string PhraseText(const TPhrase& phrase);
+
+/// The sentences of the bracket's rows as one line, divided by "; ", with those of inner brackets in round ones. Rows
+/// that are off or hidden are left out; it ends with "…" where it would get longer than about `limit` bytes.
+std::string RowsText(const TFilterBracket& bracket, const TFieldNames& names, std::size_t limit);
 
 }  // namespace tolvi

@@ -4,6 +4,7 @@
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/querpnl.h>
+#include <tolvi/query/rowerror.h>
 #include <tolvi/query/sqlbuilder.h>
 #include <tolvi/query/sqlfragment.h>
 
@@ -29,6 +30,16 @@ bool HoldsCondition(const TFilterRow& row) {
     if (HoldsCondition(inner)) return true;
   }
   return false;
+}
+
+/// Errors within the call are told of the row.
+template <typename TCall>
+decltype(auto) AtRow(const TFilterRow& row, TCall call) {
+  try {
+    return call();
+  } catch (const EJQueryPanelError& error) {
+    throw EQueryRowError(error, row.GetRowID());
+  }
 }
 
 }  // namespace
@@ -136,7 +147,7 @@ void TSQLBuilder::CollectTables(const TFilterBracket& bracket, bool having) {
     if (row.GetRowType() == frtBracket) {
       CollectTables(static_cast<const TFilterBracket&>(row), having);
     } else {
-      CollectTables(static_cast<const TFilterCond&>(row));
+      AtRow(row, [&] { CollectTables(static_cast<const TFilterCond&>(row)); });
     }
   }
 }
@@ -145,7 +156,7 @@ void TSQLBuilder::CollectTables(const TFilterCond& condition) {
   if (std::string missing = condition.GetMissing(); !missing.empty()) throw EJQueryPanelError(0, missing);
   if (condition.GetRowType() == frtSQLFragment) {
     const std::string fault = static_cast<const TSQLFragment&>(condition).GetFault();
-    if (!fault.empty()) throw EJQueryPanelError(0, "Row %s: %s", {condition.GetRowID().substr(1), fault});
+    if (!fault.empty()) throw EJQueryPanelError(0, fault);
   }
   AddTables(condition.GetTables());
 }
@@ -256,7 +267,7 @@ bool TSQLBuilder::Walk(const TFilterBracket& bracket, TFrame* outer) {
 
 void TSQLBuilder::WriteCondition(TFilterCond& condition, TFrame& frame) {
   TQueryResult& result = FPanel.QResult();
-  const std::string& text = TextOf(condition);
+  const std::string& text = AtRow(condition, [&]() -> const std::string& { return TextOf(condition); });
   if (FFilters) WarnOfFilter(condition);
   if (FFilters && !FHavingPart) {
     const TSimpleDSTableList& tables = condition.GetTables();

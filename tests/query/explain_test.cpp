@@ -153,7 +153,7 @@ error [RField1] Result column "Company": Unrecognized field "77"
 TEST_F(QueryInWords, CheckTellsWhatKeepsTheStatementFromBeingBuilt) {
   FModel->DelLink(1);
   Add("Products.Price", "GreaterThan", "1");
-  EXPECT_EQ(Findings(), "error [] : No path between table \"Customers\" and \"$s\"\n");
+  EXPECT_EQ(Findings(), "error [Row.1] Row .1: No path between table \"Customers\" and \"$s\"\n");
 }
 
 }  // namespace

@@ -195,7 +195,7 @@ TEST_F(Panel, KeepsRowsWhosePartsTheModelLoses) {
   EXPECT_EQ(model->FieldByID(11), nullptr);
   EXPECT_FALSE(panel->GetModified());
   EXPECT_EQ(panel->LoadWarnings().size(), 3u);
-  EXPECT_EQ(Log().substr(0, 38), "changed.1|changed.4.1|columns|change|i");
+  EXPECT_EQ(Log().substr(0, 54), "titles|changed.1|changed.4.1|columns|titles|change|ina");
   model->DelOperator(static_cast<std::size_t>(model->OperatorIndexByName("Between")));
   model->Conditions().Clear();
   model->ClearFields();

@@ -255,9 +255,9 @@ TEST_F(SQLRow, IsBuiltOnlyWhereItIsAllowed) {
   panel.SetAllowSQLFragments(false);
   const std::string error =
       "SQL \"Orders.Total > 5\" is not allowed here: allow SQL in queries, or replace the row by conditions";
-  EXPECT_EQ(Where(), "Row 2.1: " + error);
-  EXPECT_EQ(ErrorOf([&] { panel.GetBoundStatement(); }), "Row 2.1: " + error);
-  EXPECT_EQ(ErrorOf([&] { panel.BuildFilters(); }), "Row 2.1: " + error);
+  EXPECT_EQ(Where(), error);
+  EXPECT_EQ(ErrorOf([&] { panel.GetBoundStatement(); }), error);
+  EXPECT_EQ(ErrorOf([&] { panel.BuildFilters(); }), error);
   EXPECT_EQ(Findings(),
             "warning Row .1: " + ReplaceStr(error, "Orders.Total > 5", "1 = 1") + "\nerror Row .2.1: " + error + "\n");
   inner.SetEnabled(false);
@@ -279,7 +279,7 @@ TEST_F(SQLRow, OfASubQueryIsAllowedWithTheQueryRoundIt) {
             "database\n");
   panel.SetAllowSQLFragments(false);
   EXPECT_EQ(Where(),
-            "Row 1: SQL \"Orders.Total > 5\" is not allowed here: allow SQL in queries, or replace the row by "
+            "SQL \"Orders.Total > 5\" is not allowed here: allow SQL in queries, or replace the row by "
             "conditions");
 }
 
@@ -323,7 +323,7 @@ TEST_F(SQLRow, OfATextThatIsNoConditionIsKeptAndNeverBuilt) {
   ASSERT_EQ(panel.LoadWarnings().size(), 2U);
   EXPECT_EQ(panel.LoadWarnings()[0].RowID + " " + panel.LoadWarnings()[0].Text, ".1 " + error);
   EXPECT_EQ(panel.LoadWarnings()[1].Text, "SQL \"\" is no condition: it is empty");
-  EXPECT_EQ(Where(), "Row 1: " + error);
+  EXPECT_EQ(Where(), error);
   EXPECT_EQ(Findings(), "error Row .1: " + error + "\nerror Row .2: SQL \"\" is no condition: it is empty\n");
   EXPECT_NE(panel.SaveToText().find("SQL=1 = 1) or (1 = 1\r\n"), std::string::npos);
   auto& fragment = static_cast<TSQLFragment&>(panel.RootBracket().GetRow(0));

@@ -6,6 +6,7 @@
 #include "support/models.h"
 #include <tolvi/foundation/errors.h>
 #include <tolvi/query/querpnl.h>
+#include <tolvi/query/rowerror.h>
 
 namespace tolvi {
 namespace {
@@ -37,6 +38,8 @@ class Statement : public testing::Test {
   std::string ErrorOf(const std::function<void()>& action) {
     try {
       action();
+    } catch (const EQueryRowError& error) {
+      return error.RowID() + " " + error.Message();
     } catch (const EJQueryPanelError& error) {
       return error.Message();
     }
@@ -205,7 +208,7 @@ TEST_F(Statement, IsTheSameAfterAChangeOfOneValueAsWhenBuiltAnew) {
   model->TableByName(tnAlias, "Orders")->SetTableAlias("o");
   EXPECT_NE(panel.GetQueryText().find("o.Total >250"), std::string::npos) << "the model's changes are seen";
   total.SetValue(1, "none");
-  EXPECT_EQ(ErrorOf([&] { SQL(); }).substr(0, 13), "Field \"Total\"");
+  EXPECT_EQ(ErrorOf([&] { SQL(); }).substr(0, 16), ".1 Field \"Total\"");
   total.SetValue(1, "250");
   EXPECT_NE(panel.GetQueryText().find("o.Total >250"), std::string::npos);
 }
@@ -243,7 +246,7 @@ TEST_F(Statement, ParametersAndBoundValuesStandForTheSameLiterals) {
   company.GetParam(1)->SetParamName("Sizes");
   EXPECT_EQ(panel.GetBoundStatement().Values.size(), 5u);
   EXPECT_EQ(ErrorOf([&] { panel.GetBoundStatement(msColonName); }),
-            "Two parameters are called \"Sizes\" and stand for different values: rename one of them");
+            ".3 Two parameters are called \"Sizes\" and stand for different values: rename one of them");
   company.GetParam(1)->SetParamName("Value1");
   qty.SetValueIsParam(1, false);
   qty.SetValue(1, "5");
@@ -261,7 +264,8 @@ TEST_F(Statement, SubQueriesAreBuiltIntoTheirPlace) {
   TStrings text;
   inner.SaveToStrings(text);
   TSimpleCond& outer = Where("Customers.CustNo", "InQuery");
-  EXPECT_EQ(ErrorOf([&] { SQL(); }), "Field \"Customer no\": no sub-query is chosen: choose one or switch the row off");
+  EXPECT_EQ(ErrorOf([&] { SQL(); }),
+            ".1 Field \"Customer no\": no sub-query is chosen: choose one or switch the row off");
   outer.SetSubQuery(text);
   outer.SetSubQueryOptions({soSelectDistinct});
   TSimpleCond& city = Where("Customers.City", "Equal", "x");
@@ -286,6 +290,10 @@ TEST_F(Statement, SubQueriesAreBuiltIntoTheirPlace) {
               ".1 In the sub-query: Left out: a condition on an aggregate stands in a bracket of other conditions; "
               "move it out of the bracket\n");
   }
+  inner.AddSimpleCond(inner.RootBracket(), FieldOf(*model, "Orders.Total"), OperatorOf(*model, "Equal"), "much");
+  inner.SaveToStrings(text);
+  outer.SetSubQuery(text);
+  EXPECT_EQ(ErrorOf([&] { SQL(); }), ".1 Field \"Total\": \"much\" is not a number such as 12.5");
 }
 
 TEST_F(Statement, TellsWhereConditionsOnAggregatesChangeTheMeaning) {
@@ -396,7 +404,7 @@ TEST_F(Statement, WhatTheModelLosesIsAnErrorOfTheEnabledRow) {
     if (&model->GetField(i) == &condition.GetField()) model->DelField(i);
   }
   EXPECT_EQ(condition.GetFieldID(), id);
-  EXPECT_EQ(ErrorOf([&] { SQL(); }), "Unrecognized field \"3\"");
+  EXPECT_EQ(ErrorOf([&] { SQL(); }), ".1 Unrecognized field \"3\"");
   condition.SetEnabled(false);
   EXPECT_NE(SQL().find("Customers.Company is null"), std::string::npos);
 }

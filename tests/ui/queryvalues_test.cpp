@@ -1,3 +1,6 @@
+#include <QLabel>
+#include <QPlainTextEdit>
+
 #include "queryview.h"
 
 namespace tolvi {
@@ -12,6 +15,17 @@ TEST_F(QueryPanelView, ShowsWhatIsOffLockedOrWrong) {
   ClickLabel(1, "value1", QStringLiteral("12y"));
   EXPECT_EQ(row.GetValue(1), "12y");
   EXPECT_FALSE(Label(1, "value1").GetFault().isEmpty());
+  view->FocusRow(locked, 0);
+  try {
+    SQL();
+    FAIL();
+  } catch (const EJQueryPanelError& error) {
+    view->ReportError(error);
+  }
+  EXPECT_TRUE(Label(1, "value1").hasFocus());
+  EXPECT_EQ(errors.takeLast(), QStringLiteral("Order no is equal to 12y:\n"
+                                              "Field \"Order no\": \"12y\" is not a whole number from -2147483648 to "
+                                              "2147483647"));
   ClickLabel(1, "value1", QStringLiteral("12"));
   EXPECT_EQ(Label(1, "value1").GetFault(), QString());
 
@@ -27,6 +41,30 @@ TEST_F(QueryPanelView, ShowsWhatIsOffLockedOrWrong) {
   EXPECT_EQ(Popup(), nullptr);
   Press(Qt::Key_Delete);
   EXPECT_EQ(panel->RootBracket().GetRowCount(), 2u);
+  EXPECT_EQ(Row(2).GetButton().accessibleDescription(), QStringLiteral("The row is locked: it cannot be changed here"));
+}
+
+TEST_F(QueryPanelView, ShowsWhatTheModelAndTheBracketsCallThings) {
+  TFilterBracket& bracket = panel->AddBracket(panel->RootBracket());
+  Add("Customers.City", "Equal", "A", &bracket);
+  Add("Orders.Total", "GreaterThan", "5", &bracket).SetEnabled(false);
+  TFilterBracket& inner = panel->AddBracket(bracket);
+  inner.SetLinkType(fltAny);
+  Add("Customers.City", "Equal", "B", &inner);
+  Settle();
+  auto& triangle = *Row(1).findChild<QAbstractButton*>(QStringLiteral("triangle"));
+  Click(triangle);
+  Settle();
+  EXPECT_EQ(Row(1).GetSentence(), QStringLiteral("all of the following apply (City is equal to A; "
+                                                 "any of the following apply (City is equal to B))"));
+  EXPECT_EQ(view->Rows().size(), 2u);
+  FieldOf(*model, "Customers.City").SetDisplayName("Town");
+  Settle();
+  EXPECT_TRUE(Row(1).GetSentence().contains(QStringLiteral("Town is equal to B"))) << "the model's names changed";
+  Click(triangle);
+  Settle();
+  EXPECT_EQ(view->Rows().size(), 6u);
+  EXPECT_FALSE(Row(4).findChild<QAbstractButton*>(QStringLiteral("triangle"))->isHidden());
 }
 
 TEST_F(QueryPanelView, OffersValuesByTheEditorOfTheField) {
@@ -39,6 +77,20 @@ TEST_F(QueryPanelView, OffersValuesByTheEditorOfTheField) {
   FieldOf(*model, "Customers.Company").SetEditType(etCustom);
   TSimpleCond& truth = Add("Customers.Active", "Equal", "");
   Settle();
+  // A list that comes later than the label was closed, and one that comes while it is open.
+  for (const bool isOpen : {false, true}) {
+    std::function<void(const QString&)> done;
+    view->OnFetchItems = [&done](TJQueryPanelView&, TDSSQLEditor&, const auto& call) { done = call; };
+    Click(Label(1, "value1"));
+    Settle();
+    if (!isOpen) PopupKey(Qt::Key_Escape);
+    done(QStringLiteral("The server is asleep"));
+    EXPECT_EQ(Popup() != nullptr, isOpen);
+    if (!isOpen) continue;
+    EXPECT_EQ(Popup()->findChild<QLabel*>()->text(), QStringLiteral("The server is asleep"));
+    PopupKey(Qt::Key_Escape);
+  }
+  view->OnFetchItems = nullptr;
   Click(Label(1, "value1"));
   Settle();
   PopupKey(Qt::Key_Escape);
@@ -86,6 +138,17 @@ TEST_F(QueryPanelView, EditsParametersAndSubQueries) {
     auto* column = dialog->findChild<TDropDownLabel*>(QStringLiteral("column"));
     column->DropDown();
     Enter(QStringLiteral("Customer no"));
+    auto* sql = dialog->findChild<QPlainTextEdit*>(QStringLiteral("sql"));
+    dialog->findChild<QAbstractButton*>(QStringLiteral("sqlSwitch"))->click();
+    EXPECT_TRUE(sql->toPlainText().startsWith(QStringLiteral("SELECT Customers.CustNo")));
+    sql->setPlainText(QStringLiteral("select max(Total) from Orders where"));
+    dialog->accept();
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_TRUE(
+        dialog->findChild<QLabel*>(QStringLiteral("fault"))->text().startsWith(QStringLiteral("Line 1, column 36: ")));
+    sql->setPlainText(QStringLiteral("select distinct CustNo from Orders where Total > 5 and Total < 9"));
+    dialog->findChild<QAbstractButton*>(QStringLiteral("readSql"))->click();
+    EXPECT_EQ(column->GetCaption(), QStringLiteral("Customer"));
     dialog->accept();
   });
   untilOpen.start(10);
@@ -94,9 +157,10 @@ TEST_F(QueryPanelView, EditsParametersAndSubQueries) {
   TJQueryPanel inner;
   inner.SetDBStruct(model.get());
   inner.LoadFromStrings(query.GetSubQuery());
-  EXPECT_EQ(inner.RootBracket().GetRowCount(), 1u);
+  EXPECT_EQ(inner.RootBracket().GetRowCount(), 2u);
   ASSERT_EQ(inner.RFields().Count(), 1u);
-  EXPECT_EQ(inner.RFields()[0].DSFields().front(), &FieldOf(*model, "Customers.CustNo"));
+  EXPECT_EQ(inner.RFields()[0].DSFields().front(), &FieldOf(*model, "Orders.CustNo"));
+  EXPECT_NE(SQL().find("(SELECT DISTINCT Orders.CustNo"), std::string::npos) << SQL();
 }
 
 }  // namespace

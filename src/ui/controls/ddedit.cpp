@@ -33,6 +33,23 @@ class TCaseValidator final : public QValidator {
   const TTextCase FTextCase;
 };
 
+/// What stands in the places of the mask that are there to be typed in. `shown` has a character for each place.
+QString WithoutMask(const QString& shown, const QString& mask) {
+  static const QString places = QStringLiteral("AaNnXx90Dd#HhBb"), switches = QStringLiteral("><!");
+  const qsizetype end = mask.lastIndexOf(u';');
+  const QChar blank = end >= 0 && end + 1 < mask.size() ? mask[end + 1] : QChar(u' ');
+  QString text;
+  qsizetype place = 0;
+  for (qsizetype i = 0; i < (end < 0 ? mask.size() : end) && place < shown.size(); ++i) {
+    if (switches.contains(mask[i])) continue;
+    const bool isTyped = places.contains(mask[i]);
+    if (mask[i] == u'\\') ++i;
+    if (isTyped && shown[place] != blank) text += shown[place];
+    ++place;
+  }
+  return text;
+}
+
 /// As wide as its text.
 class TGrowingLine final : public QLineEdit {
  public:
@@ -48,8 +65,9 @@ class TGrowingLine final : public QLineEdit {
   QSize minimumSizeHint() const override { return {QLineEdit::minimumSizeHint().width(), sizeHint().height()}; }
 
   /// Empty when nothing is typed in the mask.
-  QString TypedText() const {
+  QString TypedText(bool keepsMask) const {
     if (inputMask().isEmpty()) return text();
+    if (!keepsMask) return WithoutMask(displayText(), inputMask());
     QLineEdit empty;
     empty.setInputMask(inputMask());
     return text() == empty.text() ? QString() : text();
@@ -94,7 +112,7 @@ QWidget* TDropDownEdit::CreateEditor(QWidget* parent) {
   line->selectAll();
   auto* editor = new TCheckedEditor(*line, parent);
   const auto check = [this, line, editor] {
-    editor->ShowFault(Fault(OnCheck, line->TypedText()));
+    editor->ShowFault(Fault(OnCheck, line->TypedText(FKeepsMask)));
     line->updateGeometry();
     PlaceEditor();
   };
@@ -104,7 +122,7 @@ QWidget* TDropDownEdit::CreateEditor(QWidget* parent) {
 }
 
 bool TDropDownEdit::TakeFromEditor(QWidget& editor) {
-  const QString text = static_cast<TGrowingLine*>(editor.focusProxy())->TypedText();
+  const QString text = static_cast<TGrowingLine*>(editor.focusProxy())->TypedText(FKeepsMask);
   SetValue(text);
   SetCaption(text);
   if (OnCheck) SetFault(OnCheck(text));

@@ -11,6 +11,7 @@ enum class TTextCase { tcNone, tcUpper, tcLower };
 class TDropDownEdit : public TDropDownLabel {
   Q_OBJECT
   Q_PROPERTY(QString inputMask READ GetInputMask WRITE SetInputMask)
+  Q_PROPERTY(bool keepsMask READ GetKeepsMask WRITE SetKeepsMask)
   Q_PROPERTY(int maxLength READ GetMaxLength WRITE SetMaxLength)
 
  public:
@@ -24,6 +25,9 @@ class TDropDownEdit : public TDropDownLabel {
   /// empty: any text.
   const QString& GetInputMask() const { return FInputMask; }
   void SetInputMask(const QString& mask) { FInputMask = mask; }
+  /// Whether the value holds the mask's own characters, too. Default true.
+  bool GetKeepsMask() const { return FKeepsMask; }
+  void SetKeepsMask(bool on) { FKeepsMask = on; }
   /// Default `tcNone`: kept as typed.
   TTextCase GetTextCase() const { return FTextCase; }
   void SetTextCase(TTextCase textCase) { FTextCase = textCase; }
@@ -40,6 +44,7 @@ class TDropDownEdit : public TDropDownLabel {
   QString FInputMask;
   TTextCase FTextCase = TTextCase::tcNone;
   int FMaxLength = 0;
+  bool FKeepsMask = true;
 };
 
 /// A label that is edited as several lines, in place. Enter begins a line, Ctrl+Enter accepts. The label shows the text

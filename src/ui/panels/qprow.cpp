@@ -11,6 +11,7 @@
 #include <tolvi/ui/controls/ddlist.h>
 #include <tolvi/ui/panels/qpdrag.h>
 #include <tolvi/ui/panels/qprow.h>
+#include <tolvi/ui/panels/qpsigns.h>
 #include <tolvi/ui/panels/querpnlview.h>
 #include <tolvi/ui/qtext.h>
 
@@ -19,6 +20,7 @@ namespace {
 
 constexpr double currentPart = 0.16, hoverPart = 0.07;  // of the highlight colour laid over the background
 constexpr double offPart = 0.55;                        // of the text colour in a row that is off
+constexpr std::size_t collapsedLimit = 400;             // bytes of the rows' sentences in a collapsed bracket
 
 /// Whether the part can be changed. Words of SQL and of what the model lacks stay as they are.
 bool IsLabel(TPhraseKind kind) { return kind != pkText && kind != pkSQL; }
@@ -64,6 +66,11 @@ TQPRow::TQPRow(TJQueryPanelView& view, TFilterRow& row, QWidget* parent)
     FView.Edit(*FRow, [this, on] { FRow->SetEnabled(on); });
   };
   FCheckBox->installEventFilter(&view);
+  if (row.GetRowType() != frtBracket) return;
+  FTriangle = new TQPTriangle(this);
+  connect(FTriangle, &QAbstractButton::clicked, this, [this] {
+    if (FRow != nullptr) FView.ToggleCollapsed(*FRow);
+  });
 }
 
 // Parts
@@ -173,6 +180,7 @@ void TQPRow::Refresh() {
   for (const TFilterBracket* at = FRow->GetParentBracket(); at != nullptr; at = at->GetParentBracket()) {
     FOff = FOff || !at->GetEnabled();
   }
+  QString sentence = ToQString(PhraseText(phrase));
   std::vector<TPart> old = std::move(FParts);
   FParts.clear();
   for (const TPhrasePart& piece : phrase) {
@@ -180,10 +188,11 @@ void TQPRow::Refresh() {
     ShowPart(FParts.back(), piece);
   }
   if (FRow->GetRowType() == frtBracket && FView.GetEditor()->IsCollapsed(*FRow)) {
-    TPart more;
-    more.SpaceBefore = true;
-    more.Text = QStringLiteral("… (%1)").arg(static_cast<TFilterBracket&>(*FRow).GetRowCount());
-    FParts.push_back(more);
+    TPart rows;
+    rows.SpaceBefore = rows.IsElided = true;
+    rows.Text = ToQString("(" + RowsText(static_cast<TFilterBracket&>(*FRow), FView.Names(), collapsedLimit) + ")");
+    sentence += u' ' + rows.Text;
+    FParts.push_back(rows);
   }
   for (TPart& part : old) {
     if (part.Label == nullptr) continue;
@@ -199,7 +208,7 @@ void TQPRow::Refresh() {
   const TQPAppearance::TQPAppearanceOptions options = FView.GetAppearance().GetOptions();
   FButton->SetFlat(options.testFlag(TQPAppearance::aoFlatButtons));
   FButton->SetRounded(options.testFlag(TQPAppearance::aoRoundButtons));
-  const QString sentence = ToQString(PhraseText(phrase));
+  ShowSigns();
   if (sentence != FSentence) {
     FSentence = sentence;
     FButton->setAccessibleName(sentence);
@@ -208,6 +217,20 @@ void TQPRow::Refresh() {
     QAccessible::updateAccessibility(&told);
   }
   UpdateColors();
+}
+
+void TQPRow::ShowSigns() {
+  const TPanelEditor& editor = *FView.GetEditor();
+  FLocked = editor.IsLocked(*FRow);
+  const QString lockedText = FLocked ? tr("The row is locked: it cannot be changed here") : QString();
+  setToolTip(lockedText);
+  FButton->setAccessibleDescription(lockedText);
+  if (FTriangle == nullptr) return;
+  const bool isCollapsed = editor.IsCollapsed(*FRow);
+  FTriangle->SetCollapsed(isCollapsed);
+  FTriangle->setToolTip(FView.GetAction(isCollapsed ? pcExpand : pcCollapse).whatsThis());
+  FTriangle->setAccessibleName(FTriangle->toolTip());
+  FTriangle->setVisible(static_cast<TFilterBracket&>(*FRow).GetRowCount() > 0);
 }
 
 void TQPRow::SetPlace(int level, int number) {
@@ -254,15 +277,9 @@ void TQPRow::BeforeEdit(TDropDownLabel& label) {
     auto& condition = static_cast<TFilterCond&>(*FRow);
     PrepareLabel(label, part->ValueKind, condition, part->ValueIndex);
     if (part->ValueKind != TQPValueKind::vkFetchedItem && part->ValueKind != TQPValueKind::vkFetchedItems) return;
-    // The list shows that it is busy first.
-    QPointer<TDropDownLabel> target(&label);
+    const QPointer<TDropDownLabel> target(&label);
     QMetaObject::invokeMethod(
-        this,
-        [this, target] {
-          const TPart* own = target ? PartOf(*target) : nullptr;
-          if (own != nullptr) FetchItems(*target, static_cast<TFilterCond&>(*FRow), own->ValueIndex);
-        },
-        Qt::QueuedConnection);
+        this, [this, target] { Fetch(target); }, Qt::QueuedConnection);
     return;
   }
   auto& list = static_cast<TDropDownList&>(label);
@@ -280,6 +297,21 @@ void TQPRow::BeforeEdit(TDropDownLabel& label) {
   }
   list.SetCaption(caption);
   FValueBefore = list.GetValue();
+}
+
+void TQPRow::Fetch(const QPointer<TDropDownLabel>& label) {
+  const TPart* part = label ? PartOf(*label) : nullptr;
+  auto* editor = part == nullptr
+                     ? nullptr
+                     : dynamic_cast<TDSSQLEditor*>(static_cast<TFilterCond*>(FRow)->GetValueEditor(part->ValueIndex));
+  if (editor == nullptr) return;
+  // The list shows that it is busy first.
+  if (QWidget* popup = QApplication::activePopupWidget()) popup->repaint();
+  const QPointer<TQPRow> self(this);
+  FView.FetchItems(*editor, [self, label](const QString& fault) {
+    const TPart* own = self && label ? self->PartOf(*label) : nullptr;
+    if (own != nullptr) ShowFetched(*label, static_cast<TFilterCond&>(*self->FRow), own->ValueIndex, fault);
+  });
 }
 
 void TQPRow::AfterEdit(TDropDownLabel& label) {
@@ -331,6 +363,13 @@ int TQPRow::IndexOfPart(const QObject* widget) const {
 }
 
 int TQPRow::GetFirstLabel() const { return std::min(FCheckBox != nullptr ? 2 : 1, GetPartCount() - 1); }
+
+int TQPRow::GetFaultPart() const {
+  const auto wrong = std::find_if(FParts.begin(), FParts.end(), [](const TPart& part) {
+    return part.Label != nullptr && !part.Label->GetFault().isEmpty();
+  });
+  return wrong != FParts.end() ? IndexOfPart(wrong->Label) : GetFirstLabel();
+}
 
 int TQPRow::ValueOfPart(int part) const {
   const QWidget* widget = GetPart(part);

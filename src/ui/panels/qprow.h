@@ -15,6 +15,7 @@ namespace tolvi {
 class TFilterRow;
 class TJQueryPanelView;
 class TPanelEditor;
+class TQPTriangle;
 
 /// One row of the query panel: its button, its check box (not for the root), and the parts of its sentence, those that
 /// can be changed as labels.
@@ -46,6 +47,8 @@ class TQPRow final : public QWidget {
   int IndexOfPart(const QObject* widget) const;
   /// The first part behind button and check box; the last part if there is none.
   int GetFirstLabel() const;
+  /// The first value with a fault; else as `GetFirstLabel`.
+  int GetFaultPart() const;
   /// The number of the value of which the part is the label; 0 for none.
   int ValueOfPart(int part) const;
   void OpenPart(int part);
@@ -65,6 +68,8 @@ class TQPRow final : public QWidget {
     TQPValueKind ValueKind = TQPValueKind::vkText;
     bool SpaceBefore = false;
     QString Text;
+    // As much of the text as there is room for is shown.
+    bool IsElided = false;
     TDropDownLabel* Label = nullptr;
     QRect Place;
   };
@@ -73,13 +78,17 @@ class TQPRow final : public QWidget {
   TPart TakePart(std::vector<TPart>& parts, const TPhrasePart& phrase) const;
   void ShowPart(TPart& part, const TPhrasePart& phrase);
   QColor ColorOf(const TPart& part) const;
+  void Fetch(const QPointer<TDropDownLabel>& label);
   void BeforeEdit(TDropDownLabel& label);
   void AfterEdit(TDropDownLabel& label);
   void TakePartValue(TDropDownLabel& label, const TPart& part);
   TPart* PartOf(const TDropDownLabel& label);
   bool CanEdit() const;
   void UpdateColors();
+  void ShowSigns();
   void PaintTreeLines(QPainter& painter) const;
+  void PaintPart(QPainter& painter, const TPart& part) const;
+  int ArrangeText(TPart& part, int x) const;
   int StartOf(int level) const;
   QRect Mirrored(const QRect& rect) const;
 
@@ -87,10 +96,13 @@ class TQPRow final : public QWidget {
   TFilterRow* FRow;
   TJRndBtn* FButton;
   TJFlatCheckBox* FCheckBox = nullptr;
+  // Null for conditions and the root.
+  TQPTriangle* FTriangle = nullptr;
   std::vector<TPart> FParts;
   QString FSentence, FValueBefore;
   int FLevel = 0, FNumber = 0;
-  bool FCurrent = false, FOff = false;
+  bool FCurrent = false, FOff = false, FLocked = false;
+  QRect FLockPlace;
 };
 
 }  // namespace tolvi

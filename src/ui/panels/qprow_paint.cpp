@@ -6,9 +6,15 @@
 #include <tolvi/query/querpnl.h>
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/panels/qprow.h>
+#include <tolvi/ui/panels/qpsigns.h>
 #include <tolvi/ui/panels/querpnlview.h>
 
 namespace tolvi {
+namespace {
+
+constexpr int minElidedChars = 20;
+
+}  // namespace
 
 QRect TQPRow::Mirrored(const QRect& rect) const {
   return isRightToLeft() ? QRect(width() - rect.x() - rect.width(), rect.y(), rect.width(), rect.height()) : rect;
@@ -31,6 +37,11 @@ int TQPRow::Arrange() {
     place(*FCheckBox, FCheckBox->width(), FCheckBox->GetBaseline());
   }
   const QFontMetrics fonts = fontMetrics();
+  if (FTriangle != nullptr) {
+    // On the middle of small letters.
+    place(*FTriangle, FTriangle->sizeHint().width(), (FTriangle->sizeHint().height() + fonts.xHeight()) / 2);
+    FTriangle->resize(FTriangle->sizeHint());
+  }
   for (TPart& part : FParts) {
     if (part.SpaceBefore) x += metrics.ElemSpace;
     if (part.Label != nullptr) {
@@ -39,13 +50,28 @@ int TQPRow::Arrange() {
     } else if (!part.Text.isEmpty()) {
       // Words keep the distance from each other that labels have by their margins.
       if (&part == &FParts.front()) x += metrics.ElemSpace;
-      const int width = fonts.horizontalAdvance(part.Text);
-      part.Place = Mirrored({x, metrics.Baseline - fonts.ascent(), width, fonts.height()});
-      x += width;
+      x = ArrangeText(part, x);
     }
+  }
+  if (FLocked) {
+    x += metrics.ElemSpace;
+    FLockPlace = Mirrored({x, metrics.Baseline - fonts.capHeight(), fonts.capHeight(), fonts.capHeight()});
+    x += fonts.capHeight();
   }
   update();
   return x + metrics.Left;
+}
+
+int TQPRow::ArrangeText(TPart& part, int x) const {
+  const QFontMetrics fonts = fontMetrics();
+  int width = fonts.horizontalAdvance(part.Text);
+  if (part.IsElided) {
+    const int room = FView.viewport()->width() - x - FView.Metrics().Left;
+    width = std::min(width, std::max(room, minElidedChars * fonts.averageCharWidth()));
+  }
+  const int padding = part.Kind == pkSQL ? FView.Metrics().ElemSpace : 0;
+  part.Place = Mirrored({x + padding, FView.Metrics().Baseline - fonts.ascent(), width, fonts.height()});
+  return x + width + 2 * padding;
 }
 
 void TQPRow::resizeEvent(QResizeEvent* event) {
@@ -106,13 +132,28 @@ void TQPRow::paintEvent(QPaintEvent*) {
                      ReadableColor(palette().color(QPalette::Highlight), background, 3));
   }
   for (const TPart& part : FParts) {
-    if (part.Label != nullptr || part.Text.isEmpty()) continue;
-    const QColor color = ColorOf(part);
-    painter.setPen(ReadableColor(color.isValid() ? color : text, background));
-    painter.drawText(part.Place,
-                     static_cast<int>(Qt::AlignLeading | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextDontClip,
-                     part.Text);
+    if (part.Label == nullptr && !part.Text.isEmpty()) PaintPart(painter, part);
   }
+  if (FLocked) PaintPadlock(painter, FLockPlace, ReadableColor(MixedColor(text, background, 0.7), background, 3));
+}
+
+// Words as they are; SQL in a frame of its own.
+void TQPRow::PaintPart(QPainter& painter, const TPart& part) const {
+  const QColor background = palette().color(backgroundRole()), text = palette().color(QPalette::Text);
+  const QColor color = part.IsElided ? MixedColor(text, background, 0.75) : ColorOf(part);
+  QColor ground = background;
+  if (part.Kind == pkSQL) {
+    ground = MixedColor(text, background, 0.06);
+    const int padding = FView.Metrics().ElemSpace;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(MixedColor(text, background, 0.3), 1));
+    painter.setBrush(ground);
+    painter.drawRoundedRect(QRectF(part.Place.adjusted(-padding, -1, padding, 1)).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+  }
+  painter.setPen(ReadableColor(color.isValid() ? color : text, ground));
+  painter.drawText(part.Place,
+                   static_cast<int>(Qt::AlignLeading | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextDontClip,
+                   part.IsElided ? fontMetrics().elidedText(part.Text, Qt::ElideRight, part.Place.width()) : part.Text);
 }
 
 }  // namespace tolvi

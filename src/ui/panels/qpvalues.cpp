@@ -275,6 +275,7 @@ void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& c
     const auto* textEditor = dynamic_cast<const TDSTextEditor*>(editor);
     if (textEditor == nullptr || kind == vkTextList) return;
     edit.SetInputMask(ToQString(textEditor->GetEditMask()));
+    edit.SetKeepsMask(textEditor->GetUseFormattedValue());
     edit.SetTextCase(textEditor->GetAutoUpperCase()   ? TTextCase::tcUpper
                      : textEditor->GetAutoLowerCase() ? TTextCase::tcLower
                                                       : TTextCase::tcNone);
@@ -296,17 +297,15 @@ void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& c
   }
 }
 
-void FetchItems(TDropDownLabel& label, const TFilterCond& condition, int index) {
+void ShowFetched(TDropDownLabel& label, const TFilterCond& condition, int index, const QString& fault) {
   auto* editor = dynamic_cast<TDSSQLEditor*>(condition.GetValueEditor(index));
   auto* list = dynamic_cast<TDropDownList*>(&label);
   if (editor == nullptr || list == nullptr) return;
-  try {
-    editor->SetOpened(true);
+  if (fault.isEmpty()) {
     list->SetItems(ItemsOf(*editor));
     list->SetValue(list->GetValue());
-  } catch (const std::exception& error) {
-    list->SetListFault(QString::fromUtf8(error.what()));
   }
+  list->SetListFault(fault);
   list->SetBusy(false);
 }
 

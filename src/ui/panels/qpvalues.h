@@ -68,9 +68,9 @@ TDropDownLabel* MakeValueLabel(TQPValueKind kind, QWidget* parent);
 /// Shows the value, worded as in the row's sentence, with what is wrong with it.
 void ShowValue(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index,
                const TPhrasePart& part);
-/// What the label offers, set when it opens. Lists fetched by SQL are only marked as busy: `FetchItems` fills them.
+/// What the label offers, set when it opens. Lists fetched by SQL are marked as busy until `ShowFetched`.
 void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index);
-void FetchItems(TDropDownLabel& label, const TFilterCond& condition, int index);
+void ShowFetched(TDropDownLabel& label, const TFilterCond& condition, int index, const QString& fault);
 /// Gives the condition the value that the user has chosen. Raises `EJQueryPanelError` for a parameter's name that is
 /// none.
 void TakeValue(const TDropDownLabel& label, TQPValueKind kind, TFilterCond& condition, int index);

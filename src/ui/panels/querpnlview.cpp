@@ -5,6 +5,8 @@
 #include <utility>
 
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/query/rowerror.h>
+#include <tolvi/ui/dialogs/titlesdlg.h>
 #include <tolvi/ui/panels/linklabel.h>
 #include <tolvi/ui/panels/qpaccess.h>
 #include <tolvi/ui/panels/qpdrag.h>
@@ -270,6 +272,46 @@ void TJQueryPanelView::ShowError(const QString& message) {
   QMessageBox::warning(this, window()->windowTitle(), message);
 }
 
+void TJQueryPanelView::ReportError(const std::exception& error) {
+  QString message = QString::fromUtf8(error.what());
+  const auto* rowError = dynamic_cast<const EQueryRowError*>(&error);
+  TFilterRow* row = rowError != nullptr && FPanel ? FPanel->RootBracket().RowByID(rowError->RowID()) : nullptr;
+  if (row != nullptr) {
+    message = ToQString(PhraseText(RowPhrase(*row, Names()))) + QStringLiteral(":\n") + message;
+    if (!MakeCurrent(row)) return;
+    setFocus();
+    FocusRow(*row, 0);
+    if (TQPRow* widget = RowWidget(*row)) FocusPart(*widget, widget->GetFaultPart());
+  }
+  ShowError(message);
+}
+
+bool TJQueryPanelView::EditTitles() {
+  if (!FPanel) return false;
+  const QPointer<TJQueryPanelView> self(this);
+  TStrings titles = FPanel->Titles().Lines();
+  if (!tolvi::EditTitles(this, TTitles::DefaultLines(), titles) || !self || !FPanel) return false;
+  FPanel->SetTitles(titles);
+  return true;
+}
+
+void TJQueryPanelView::ToggleCollapsed(TFilterRow& bracket) {
+  if (FEditor) FEditor->SetCollapsed(bracket, !FEditor->IsCollapsed(bracket));
+}
+
+void TJQueryPanelView::FetchItems(TDSSQLEditor& editor, const std::function<void(const QString& fault)>& done) {
+  if (const auto handler = OnFetchItems) return handler(*this, editor, done);
+  QString fault;
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  try {
+    editor.SetOpened(true);
+  } catch (const std::exception& error) {
+    fault = QString::fromUtf8(error.what());
+  }
+  QApplication::restoreOverrideCursor();
+  done(fault);
+}
+
 void TJQueryPanelView::EditCustom(TFilterCond& condition, int index) {
   const auto handler = OnCustomEdit;
   if (handler) Edit(condition, [&] { handler(*this, condition, index); });
@@ -279,10 +321,14 @@ void TJQueryPanelView::EditSubQuery(TFilterCond& condition, int index) {
   if (const auto handler = OnEditSubQuery) return Edit(condition, [&] { handler(*this, condition, index); });
   const std::uint64_t serial = condition.GetSerial();
   const QPointer<TJQueryPanelView> self(this);
-  std::optional<TStrings> lines = RunSubQueryDialog(*this, condition);
+  const std::optional<TSubQuery> query = RunSubQueryDialog(*this, condition);
   // The row may have gone while the dialog was open.
-  TFilterRow* row = self && lines ? RowBySerial(serial) : nullptr;
-  if (row != nullptr) Edit(*row, [&] { static_cast<TFilterCond*>(row)->SetSubQuery(*lines); });
+  auto* target = self && query ? static_cast<TFilterCond*>(RowBySerial(serial)) : nullptr;
+  if (target == nullptr) return;
+  Edit(*target, [&] {
+    target->SetSubQuery(query->Lines);
+    target->SetSubQueryOptions(query->Options);
+  });
 }
 
 }  // namespace tolvi

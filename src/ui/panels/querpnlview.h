@@ -17,6 +17,7 @@
 
 namespace tolvi {
 
+class TDSSQLEditor;
 class TJQueryPanelView;
 class TLinkLabel;
 class TQPDrag;
@@ -81,6 +82,11 @@ class TJQueryPanelView : public QAbstractScrollArea {
   std::function<void(TJQueryPanelView& sender, TFilterCond& condition, int index)> OnCustomEdit;
   /// The user wants to change a sub-query. Without a handler a dialog with a panel of its own opens.
   std::function<void(TJQueryPanelView& sender, TFilterCond& condition, int index)> OnEditSubQuery;
+  /// A list fetched by SQL is to be opened. The handler fills the editor (`TDSSQLEditor::SetOpened`), now or later, and
+  /// then calls `done`, in the thread of the view, with an empty text or why it could not; until then the list shows
+  /// that it is busy. Without a handler the list is fetched at once, and the program waits.
+  std::function<void(TJQueryPanelView& sender, TDSSQLEditor& editor, std::function<void(const QString& fault)> done)>
+      OnFetchItems;
   /// What the user tried cannot be done. Without a handler a message box says why.
   std::function<void(TJQueryPanelView& sender, const QString& message)> OnError;
 
@@ -90,6 +96,12 @@ class TJQueryPanelView : public QAbstractScrollArea {
   bool RunCommand(TPanelCommand command, int argument = -1);
   /// Makes a change of the row as a step of undo; not for a row that cannot be edited. Errors go to `OnError`.
   void Edit(TFilterRow& row, const std::function<void()>& change);
+
+  /// Lets the user edit the panel's titles (`T_dlgTitlesEdit`); whether OK was chosen.
+  bool EditTitles();
+  /// Tells the user why the statement could not be built (`OnError`). For an `EQueryRowError` the row becomes the
+  /// current one, with the focus on the value at fault, and the message begins with the row's sentence.
+  void ReportError(const std::exception& error);
 
   /// Shows what has changed since the last time.
   void ShowChanges();
@@ -113,6 +125,9 @@ class TJQueryPanelView : public QAbstractScrollArea {
   /// The fields for conditions, by groups; the value is the ID.
   const std::vector<TDropDownItem>& FieldItems();
   void ShowError(const QString& message);
+  void ToggleCollapsed(TFilterRow& bracket);
+  /// Fills the list of the editor; `done` gets why that failed, or an empty text, and may do nothing.
+  void FetchItems(TDSSQLEditor& editor, const std::function<void(const QString& fault)>& done);
   void EditCustom(TFilterCond& condition, int index);
   void EditSubQuery(TFilterCond& condition, int index);
   void OpenRowMenu(TQPRow& row, const QPoint& globalPos);
