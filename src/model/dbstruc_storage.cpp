@@ -104,6 +104,7 @@ void DefineFormats(TPropertyFiler& filer, TSQLFormats& formats) {
       {"SQLFormats.TrueValue", &TSQLFormats::GetTrueValue, &TSQLFormats::SetTrueValue},
       {"SQLFormats.FullTableName", &TSQLFormats::GetFullTableName, &TSQLFormats::SetFullTableName},
       {"SQLFormats.LowerFunc", &TSQLFormats::GetLowerFunc, &TSQLFormats::SetLowerFunc},
+      {"SQLFormats.ListFunction", &TSQLFormats::GetListFunction, &TSQLFormats::SetListFunction},
   };
   struct TCharSetting {
     std::string_view name;

@@ -20,17 +20,27 @@ struct TPreset {
   std::string_view LowerFunc = "LOWER";
   char Wildcard = '%';
   bool OuterKeyword = true, AsInFrom = false;
+  std::string_view ListFunction = "list(@1)";
 };
 
 constexpr TPreset Presets[] = {
     {.Name = "generic", .Syntax = "ssSQL2", .QuoteBool = true, .FullTableName = "DB.OWNER.TABLE"},
     // Has no type for booleans, and compares dates as texts: the ISO form sorts as the dates do.
-    {.Name = "sqlite", .Syntax = "ssSQL2", .FalseValue = "0", .TrueValue = "1"},
+    {.Name = "sqlite", .Syntax = "ssSQL2", .FalseValue = "0", .TrueValue = "1", .ListFunction = "group_concat(@1)"},
     // Joins nothing across databases: what stands before a table is its schema. An alias that is also a keyword must
-    // follow AS.
-    {.Name = "postgresql", .Syntax = "ssSQL2", .AsInFrom = true},
+    // follow AS. Only texts can be listed.
+    {.Name = "postgresql",
+     .Syntax = "ssSQL2",
+     .AsInFrom = true,
+     .ListFunction = "string_agg(cast(@1 as varchar), ', ')"},
     // Takes double quotes for those of texts unless told otherwise. Booleans are small numbers.
-    {.Name = "mysql", .Syntax = "ssSQL2", .Quote1 = '`', .Quote2 = '`', .FalseValue = "0", .TrueValue = "1"},
+    {.Name = "mysql",
+     .Syntax = "ssSQL2",
+     .Quote1 = '`',
+     .Quote2 = '`',
+     .FalseValue = "0",
+     .TrueValue = "1",
+     .ListFunction = "group_concat(@1)"},
     // Booleans are bits and have no words. Dates with dashes are read by the language of the session, those without
     // always the same way. With no owner, "db..table" means the user's own schema.
     {.Name = "sqlserver",
@@ -41,7 +51,8 @@ constexpr TPreset Presets[] = {
      .TrueValue = "1",
      .FullTableName = "DB.OWNER.TABLE",
      .Date = "'yyyymmdd'",
-     .DateTime = "'yyyymmdd hh:nn:ss'"},
+     .DateTime = "'yyyymmdd hh:nn:ss'",
+     .ListFunction = "string_agg(@1, ', ')"},
     // Booleans are numbers. A plain text is read as a date by the session's settings, so that dates need their keyword;
     // there are no times without a date, but those of such a day compare as times. AS before an alias is an error.
     {.Name = "oracle",
@@ -50,9 +61,10 @@ constexpr TPreset Presets[] = {
      .TrueValue = "1",
      .Date = "\"DATE '\"yyyy-mm-dd\"'\"",
      .Time = "\"TO_DATE('\"hh:nn:ss\"', 'HH24:MI:SS')\"",
-     .DateTime = "\"TIMESTAMP '\"yyyy-mm-dd hh:nn:ss\"'\""},
+     .DateTime = "\"TIMESTAMP '\"yyyy-mm-dd hh:nn:ss\"'\"",
+     .ListFunction = "listagg(@1, ', ') within group (order by @1)"},
     // Dates stand between number signs, LIKE has wildcards of its own, joins of three tables need brackets (the option
-    // for bracketed joins), and OUTER is not written.
+    // for bracketed joins), and OUTER is not written. No function lists values.
     {.Name = "access",
      .Syntax = "ssAccess",
      .Quote1 = '[',
@@ -65,9 +77,10 @@ constexpr TPreset Presets[] = {
      .LowerFunc = "LCase",
      .Wildcard = '*',
      .OuterKeyword = false,
-     .AsInFrom = true},
+     .AsInFrom = true,
+     .ListFunction = ""},
     // What stands before a table is its schema; texts in the ISO form are dates, and booleans are words.
-    {.Name = "db2", .Syntax = "ssSQL2"},
+    {.Name = "db2", .Syntax = "ssSQL2", .ListFunction = "listagg(@1, ', ')"},
     // Has neither schemas nor other databases within a statement.
     {.Name = "firebird", .Syntax = "ssSQL2", .FullTableName = "TABLE"},
 };
@@ -106,6 +119,7 @@ void ApplyFormatPreset(TSQLFormats& formats, std::string_view name) {
   wanted.SetWildcardChar(preset.Wildcard);
   wanted.SetUseOuterKeyword(preset.OuterKeyword);
   wanted.SetUseAsInFrom(preset.AsInFrom);
+  wanted.SetListFunction(preset.ListFunction);
   formats = wanted;
 }
 

@@ -64,6 +64,7 @@ constexpr TSettingKey<TSQLFormats> FormatKeys[] = {
     TextSetting<&TSQLFormats::GetLowerFunc, &TSQLFormats::SetLowerFunc>("LowerFunc"),
     CharacterSetting<&TSQLFormats::GetWildcardChar, &TSQLFormats::SetWildcardChar>("WildcardChar"),
     BooleanSetting<&TSQLFormats::GetUseAsInFrom, &TSQLFormats::SetUseAsInFrom>("UseAsInFrom"),
+    TextSetting<&TSQLFormats::GetListFunction, &TSQLFormats::SetListFunction>("ListFunction"),
 };
 
 constexpr TSettingKey<TDMOptions> OptionKeys[] = {

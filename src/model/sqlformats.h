@@ -67,6 +67,11 @@ class TSQLFormats final {
   bool GetUseAsInFrom() const { return FSettings.useAsInFrom; }
   void SetUseAsInFrom(bool on) { Set(FSettings.useAsInFrom, on); }
 
+  /// The aggregate that lists the values of a group in one text, with "@1" (once or more often) in the place of what is
+  /// listed; empty where the database has none. Default "list(@1)".
+  const std::string& GetListFunction() const { return FSettings.listFunction; }
+  void SetListFunction(std::string_view text) { Set(FSettings.listFunction, text); }
+
   /// Appends a name in the quote symbols, closing ones inside it doubled. The only place that quotes identifiers.
   void AppendQuoted(std::string& out, std::string_view name) const;
 
@@ -83,6 +88,7 @@ class TSQLFormats final {
     std::string lowerFunc = "LOWER";
     char wildcard = '%';
     bool useAsInFrom = false;
+    std::string listFunction = "list(@1)";
     bool operator==(const TSettings&) const = default;
   };
   template <typename T, typename V>

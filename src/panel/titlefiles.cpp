@@ -61,6 +61,14 @@ TStrings TitlesFromFile(const TStrings& defaults, const TStrings& file) {
   return titles;
 }
 
+TStrings ChangedTitles(const TStrings& defaults, const TStrings& titles) {
+  TStrings changed;
+  for (const std::string& line : titles) {
+    if (std::find(defaults.begin(), defaults.end(), line) == defaults.end()) changed.Add(line);
+  }
+  return changed;
+}
+
 TStrings TitlesForFile(const TStrings& titles, const TStrings& file) {
   TStrings lines = titles, known = ReadSLSections(titles);
   if (known.IndexOf("Query Panel") >= 0) known.Add("PanelTitles");

@@ -20,6 +20,9 @@ std::string TitleFault(std::string_view byDefault, std::string_view text);
 /// form: keys count for whatever section has them.
 TStrings TitlesFromFile(const TStrings& defaults, const TStrings& file);
 
+/// The lines of `titles` that are not those of the defaults: all that must be stored, without sections.
+TStrings ChangedTitles(const TStrings& defaults, const TStrings& titles);
+
 /// The lines with which the titles are written over a file: theirs, and behind them the sections of the file that they
 /// do not have, so that one file can hold the texts of several panels.
 TStrings TitlesForFile(const TStrings& titles, const TStrings& file);

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cctype>
 #include <memory>
 #include <utility>
 
@@ -203,6 +204,13 @@ bool TResultField::GetAgregate() const {
     for (const std::string_view name : AggregateFunctions) {
       if (at >= name.size() && AsciiSameText(formula.substr(at - name.size(), name.size()), name)) return true;
     }
+  }
+  // Other names may end like that of the list function: "pricelist(".
+  const std::string_view list = ListCall(FormatsOf(GetModel()));
+  for (std::size_t at = CXPos(list, formula, 0, true); !list.empty() && at != std::string_view::npos;
+       at = CXPos(list, formula, at + 1, true)) {
+    const auto before = static_cast<unsigned char>(at > 0 ? formula[at - 1] : ' ');
+    if (before < 0x80 && std::isalnum(before) == 0 && before != '_') return true;
   }
   return false;
 }

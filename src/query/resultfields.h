@@ -102,7 +102,8 @@ class TResultField final {
   std::string GetSelectExpr() const;
   /// What ORDER BY holds when it names expressions.
   std::string GetOrderName() const { return GetSQLExpr(); }
-  /// Whether the column is an aggregate: by its first field, or by an aggregate function in the formula.
+  /// Whether the column is an aggregate: by its first field, or by an aggregate function in the formula, be it the one
+  /// by which the model lists values.
   bool GetAgregate() const;
 
   const std::any& GetOleObject() const { return FOleObject; }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include <tolvi/model/sqlformats.h>
 #include <tolvi/query/querytext.h>
 
 namespace tolvi {
@@ -13,6 +14,11 @@ class TJCustomDBStructure;
 
 /// The functions whose call makes a formula an aggregate.
 inline constexpr std::string_view AggregateFunctions[] = {"sum", "count", "max", "min", "avg"};
+
+/// The call that begins the model's own function for listing values, "list("; empty where there is none.
+inline std::string_view ListCall(const TSQLFormats& formats) {
+  return std::string_view(formats.GetListFunction()).substr(0, formats.GetListFunction().find('(') + 1);
+}
 
 /// Splits a formula at its placeholders "@1" to "@9" for the first `count` fields: calls `literal(text)` and
 /// `place(index from 0)` in the order of the text. Of a longer number the first digit counts.

@@ -236,11 +236,14 @@ bool TSelectScope::IsCall(TTokenRange expr) const {
 // ---- SQL in the names of the model ----------------------------------------------------------------------------------
 
 void TSelectScope::Walk(TTokenRange range, const TTextHandler& onText, const TFieldHandler& onField) const {
+  const std::string_view listCall = ListCall(FModel.SQLFormats());
+  const std::string_view listFunction = listCall.substr(0, listCall.size() - (listCall.empty() ? 0 : 1));
   for (std::size_t at = range.Begin; at < range.End;) {
     const TSelectToken& token = FText[at];
     if (at > range.Begin) {
       const TSelectToken& before = FText[at - 1];
-      const bool isCall = token.Word == swOpen && before.IsName() && IsOneOf(before.Text, AggregateFunctions);
+      const bool isCall = token.Word == swOpen && before.IsName() &&
+                          (IsOneOf(before.Text, AggregateFunctions) || AsciiSameText(before.Text, listFunction));
       if (NeedsBlank(at) && !isCall) onText(" ");
     }
     if (const std::size_t end = EndOfSubSelect(FText, at); end > at) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <string>
 #include <string_view>
+
+#include <tolvi/foundation/strings.h>
 
 namespace tolvi {
 
@@ -11,5 +14,16 @@ inline QString ToQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 inline std::string FromQString(const QString& text) { return text.toStdString(); }
+
+inline QStringList ToQStringList(const TStrings& lines) {
+  QStringList result;
+  for (const std::string& line : lines) result << ToQString(line);
+  return result;
+}
+inline TStrings FromQStringList(const QStringList& lines) {
+  TStrings result;
+  for (const QString& line : lines) result.Add(FromQString(line));
+  return result;
+}
 
 }  // namespace tolvi

@@ -21,6 +21,7 @@ std::string Described(const TSQLFormats& formats) {
   if (formats.GetQuoteDate()) text += " date";
   if (formats.GetUseOuterKeyword()) text += " outer";
   if (formats.GetUseAsInFrom()) text += " as";
+  text += " " + formats.GetListFunction();
   for (const std::string& pattern : {formats.GetDate(), formats.GetTime(), formats.GetDateTime()}) {
     text += "|" + FormatDateTime(pattern, Noon);
   }
@@ -32,18 +33,21 @@ TEST(FormatPresets, SetWhatEachEngineWants) {
     std::string name, syntax, formats;
   };
   const TCase cases[] = {
-      {"generic", "ssSQL2", "\"a\" false true DB.OWNER.TABLE LOWER % bool date outer|||"},
-      {"sqlite", "ssSQL2", "\"a\" 0 1 DB.TABLE LOWER % date outer|||"},
-      {"postgresql", "ssSQL2", "\"a\" false true DB.TABLE LOWER % date outer as|||"},
-      {"mysql", "ssSQL2", "`a` 0 1 DB.TABLE LOWER % date outer|||"},
+      {"generic", "ssSQL2", "\"a\" false true DB.OWNER.TABLE LOWER % bool date outer list(@1)|||"},
+      {"sqlite", "ssSQL2", "\"a\" 0 1 DB.TABLE LOWER % date outer group_concat(@1)|||"},
+      {"postgresql", "ssSQL2",
+       "\"a\" false true DB.TABLE LOWER % date outer as string_agg(cast(@1 as varchar), ', ')|||"},
+      {"mysql", "ssSQL2", "`a` 0 1 DB.TABLE LOWER % date outer group_concat(@1)|||"},
       // A pattern that is one quoted part is a literal as a whole; the builder writes the date into it.
-      {"sqlserver", "ssSQL2", "[a] 0 1 DB.OWNER.TABLE LOWER % date outer|yyyymmdd||yyyymmdd hh:nn:ss"},
+      {"sqlserver", "ssSQL2",
+       "[a] 0 1 DB.OWNER.TABLE LOWER % date outer string_agg(@1, ', ')|yyyymmdd||yyyymmdd hh:nn:ss"},
       {"oracle", "ssSQL2",
-       "\"a\" 0 1 DB.TABLE LOWER % date outer|DATE '1999-12-31'|TO_DATE('12:00:00', 'HH24:MI:SS')|"
+       "\"a\" 0 1 DB.TABLE LOWER % date outer listagg(@1, ', ') within group (order by @1)|DATE "
+       "'1999-12-31'|TO_DATE('12:00:00', 'HH24:MI:SS')|"
        "TIMESTAMP '1999-12-31 12:00:00'"},
-      {"access", "ssAccess", "[a] False True DB.TABLE LCase * date as|#1999-12-31#|#12:00:00#|#1999-12-31 12:00:00#"},
-      {"db2", "ssSQL2", "\"a\" false true DB.TABLE LOWER % date outer|||"},
-      {"firebird", "ssSQL2", "\"a\" false true TABLE LOWER % date outer|||"},
+      {"access", "ssAccess", "[a] False True DB.TABLE LCase * date as |#1999-12-31#|#12:00:00#|#1999-12-31 12:00:00#"},
+      {"db2", "ssSQL2", "\"a\" false true DB.TABLE LOWER % date outer listagg(@1, ', ')|||"},
+      {"firebird", "ssSQL2", "\"a\" false true TABLE LOWER % date outer list(@1)|||"},
   };
   std::string names;
   TSQLFormats formats;

@@ -41,6 +41,7 @@ TEST(SQLFormats, AssignmentCopiesEverythingAndTellsOnce) {
   TSQLFormats source;
   source.SetLowerFunc("lcase");
   source.SetUseAsInFrom(true);
+  source.SetListFunction("group_concat(@1)");
   target = source;
   target = source;
   EXPECT_EQ(changes, 1);

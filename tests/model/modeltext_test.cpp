@@ -115,6 +115,7 @@ void FillModel(TJCustomDBStructure& model) {
   model.SetSpecInfo({"[Cond:1]", "owner=dbo"});
   model.SQLFormats().SetQuoteSymbol1('[');
   model.SQLFormats().SetLowerFunc("");
+  model.SQLFormats().SetListFunction("");
   model.SQLFormats().SetQuotedTypes({ftString, ftGuid});
   model.DMOptions().SetMultiDB(true);
 }

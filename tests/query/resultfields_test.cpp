@@ -160,6 +160,12 @@ TEST_F(TResultFields, AggregatesAreToldByFirstFieldOrFormula) {
   EXPECT_TRUE(Add("@1", {"Quantity sold"}).GetAgregate());
   EXPECT_FALSE(Add("@1 + @2", {"Orders.Total", "Quantity sold"}).GetAgregate());
   EXPECT_FALSE(Add("upper(@1) + summ", {"Customers.City"}).GetAgregate());
+  EXPECT_FALSE(Add("group_concat(@1)", {"Customers.City"}).GetAgregate());
+  EXPECT_TRUE(Add("LIST(@1)", {"Customers.City"}).GetAgregate()) << "by the model's function for lists";
+  EXPECT_FALSE(Add("pricelist(@1) + price_list(@1)", {"Customers.City"}).GetAgregate());
+  model->SQLFormats().SetListFunction("Group_Concat(@1)");
+  EXPECT_TRUE(Add("1 + group_concat(@1, ';')", {"Customers.City"}).GetAgregate());
+  EXPECT_FALSE(Add("list(@1)", {"Customers.City"}).GetAgregate());
 }
 
 TEST_F(TResultFields, ExpressionsNameFieldsInBraces) {

@@ -9,6 +9,7 @@
 #include "support/shop_reference.h"
 #include <tolvi/foundation/files.h>
 #include <tolvi/foundation/text.h>
+#include <tolvi/panel/rfldeditor.h>
 #include <tolvi/query/querpnl.h>
 
 // Every sample query gives the rows of an independent formulation in SQL, in its literal and its bound form, with
@@ -78,6 +79,26 @@ TEST(ShopModel, IsWrittenAsItStands) {
   TJDBStructure model;
   model.LoadFromFile(Shop / "shop.model");
   EXPECT_EQ(ReplaceStr(model.GetStructString(), "\r\n", "\n"), ReadFile(Shop / "shop.model"));
+}
+
+TEST(ShopModel, ListsValuesByTheFunctionOfItsDatabase) {
+  TJDBStructure model;
+  model.LoadFromFile(Shop / "shop.model");
+  TJQueryPanel panel;
+  panel.SetDBStruct(&model);
+  TRFieldEditor editor(panel.RFields(), TTitles());
+  for (const char* name : {"Countries.Region", "Countries.CountryName"}) {
+    editor.Create(std::vector{model.FieldByName(fnFullName, name)});
+  }
+  editor.SetAggregate(agList);
+  panel.RFields().Assign(editor.Fields());
+  TShop shop;
+  TRows rows = shop.Rows(panel.GetQueryText());
+  TRows expected = shop.Rows("select Region, group_concat(CountryName) from Countries group by Region");
+  EXPECT_GT(rows.size(), 1u);
+  std::sort(rows.begin(), rows.end());
+  std::sort(expected.begin(), expected.end());
+  EXPECT_EQ(rows, expected) << panel.GetQueryText();
 }
 
 }  // namespace

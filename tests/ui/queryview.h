@@ -44,7 +44,7 @@ class QueryPanelView : public TUiTest {
     delete view;
   }
 
-  static void Settle() { QCoreApplication::processEvents(); }
+  static void Settle() { user::Settle(); }
 
   TSimpleCond& Add(const char* field, const char* op, const char* value, TFilterBracket* bracket = nullptr) {
     TFilterBracket& target = bracket != nullptr ? *bracket : panel->RootBracket();
@@ -76,25 +76,14 @@ class QueryPanelView : public TUiTest {
   void Enter(const QString& text) {
     Settle();
     ASSERT_NE(Popup(), nullptr);
-    QWidget* line = Popup()->focusProxy() != nullptr ? Popup()->focusProxy() : Popup();
-    if (auto* edit = qobject_cast<QLineEdit*>(line)) edit->selectAll();
-    for (const QChar letter : text) QTest::keyClick(line, letter.toLatin1());
+    user::TypeOver(text);
     PopupKey(Qt::Key_Return);
   }
   void ClickLabel(int row, const char* name, const QString& text) {
     Click(Label(row, name));
     Enter(text);
   }
-  void Choose(TPanelCommand command) {
-    Settle();
-    auto* menu = qobject_cast<QMenu*>(Popup());
-    ASSERT_NE(menu, nullptr);
-    for (QAction* action : menu->actions()) {
-      if (action->objectName() != ToQString(InfoOf(command).Name)) continue;
-      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-    }
-    Settle();
-  }
+  void Choose(TPanelCommand command) { ASSERT_TRUE(user::ChooseFromMenu(ToQString(InfoOf(command).Name))); }
   QString Menu() const {
     QString text;
     const auto* menu = qobject_cast<QMenu*>(Popup());

@@ -422,11 +422,12 @@ TEST_F(ResultFieldsPanel, TakesTitlesOverTheDefaultOnes) {
   EXPECT_EQ(Panel->GetTitles().Joined("|"),
             "ttlDelField=Delete current field|ttlMoveUp=Nach oben|ttlMoveDown=Move Down|ttlNotSorted=Not Sorted|"
             "ttlAscending=Ascending|ttlDescending=Descending|ttlClickToAdd=Neu");
-  EXPECT_EQ(Panel->property("titles").toStringList().size(), 7);
+  EXPECT_EQ(Panel->property("titles").toStringList(),
+            (QStringList{QStringLiteral("ttlMoveUp=Nach oben"), QStringLiteral("ttlClickToAdd=Neu")}));
   Panel->SetTitles(Panel->GetTitles());
   Panel->SetTitle("ttlNotSorted", QStringLiteral("Unsortiert"));
   EXPECT_EQ(Panel->GetTitle("ttlNotSorted"), QStringLiteral("Unsortiert"));
-  EXPECT_EQ(Panel->GetRowMenu()->actions().at(2)->text(), QStringLiteral("Move Up"));
+  EXPECT_EQ(Row(0).GetSortLabel().GetCaption(), QStringLiteral("Not Sorted"));
   Panel->Activate();
   EXPECT_EQ(Panel->GetRowMenu()->actions().at(2)->text(), QStringLiteral("Nach oben"));
   EXPECT_EQ(Row(0).GetSortLabel().GetCaption(), QStringLiteral("Unsortiert"));

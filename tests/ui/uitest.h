@@ -1,12 +1,9 @@
 // A window with real events: keys and clicks go through the window system, as those of a user do.
 #pragma once
 
-#include <QApplication>
-#include <QTest>
-#include <QWidget>
-#include <QWindow>
-
 #include <gtest/gtest.h>
+
+#include "userevents.h"
 
 namespace tolvi {
 
@@ -32,11 +29,8 @@ class TUiTest : public testing::Test {
     for (const QChar letter : text) QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
   }
 
-  static void Click(QWidget& widget, QPoint at) {
-    const QPoint inWindow = widget.mapTo(widget.window(), at);
-    QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow);
-  }
-  static void Click(QWidget& widget) { Click(widget, widget.rect().center()); }
+  static void Click(QWidget& widget, QPoint at) { user::Click(widget, at); }
+  static void Click(QWidget& widget) { user::Click(widget); }
 
   template <typename T>
   T& Place(T* widget, int x = 20, int y = 20) {
@@ -54,7 +48,7 @@ class TUiTest : public testing::Test {
     QCoreApplication::processEvents();
   }
 
-  static QWidget* Popup() { return QApplication::activePopupWidget(); }
+  static QWidget* Popup() { return user::Popup(); }
 
   QWidget window;
 };

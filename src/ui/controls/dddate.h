@@ -4,19 +4,22 @@
 
 namespace tolvi {
 
-enum class TDateKind { dkDate, dkTime, dkDateTime };
-
 /// A label that takes a date, a time or both: typed, or chosen in a calendar. The value is "yyyy-mm-dd", "hh:nn:ss", or
 /// both with a blank between; the caption is written by the display format. Both may be empty. A text that is no date
 /// can be accepted: it is kept as typed, in value and caption, and the label has a fault.
 class TDropDownDate : public TDropDownLabel {
   Q_OBJECT
   Q_PROPERTY(QString displayFormat READ GetDisplayFormat WRITE SetDisplayFormat)
+  Q_PROPERTY(TDateKind kind READ GetKind WRITE SetKind)
 
  public:
+  enum TDateKind { dkDate, dkTime, dkDateTime };
+  Q_ENUM(TDateKind)
+
   explicit TDropDownDate(QWidget* parent = nullptr) : TDropDownDate(TDateKind::dkDate, parent) {}
   explicit TDropDownDate(TDateKind kind, QWidget* parent = nullptr);
 
+  /// Default `dkDate`, unless it is constructed otherwise.
   TDateKind GetKind() const { return FKind; }
   void SetKind(TDateKind kind);
   /// A pattern of `FormatDateTime` made of yyyy yy mm dd hh nn ss and separators ("dd.mm.yyyy hh:nn"). Empty, the
@@ -38,5 +41,7 @@ class TDropDownDate : public TDropDownLabel {
   TDateKind FKind;
   QString FDisplayFormat;
 };
+
+using TDateKind = TDropDownDate::TDateKind;
 
 }  // namespace tolvi

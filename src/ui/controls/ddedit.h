@@ -4,17 +4,19 @@
 
 namespace tolvi {
 
-/// What is made of letters as they are typed.
-enum class TTextCase { tcNone, tcUpper, tcLower };
-
 /// A label that is edited as one line, in place. Value and caption are the text.
 class TDropDownEdit : public TDropDownLabel {
   Q_OBJECT
   Q_PROPERTY(QString inputMask READ GetInputMask WRITE SetInputMask)
   Q_PROPERTY(bool keepsMask READ GetKeepsMask WRITE SetKeepsMask)
   Q_PROPERTY(int maxLength READ GetMaxLength WRITE SetMaxLength)
+  Q_PROPERTY(TTextCase textCase READ GetTextCase WRITE SetTextCase)
 
  public:
+  /// What is made of letters as they are typed.
+  enum TTextCase { tcNone, tcUpper, tcLower };
+  Q_ENUM(TTextCase)
+
   using TDropDownLabel::TDropDownLabel;
 
   /// What is wrong with a text, for people; empty when it is good. Asked at every key: it is shown below the line. A
@@ -46,6 +48,8 @@ class TDropDownEdit : public TDropDownLabel {
   int FMaxLength = 0;
   bool FKeepsMask = true;
 };
+
+using TTextCase = TDropDownEdit::TTextCase;
 
 /// A label that is edited as several lines, in place. Enter begins a line, Ctrl+Enter accepts. The label shows the text
 /// as one line.

@@ -27,10 +27,10 @@ class TDropDownLabel : public QWidget {
   Q_PROPERTY(QString caption READ GetCaption WRITE SetCaption)
   Q_PROPERTY(QString value READ GetValue WRITE SetValue)
   Q_PROPERTY(QString placeholder READ GetPlaceholder WRITE SetPlaceholder)
-  Q_PROPERTY(QColor linkColor READ GetLinkColor WRITE SetLinkColor)
+  Q_PROPERTY(QColor linkColor READ GetLinkColor WRITE SetLinkColor RESET ResetLinkColor)
   Q_PROPERTY(bool underlined READ GetUnderlined WRITE SetUnderlined)
   Q_PROPERTY(bool readOnly READ GetReadOnly WRITE SetReadOnly)
-  Q_PROPERTY(QString fault READ GetFault WRITE SetFault)
+  Q_PROPERTY(QString fault READ GetFault WRITE SetFault DESIGNABLE false STORED false)
 
  public:
   explicit TDropDownLabel(QWidget* parent = nullptr);
@@ -50,6 +50,7 @@ class TDropDownLabel : public QWidget {
   /// Default: the palette's link colour (an invalid colour). Adjusted where it could not be read on the background.
   const QColor& GetLinkColor() const { return FLinkColor; }
   void SetLinkColor(const QColor& color);
+  void ResetLinkColor() { SetLinkColor({}); }
   /// Default true.
   bool GetUnderlined() const { return FUnderlined; }
   void SetUnderlined(bool on);

@@ -11,6 +11,8 @@ namespace tolvi {
 
 namespace {
 
+bool IsGroupLine(const QString& line) { return line.startsWith(u'[') && line.endsWith(u']'); }
+
 /// The values in a comma text, with those that no item has at the end.
 struct TChosen {
   std::vector<int> items;
@@ -43,6 +45,36 @@ void TDropDownList::SetItems(std::vector<TDropDownItem> items) {
   TellList();
 }
 
+QStringList TDropDownList::GetItemLines() const {
+  QStringList lines;
+  QString group;
+  for (const TDropDownItem& item : FItems) {
+    if (item.Group != group) lines << u'[' + item.Group + u']';
+    group = item.Group;
+    const bool plain = !item.Text.isEmpty() && !item.Text.contains(u'=') && !IsGroupLine(item.Text);
+    lines << (plain && item.Value == item.Text ? item.Text : item.Value + u'=' + item.Text);
+  }
+  return lines;
+}
+
+void TDropDownList::SetItemLines(const QStringList& lines) {
+  std::vector<TDropDownItem> items;
+  QString group;
+  for (const QString& line : lines) {
+    const qsizetype sign = line.indexOf(u'=');
+    if (IsGroupLine(line))
+      group = line.mid(1, line.size() - 2);
+    else if (!line.isEmpty())
+      items.push_back({group, sign < 0 ? line : line.left(sign), line.mid(sign + 1)});
+  }
+  const int index = FItemIndex >= 0 ? FItemIndex : FAwaitedIndex;
+  SetItems(std::move(items));
+  if (index >= 0)
+    SetItemIndex(index);
+  else if (FItemIndex >= 0 && GetCaption().isEmpty())
+    SetItemIndex(FItemIndex);
+}
+
 int TDropDownList::FindValue(const QString& value) const {
   const auto found = std::ranges::find(FItems, value, &TDropDownItem::Value);
   return found == FItems.end() ? -1 : static_cast<int>(found - FItems.begin());
@@ -53,12 +85,14 @@ void TDropDownList::SetItemIndex(int index) {
   const TDropDownItem item = inside ? FItems[static_cast<size_t>(index)] : TDropDownItem();
   TDropDownLabel::SetValue(item.Value);
   FItemIndex = inside ? index : -1;
+  if (FItems.empty()) FAwaitedIndex = index;
   SetCaption(item.Text);
 }
 
 void TDropDownList::SetValue(const QString& value) {
   TDropDownLabel::SetValue(value);
   FItemIndex = FindValue(value);
+  FAwaitedIndex = -1;
 }
 
 void TDropDownList::SetBusy(bool busy) {

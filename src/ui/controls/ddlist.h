@@ -20,6 +20,7 @@ struct TDropDownItem {
 /// ignoring case and accents; the arrow keys choose among them.
 class TDropDownList : public TDropDownLabel {
   Q_OBJECT
+  Q_PROPERTY(QStringList items READ GetItemLines WRITE SetItemLines)
   Q_PROPERTY(int itemIndex READ GetItemIndex WRITE SetItemIndex)
 
  public:
@@ -30,6 +31,11 @@ class TDropDownList : public TDropDownLabel {
   void SetItems(std::vector<TDropDownItem> items);
   void ClearItems() { SetItems({}); }
   const std::vector<TDropDownItem>& Items() const { return FItems; }
+  /// The items as lines "value=text", or "text" where both are the same, below lines "[group]"; "[]" ends a group. No
+  /// value has a "=". Setting keeps the item index, even one set before there were items, and shows the text that the
+  /// item has now: forms set properties in any order, and items again in another language.
+  QStringList GetItemLines() const;
+  void SetItemLines(const QStringList& lines);
 
   /// The item chosen; -1 for none. Setting it sets value and caption to those of the item, and empty ones for an index
   /// outside the list, which is taken as -1.
@@ -58,7 +64,7 @@ class TDropDownList : public TDropDownLabel {
   int FindValue(const QString& value) const;
 
   std::vector<TDropDownItem> FItems;
-  int FItemIndex = -1;
+  int FItemIndex = -1, FAwaitedIndex = -1;
   bool FBusy = false;
   QString FListFault;
 };

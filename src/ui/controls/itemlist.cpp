@@ -29,6 +29,12 @@ QFont HeadingFont(QFont font) {
 
 int TextMargin(const QFontMetrics& metrics) { return std::max(4, metrics.averageCharWidth() * 2 / 3); }
 
+/// In a line of the direction, a text keeps that of its own letters: "Total (€)" must not become "(€) Total".
+QString AsWritten(const QString& text, Qt::LayoutDirection direction) {
+  constexpr QChar firstStrongIsolate(0x2068), popIsolate(0x2069);
+  return text.isRightToLeft() == (direction == Qt::RightToLeft) ? text : firstStrongIsolate + text + popIsolate;
+}
+
 /// Paints headings and groups; the rest is the style's.
 class TRowPainter final : public QStyledItemDelegate {
  public:
@@ -64,6 +70,7 @@ class TRowPainter final : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
+    option->text = AsWritten(option->text, option->direction);
     if (option->features.testFlag(QStyleOptionViewItem::HasCheckIndicator)) {
       // Drawn by ourselves: those of styles neither grow with the font, nor can be seen on every palette.
       option->features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false);
@@ -102,8 +109,9 @@ class TRowPainter final : public QStyledItemDelegate {
     const QRect place = option.rect.adjusted(margin, 0, -margin, 0);
     const Qt::Alignment side = QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter;
     const QString heading = index.data(Qt::DisplayRole).toString();
-    painter.drawText(place, static_cast<int>(side) | Qt::TextSingleLine,
-                     QFontMetrics(painter.font()).elidedText(heading, Qt::ElideRight, place.width()));
+    painter.drawText(
+        place, static_cast<int>(side) | Qt::TextSingleLine,
+        AsWritten(QFontMetrics(painter.font()).elidedText(heading, Qt::ElideRight, place.width()), option.direction));
   }
 
   const bool FHeadings;
@@ -130,6 +138,7 @@ TItemList::TItemList(int options, QWidget* parent)
   FView->setFocusPolicy(Qt::NoFocus);
   FView->setMouseTracking(true);
   FView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  FView->setMinimumHeight(fontMetrics().height());  // lists of one item are as low as they can be
   FView->setEditTriggers(QAbstractItemView::NoEditTriggers);
   FView->setAccessibleName(tr("Items"));
   FTold->setTextFormat(Qt::PlainText);
@@ -292,7 +301,8 @@ QSize TItemList::sizeHint() const {
   size.setWidth(std::clamp(wanted, std::min(most, minChars * metrics.averageCharWidth()), most));
   if (layout()->hasHeightForWidth()) size.setHeight(layout()->heightForWidth(size.width()));
   if (const int rows = std::min(maxRows, FModel->rowCount()); rows > 0)
-    size.rheight() += rows * FView->sizeHintForRow(0) - FView->minimumSizeHint().height();
+    size.rheight() += rows * FView->sizeHintForRow(0) - FView->minimumHeight();
+  size.rheight() += contentsMargins().top() + contentsMargins().bottom();
   return size;
 }
 

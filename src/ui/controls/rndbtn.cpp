@@ -51,9 +51,7 @@ QSize TJRndBtn::sizeHint() const {
   return {std::max(height, metrics.size(Qt::TextShowMnemonic, text()).width() + height / 2), height};
 }
 
-int TJRndBtn::GetBaseline() const {
-  return (sizeHint().height() - fontMetrics().height()) / 2 + fontMetrics().ascent();
-}
+int TJRndBtn::GetBaseline() const { return (height() - fontMetrics().height()) / 2 + fontMetrics().ascent(); }
 
 void TJRndBtn::changeEvent(QEvent* event) {
   QPushButton::changeEvent(event);
@@ -99,7 +97,11 @@ void TJRndBtn::paintEvent(QPaintEvent*) {
   painter.setPen(isFlat() && !focused && !hovered && !pressed ? QPen(Qt::NoPen) : QPen(edge, width));
   painter.drawRoundedRect(frame, radius, radius);
   painter.setPen(isEnabled() ? ReadableColor(plain, face) : plain);
-  painter.drawText(rect(), static_cast<int>(Qt::AlignCenter) | Qt::TextShowMnemonic | Qt::TextSingleLine, text());
+  // On the line of labels that are as high: centred, the text might stand between two pixels.
+  QRect line = rect();
+  line.setTop(GetBaseline() - fontMetrics().ascent());
+  painter.drawText(line, static_cast<int>(Qt::AlignHCenter | Qt::AlignTop) | Qt::TextShowMnemonic | Qt::TextSingleLine,
+                   text());
 }
 
 }  // namespace tolvi

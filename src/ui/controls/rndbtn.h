@@ -34,7 +34,7 @@ class TJRndBtn : public QPushButton {
   /// Fits the text; never narrower than high, so that a single digit in a rounded button stands in a circle.
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
-  /// Of the text, when the button has the height of `sizeHint`: pixels from the top.
+  /// Of the text, in the height that the button has: pixels from the top.
   int GetBaseline() const;
 
  protected:

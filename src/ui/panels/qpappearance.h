@@ -10,11 +10,11 @@ namespace tolvi {
 /// read on the background. Sizes are in pixels; -1, the default, fits the font. The view takes changes at once.
 class TQPAppearance final : public QObject {
   Q_OBJECT
-  Q_PROPERTY(QColor linkWordColor READ GetLinkWordColor WRITE SetLinkWordColor)
-  Q_PROPERTY(QColor fieldColor READ GetFieldColor WRITE SetFieldColor)
-  Q_PROPERTY(QColor operatorColor READ GetOperatorColor WRITE SetOperatorColor)
-  Q_PROPERTY(QColor valueColor READ GetValueColor WRITE SetValueColor)
-  Q_PROPERTY(QColor parameterColor READ GetParameterColor WRITE SetParameterColor)
+  Q_PROPERTY(QColor linkWordColor READ GetLinkWordColor WRITE SetLinkWordColor RESET ResetLinkWordColor)
+  Q_PROPERTY(QColor fieldColor READ GetFieldColor WRITE SetFieldColor RESET ResetFieldColor)
+  Q_PROPERTY(QColor operatorColor READ GetOperatorColor WRITE SetOperatorColor RESET ResetOperatorColor)
+  Q_PROPERTY(QColor valueColor READ GetValueColor WRITE SetValueColor RESET ResetValueColor)
+  Q_PROPERTY(QColor parameterColor READ GetParameterColor WRITE SetParameterColor RESET ResetParameterColor)
   Q_PROPERTY(int leftMargin READ GetLeftMargin WRITE SetLeftMargin)
   Q_PROPERTY(int topMargin READ GetTopMargin WRITE SetTopMargin)
   Q_PROPERTY(int rowSpace READ GetRowSpace WRITE SetRowSpace)
@@ -53,6 +53,12 @@ class TQPAppearance final : public QObject {
   void SetValueColor(const QColor& color) { Set(FValueColor, color); }
   const QColor& GetParameterColor() const { return FParameterColor; }
   void SetParameterColor(const QColor& color) { Set(FParameterColor, color); }
+  /// Back to the default colour.
+  void ResetLinkWordColor() { SetLinkWordColor(TQPAppearance().FLinkWordColor); }
+  void ResetFieldColor() { SetFieldColor(TQPAppearance().FFieldColor); }
+  void ResetOperatorColor() { SetOperatorColor(TQPAppearance().FOperatorColor); }
+  void ResetValueColor() { SetValueColor(TQPAppearance().FValueColor); }
+  void ResetParameterColor() { SetParameterColor(TQPAppearance().FParameterColor); }
 
   /// Beside and above the rows, between rows, between the elements of a row, for each level of brackets.
   int GetLeftMargin() const { return FLeftMargin; }

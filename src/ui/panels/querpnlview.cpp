@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/panel/titlefiles.h>
 #include <tolvi/query/rowerror.h>
 #include <tolvi/ui/dialogs/titlesdlg.h>
 #include <tolvi/ui/panels/linklabel.h>
@@ -139,6 +140,14 @@ void TJQueryPanelView::PanelGone() {
 void TJQueryPanelView::SetCommandTitles(const TStrings& lines) {
   FCommandTitles.Assign(lines);
   Schedule();
+}
+
+QStringList TJQueryPanelView::GetCommandTitleLines() const {
+  return ToQStringList(ChangedTitles(TCommandTitles::DefaultLines(), FCommandTitles.Lines()));
+}
+
+void TJQueryPanelView::SetCommandTitleLines(const QStringList& lines) {
+  SetCommandTitles(TitlesFromFile(TCommandTitles::DefaultLines(), FromQStringList(lines)));
 }
 
 void TJQueryPanelView::SetAllowLocking(bool allow) {

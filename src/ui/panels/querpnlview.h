@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QStringList>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -45,17 +46,21 @@ struct TQPMetrics {
 /// Keys are those of the commands (`PanelCommands`). The commands are actions, too (`GetAction`), named like them.
 class TJQueryPanelView : public QAbstractScrollArea {
   Q_OBJECT
-  Q_PRIVATE_PROPERTY(FAppearance, QColor linkWordColor READ GetLinkWordColor WRITE SetLinkWordColor)
-  Q_PRIVATE_PROPERTY(FAppearance, QColor fieldColor READ GetFieldColor WRITE SetFieldColor)
-  Q_PRIVATE_PROPERTY(FAppearance, QColor operatorColor READ GetOperatorColor WRITE SetOperatorColor)
-  Q_PRIVATE_PROPERTY(FAppearance, QColor valueColor READ GetValueColor WRITE SetValueColor)
-  Q_PRIVATE_PROPERTY(FAppearance, QColor parameterColor READ GetParameterColor WRITE SetParameterColor)
+  Q_PRIVATE_PROPERTY(FAppearance,
+                     QColor linkWordColor READ GetLinkWordColor WRITE SetLinkWordColor RESET ResetLinkWordColor)
+  Q_PRIVATE_PROPERTY(FAppearance, QColor fieldColor READ GetFieldColor WRITE SetFieldColor RESET ResetFieldColor)
+  Q_PRIVATE_PROPERTY(FAppearance,
+                     QColor operatorColor READ GetOperatorColor WRITE SetOperatorColor RESET ResetOperatorColor)
+  Q_PRIVATE_PROPERTY(FAppearance, QColor valueColor READ GetValueColor WRITE SetValueColor RESET ResetValueColor)
+  Q_PRIVATE_PROPERTY(FAppearance,
+                     QColor parameterColor READ GetParameterColor WRITE SetParameterColor RESET ResetParameterColor)
   Q_PRIVATE_PROPERTY(FAppearance, int leftMargin READ GetLeftMargin WRITE SetLeftMargin)
   Q_PRIVATE_PROPERTY(FAppearance, int topMargin READ GetTopMargin WRITE SetTopMargin)
   Q_PRIVATE_PROPERTY(FAppearance, int rowSpace READ GetRowSpace WRITE SetRowSpace)
   Q_PRIVATE_PROPERTY(FAppearance, int elemSpace READ GetElemSpace WRITE SetElemSpace)
   Q_PRIVATE_PROPERTY(FAppearance, int indent READ GetIndent WRITE SetIndent)
   Q_PRIVATE_PROPERTY(FAppearance, tolvi::TQPAppearance::TQPAppearanceOptions options READ GetOptions WRITE SetOptions)
+  Q_PROPERTY(QStringList commandTitles READ GetCommandTitleLines WRITE SetCommandTitleLines)
   Q_PROPERTY(bool allowLocking READ GetAllowLocking WRITE SetAllowLocking)
 
  public:
@@ -74,6 +79,9 @@ class TJQueryPanelView : public QAbstractScrollArea {
   /// Texts of the commands; those of the sentences are the panel's titles.
   const TCommandTitles& GetCommandTitles() const { return FCommandTitles; }
   void SetCommandTitles(const TStrings& lines);
+  /// Only the texts that are not the default ones, without a section.
+  QStringList GetCommandTitleLines() const;
+  void SetCommandTitleLines(const QStringList& lines);
   /// Whether users may lock and unlock rows. Default false.
   bool GetAllowLocking() const { return FAllowLocking; }
   void SetAllowLocking(bool allow);

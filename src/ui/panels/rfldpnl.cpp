@@ -5,6 +5,7 @@
 
 #include <tolvi/foundation/consts.h>
 #include <tolvi/foundation/errors.h>
+#include <tolvi/panel/titlefiles.h>
 #include <tolvi/ui/dialogs/titlesdlg.h>
 #include <tolvi/ui/panels/rfldpnl.h>
 #include <tolvi/ui/qtext.h>
@@ -21,6 +22,10 @@ TJResultFieldsPanel::TJResultFieldsPanel(QWidget* parent)
   setWidgetResizable(true);
   setFocusPolicy(Qt::ClickFocus);
   setWidget(new QWidget);
+  for (QWidget* area : {viewport(), widget()}) {
+    area->setBackgroundRole(QPalette::Base);
+    area->setForegroundRole(QPalette::Text);
+  }
   FAddRowLabel = new TLinkLabel(widget());
   FAddRowLabel->SetLinkColor(QColor(0, 0, 255));
   FAddRowLabel->hide();
@@ -76,15 +81,14 @@ bool TJResultFieldsPanel::EditTitles() {
 QString TJResultFieldsPanel::GetTitle(std::string_view key) const { return ToQString(FTitles.Value(key)); }
 
 QStringList TJResultFieldsPanel::GetTitleLines() const {
-  QStringList lines;
-  for (const std::string& line : FTitles) lines.append(ToQString(line));
-  return lines;
+  return ToQStringList(ChangedTitles(DefaultRFPanelTitles(), FTitles));
 }
 
 void TJResultFieldsPanel::SetTitleLines(const QStringList& lines) {
-  TStrings titles;
-  for (const QString& line : lines) titles.Add(FromQString(line));
-  SetTitles(titles);
+  SetTitles(FromQStringList(lines));
+  if (!FActive) return;
+  BuildRowMenu();
+  RefreshFieldsList();
 }
 
 // Columns that refer to parts of the model, which may go at any time. While the model changes, nobody is told: who
@@ -164,6 +168,23 @@ void TJResultFieldsPanel::Refresh() {
   update();
 }
 
+bool TJResultFieldsPanel::EditFields(const TTitles& titles, TRFHelpEvent onHelp) {
+  if (FResultFields == nullptr) throw ERFPanelError(SDBStructureNotSpecified, {});
+  const QPointer<TJResultFieldsPanel> alive(this);
+  const QPointer<T_dlgRFieldEdit> dialog = new T_dlgRFieldEdit(*FResultFields, titles, std::move(onHelp), this);
+  const bool accepted = dialog->exec() == QDialog::Accepted;
+  if (!dialog) return false;
+  // The host may have given the panel another model meanwhile.
+  const bool fits =
+      accepted && FResultFields != nullptr && FResultFields->GetDBStruct() == dialog->GetFields().GetDBStruct();
+  if (fits) FResultFields->Assign(dialog->GetFields());
+  delete dialog;
+  if (!fits || !alive) return fits;
+  RefreshFieldsList();
+  Changed();
+  return true;
+}
+
 void TJResultFieldsPanel::ClearAll() {
   ClearRows();
   const QPointer<TJResultFieldsPanel> alive(this);
@@ -178,11 +199,15 @@ void TJResultFieldsPanel::AddEmptyRow() {
   if (FResultFields == nullptr) throw ERFPanelError(SDBStructureNotSpecified, {});
   TResultField& field = AppendResultField(*FResultFields, GetDBStruct());
   if (!alive) return;
+  // The focus goes from the label to the new row; hidden, the label would hand it to whatever follows the panel.
+  const bool hadFocus = FAddRowLabel->hasFocus();
+  if (hadFocus) widget()->setFocus(Qt::OtherFocusReason);
   FAddRowLabel->hide();
-  FRows.AddRow(field);
+  TResultFieldRow& row = FRows.AddRow(field);
   PlaceRows(FRows.Count() - 1);
   if (verticalScrollBar()->isVisible()) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
-  Changed();
+  if (hadFocus) FocusPart(row.GetPart(rpField));
+  if (alive) Changed();
 }
 
 void TJResultFieldsPanel::DeleteRow(std::size_t index) {

@@ -14,6 +14,8 @@
 #include <tolvi/foundation/strings.h>
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/query/resultfields.h>
+#include <tolvi/query/titles.h>
+#include <tolvi/ui/dialogs/rfldedlg.h>
 #include <tolvi/ui/panels/linklabel.h>
 #include <tolvi/ui/panels/rfldappearance.h>
 #include <tolvi/ui/panels/rfldrow.h>
@@ -41,8 +43,8 @@ class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   Q_PRIVATE_PROPERTY(FAppearance, int topMargin READ GetTopMargin WRITE SetTopMargin)
   Q_PRIVATE_PROPERTY(FAppearance, int rowSpace READ GetRowSpace WRITE SetRowSpace)
   Q_PRIVATE_PROPERTY(FAppearance, int elemSpace READ GetElemSpace WRITE SetElemSpace)
-  Q_PRIVATE_PROPERTY(FAppearance, QColor sortColor READ GetSortColor WRITE SetSortColor)
-  Q_PRIVATE_PROPERTY(FAppearance, QColor fieldColor READ GetFieldColor WRITE SetFieldColor)
+  Q_PRIVATE_PROPERTY(FAppearance, QColor sortColor READ GetSortColor WRITE SetSortColor RESET ResetSortColor)
+  Q_PRIVATE_PROPERTY(FAppearance, QColor fieldColor READ GetFieldColor WRITE SetFieldColor RESET ResetFieldColor)
   Q_PRIVATE_PROPERTY(FAppearance, tolvi::TRFPAppearance::TRFPAppearanceOptions options READ GetOptions WRITE SetOptions)
   Q_PRIVATE_PROPERTY(FAppearance, QString nameSeparator READ GetNameSeparator WRITE SetNameSeparator)
 
@@ -72,6 +74,7 @@ class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   /// Lets the user edit them; whether OK was chosen.
   bool EditTitles();
   void SetTitle(std::string_view key, const QString& text) { FTitles.SetValue(key, text.toStdString()); }
+  /// Only the texts that are not the default ones. Setting shows them at once.
   QStringList GetTitleLines() const;
   void SetTitleLines(const QStringList& lines);
 
@@ -93,6 +96,11 @@ class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   TResultFieldRow* GetLastRow() const { return FRows.Empty() ? nullptr : &FRows[FRows.Count() - 1]; }
   /// Whether the rows are being made anew from the columns.
   bool GetRefreshing() const { return FRefreshing; }
+
+  /// Lets the user edit the columns in a dialog; whether OK was chosen. Then the rows are made anew and `OnChange` is
+  /// fired once. The texts are those of "[Result Fields Editor]", the help button is shown only with a handler. Raises
+  /// `ERFPanelError` "DBStructure is not specified" without a model.
+  bool EditFields(const TTitles& titles = {}, TRFHelpEvent onHelp = {});
 
   /// Makes the rows anew from the columns.
   void Refresh();

@@ -1,0 +1,45 @@
+// The page of the result fields editor on which the order of the rows is chosen.
+#pragma once
+
+#include <QWidget>
+#include <string_view>
+class QCheckBox;
+class QMenu;
+class QPushButton;
+class QTableWidget;
+
+namespace tolvi {
+
+class TRFieldEditor;
+
+/// The columns that sort, the first sort key on top; they change places by dragging or Alt+Up and Alt+Down.
+class TRFSortingPage final : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// The editor must outlive the page.
+  TRFSortingPage(TRFieldEditor& editor, QWidget* parent);
+
+  void Refresh();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QString Title(std::string_view key) const;
+  void BuildTable();
+  void FillMenu();
+  void ShowRow(int row, std::size_t column);
+  void MakeSortingBox(int row);
+  void Choose(int row, int sorting);
+  void Move(int from, int to);
+
+  TRFieldEditor& FEditor;
+  QTableWidget* FTable;
+  QPushButton* FAdd;
+  QMenu* FMenu;
+  QCheckBox* FJustSorting;
+  bool FRefreshing = false;
+};
+
+}  // namespace tolvi

@@ -1,0 +1,140 @@
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPointer>
+#include <QWidget>
+#include <utility>
+
+#include <tolvi/ui/dialogs/signicon.h>
+
+namespace tolvi {
+namespace {
+
+// On a square of 16 units.
+
+void Line(QPainterPath& path, double x1, double y1, double x2, double y2) {
+  path.moveTo(x1, y1);
+  path.lineTo(x2, y2);
+}
+
+void Arrow(QPainterPath& path, double x, double from, double to) {
+  const double wing = to > from ? -3.5 : 3.5;
+  Line(path, x, from, x, to);
+  path.moveTo(x - 3.5, to + wing);
+  path.lineTo(x, to);
+  path.lineTo(x + 3.5, to + wing);
+}
+
+/// Three lines beside an arrow, the lengths growing or shrinking.
+void Sorted(QPainterPath& path, bool ascending) {
+  Arrow(path, 4, 2.5, 13.5);
+  for (int i = 0; i < 3; ++i) Line(path, 9.5, 4 + 4.0 * i, 10.5 + (ascending ? i : 2 - i) * 2, 4 + 4.0 * i);
+}
+
+void Turn(QPainterPath& path) {
+  path.moveTo(6, 2.5);
+  path.lineTo(2.5, 6);
+  path.lineTo(6, 9.5);
+  path.moveTo(2.5, 6);
+  path.cubicTo(13, 5, 14.5, 9, 12, 13.5);
+}
+
+QPainterPath PathOf(TSign sign) {
+  QPainterPath path;
+  switch (sign) {
+    case sgForward:
+      Line(path, 2, 8, 14, 8);
+      path.moveTo(9.5, 3.5);
+      path.lineTo(14, 8);
+      path.lineTo(9.5, 12.5);
+      break;
+    case sgDelete:
+      // A bin.
+      Line(path, 2.5, 4.5, 13.5, 4.5);
+      path.addPolygon(QPolygonF{{6.5, 4}, {6.5, 2}, {9.5, 2}, {9.5, 4}});
+      path.addPolygon(QPolygonF{{4, 5}, {5, 14}, {11, 14}, {12, 5}});
+      break;
+    case sgNew:
+      path.addRect(2.5, 2.5, 11, 11);
+      Line(path, 8, 5.5, 8, 10.5);
+      Line(path, 5.5, 8, 10.5, 8);
+      break;
+    case sgPlus:
+      Line(path, 8, 3, 8, 13);
+      [[fallthrough]];
+    case sgMinus:
+      Line(path, 3, 8, 13, 8);
+      break;
+    case sgTimes:
+      Line(path, 4.5, 4.5, 11.5, 11.5);
+      Line(path, 11.5, 4.5, 4.5, 11.5);
+      break;
+    case sgDivided:
+      Line(path, 3, 8, 13, 8);
+      path.addEllipse(QPointF(8, 4), 0.7, 0.7);
+      path.addEllipse(QPointF(8, 12), 0.7, 0.7);
+      break;
+    case sgNotSorted:
+      for (const double y : {4.0, 8.0, 12.0}) Line(path, 3, y, 13, y);
+      break;
+    case sgAscending:
+    case sgDescending:
+      Sorted(path, sign == sgAscending);
+      break;
+    case sgUp:
+      Arrow(path, 8, 13.5, 2.5);
+      break;
+    case sgDown:
+      Arrow(path, 8, 2.5, 13.5);
+      break;
+    case sgUndo:
+    case sgRedo:
+      Turn(path);
+      break;
+    case sgNone:
+      break;
+  }
+  return path;
+}
+
+class TSignEngine final : public QIconEngine {
+ public:
+  TSignEngine(TSign sign, const QWidget& owner) : FSign(sign), FOwner(&owner) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    const QPalette palette = FOwner ? FOwner->palette() : QGuiApplication::palette();
+    const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    const bool isMirrored = FSign == sgRedo || (FSign == sgForward && FOwner && FOwner->isRightToLeft());
+    const double unit = qMin(rect.width(), rect.height()) / 16.0;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(QRectF(rect).center());
+    painter->scale(isMirrored ? -unit : unit, unit);
+    painter->translate(-8, -8);
+    const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
+    painter->setPen(QPen(palette.color(group, role), 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPath(PathOf(FSign));
+    painter->restore();
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return pixmap;
+  }
+
+  QIconEngine* clone() const override { return new TSignEngine(*this); }
+
+ private:
+  const TSign FSign;
+  const QPointer<const QWidget> FOwner;
+};
+
+}  // namespace
+
+QIcon SignIcon(TSign sign, const QWidget& owner) { return QIcon(new TSignEngine(sign, owner)); }
+
+}  // namespace tolvi
