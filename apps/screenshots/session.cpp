@@ -128,7 +128,8 @@ class TMousePlayer final : public TPlayer {
   void Play() {
     AddCondition(0, 1, overFiveHundred);
     AddCondition(0, 2, thisYear);
-    Click(Conditions().GetAddRowLabel());
+    RightClick(Conditions().GetAddRowLabel());
+    Tell("menu");
     Choose(pcAddBracket);
     Click(Part(3, "linkWord"));
     ChooseItem(1);
@@ -148,6 +149,12 @@ class TMousePlayer final : public TPlayer {
   static void Click(QWidget& widget) {
     user::Settle();
     user::Click(widget);
+    user::Settle();
+  }
+
+  static void RightClick(QWidget& widget) {
+    user::Settle();
+    user::RightClick(widget);
     user::Settle();
   }
 
@@ -204,8 +211,6 @@ class TMousePlayer final : public TPlayer {
     const bool isFirst = &condition == &overFiveHundred;
     if (inside == 0) {
       Click(Conditions().GetAddRowLabel());
-      if (isFirst) Tell("menu");
-      Choose(pcAddCond);
     } else {
       Click(Row(inside).GetButton());
       Choose(pcAddCondInside);

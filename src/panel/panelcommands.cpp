@@ -25,7 +25,7 @@ constexpr TPanelCommandInfo Commands[] = {
     {pcAddCustomCond, "AddCustomCondition", "ttlCustomCond", "", "", "Adds one of the ready-made conditions",
      "Ctrl+Shift+Ins"},
     {pcDelete, "DeleteRow", "ttlDelRow", "", "", "Deletes the current row with all that is in it", "Del"},
-    {pcEnable, "EnableRow", "ttlEnableDisable", "", "", "Switches the current row on or off", "Space"},
+    {pcEnable, "EnableRow", "ttlEnableDisable", "", "", "Switches the current row on or off", "Ctrl+Space; Space"},
     {pcConstant, "ConstantValue", "ttlConstant", "", "", "The value is the one that is written here", "Ctrl+1"},
     {pcParameter, "ParameterValue", "ttlParameter", "", "", "The value is asked for each time the query runs",
      "Ctrl+2"},
@@ -239,7 +239,11 @@ constexpr TCommandRule Rules[] = {
      }},
     {pcDelete, [](const TEditor& editor, const TTarget& at) { return at.Row != nullptr && editor.CanDelete(*at.Row); },
      [](TEditor& editor, const TTarget& at) { editor.Delete(*at.Row); }},
-    {pcEnable, [](const TEditor& editor, const TTarget& at) { return at.Row != nullptr && editor.CanEdit(*at.Row); },
+    {pcEnable,
+     [](const TEditor& editor, const TTarget& at) {
+       // Without its root, a query would be one of all records.
+       return at.Row != nullptr && at.Row->GetParentBracket() != nullptr && editor.CanEdit(*at.Row);
+     },
      [](TEditor& editor, const TTarget& at) { editor.SetEnabled(*at.Row, !at.Row->GetEnabled()); }},
     {pcConstant, CanSetParam<false>, SetParam<false>},
     {pcParameter, CanSetParam<true>, SetParam<true>},
@@ -295,6 +299,17 @@ const TCommandRule* RuleOf(TPanelCommand command) {
 }  // namespace
 
 bool IsViewCommand(TPanelCommand command) { return RuleOf(command) == nullptr; }
+
+bool IsOn(const TPanelEditor& editor, TPanelCommand command, const TFilterRow* row, int argument) {
+  if (row == nullptr) return false;
+  if (command == pcEnable) return row->GetEnabled();
+  if (command == pcLock) return editor.IsLocked(*row);
+  if (row->GetRowType() == frtBracket || (argument != 1 && argument != 2)) return false;
+  if (command != pcConstant && command != pcParameter && command != pcSubQuery) return false;
+  const auto& condition = static_cast<const TFilterCond&>(*row);
+  if (condition.GetValueIsParam(argument)) return command == pcParameter;
+  return command == (condition.GetValueKind(argument) == vkSubQuery ? pcSubQuery : pcConstant);
+}
 
 bool CanRun(const TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument) {
   const TCommandRule* rule = RuleOf(command);

@@ -102,6 +102,8 @@ TStrings CommandHelp(const TCommandTitles& commandTitles, const TTitles& titles)
 /// condition for `pcAddCustomCond` (-1: any), the value's index, 1 or 2, for the kinds of values; else it means
 /// nothing. Commands about the parts of a row, and the choice among several predefined conditions, are the view's.
 bool CanRun(const TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument = -1);
+/// Whether the command is a switch, or one of several kinds of values, that is on for the row.
+bool IsOn(const TPanelEditor& editor, TPanelCommand command, const TFilterRow* row, int argument = -1);
 /// Runs the command; the panel may be gone then. False when it is not possible or for the view to do. Raises what
 /// `TPanelEditor` raises for texts that cannot be pasted.
 bool RunCommand(TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument = -1);

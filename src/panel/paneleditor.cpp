@@ -11,6 +11,10 @@ TPanelEditor::TPanelEditor(TJQueryPanel& panel) : FPanel([this] { ClearHistory()
   ClearHistory();
 }
 
+TPanelEditor::~TPanelEditor() {
+  while (FDepth-- > 0 && FPanel) FPanel->EndUpdate();
+}
+
 void TPanelEditor::ClearHistory() {
   FSteps.clear();
   FPosition = 0;
@@ -211,7 +215,10 @@ bool TPanelEditor::IsLocked(const TFilterRow& row) const {
   return false;
 }
 
-void TPanelEditor::SetLocked(TFilterRow& row, bool locked) { SetMark(FLocked, row, locked); }
+void TPanelEditor::SetLocked(TFilterRow& row, bool locked) {
+  if (locked && !HasMark(FLocked, row)) ClearHistory();
+  SetMark(FLocked, row, locked);
+}
 
 bool TPanelEditor::HoldsLocked(const TFilterRow& row) const {
   if (FLocked.empty()) return false;

@@ -45,6 +45,10 @@ class TPanelEditor final {
 
   /// The panel is not owned; when it goes, the editor is empty. History begins with the query as it is.
   explicit TPanelEditor(TJQueryPanel& panel);
+  TPanelEditor(const TPanelEditor&) = delete;
+  TPanelEditor& operator=(const TPanelEditor&) = delete;
+  /// Ends the steps that are open, so that the panel's events do not wait for ever.
+  ~TPanelEditor();
   TJQueryPanel* GetPanel() const { return FPanel.Get(); }
   /// Whether there is an active panel.
   bool IsActive() const { return FPanel && FPanel->GetActive(); }
@@ -71,10 +75,12 @@ class TPanelEditor final {
   // Locked and collapsed rows
 
   /// A locked row is shown, but can neither be changed, deleted nor moved, with all that is in it; brackets round it
-  /// keep their place, link word and state. Only the host locks. Default: none.
+  /// keep their place, link word and state. Only the host locks; the steps before, which could take the row away, are
+  /// forgotten then. Default: none.
   bool IsLocked(const TFilterRow& row) const;
   void SetLocked(TFilterRow& row, bool locked);
-  void ToggleLock(TFilterRow& row) { SetLocked(row, !HasMark(FLocked, row)); }
+  /// For users who may lock: undo goes on.
+  void ToggleLock(TFilterRow& row) { SetMark(FLocked, row, !HasMark(FLocked, row)); }
   /// Whether the row is locked or a row in it is.
   bool HoldsLocked(const TFilterRow& row) const;
   /// Whether users may lock and unlock rows by command. Default false.

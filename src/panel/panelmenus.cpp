@@ -25,18 +25,9 @@ constexpr TEntry RowEntries[] = {
     pcRedo,
 };
 constexpr TEntry AddEntries[] = {pcAddCond, pcAddBracket, pcAddCustomCond, Separator, pcPaste};
+// What is possible when a failed import has left the panel inactive.
+constexpr TEntry InactiveEntries[] = {pcUndo, pcRedo};
 constexpr TEntry ValueEntries[] = {pcConstant, pcParameter, pcSubQuery};
-
-/// What is not checked is no switch, or is off.
-bool IsChecked(const TPanelEditor& editor, TPanelCommand command, const TFilterRow* row, int argument) {
-  if (row == nullptr) return false;
-  if (command == pcEnable) return row->GetEnabled();
-  if (command == pcLock) return editor.IsLocked(*row);
-  if (command != pcConstant && command != pcParameter && command != pcSubQuery) return false;
-  const auto& condition = static_cast<const TFilterCond&>(*row);
-  if (condition.GetValueIsParam(argument)) return command == pcParameter;
-  return command == (condition.GetValueKind(argument) == vkSubQuery ? pcSubQuery : pcConstant);
-}
 
 /// A sentence with places for values as a caption.
 std::string ConditionCaption(const TDSCondition& condition) {
@@ -61,7 +52,11 @@ TPanelMenu CustomConditions(const TPanelEditor& editor, TFilterRow* row) {
 TPanelMenu MakeMenu(const TPanelEditor& editor, const TCommandTitles& titles, std::span<const TEntry> entries,
                     TFilterRow* row, int argument = -1) {
   TPanelMenu menu;
-  if (!editor.IsActive()) return menu;
+  if (editor.GetPanel() == nullptr) return menu;
+  if (!editor.IsActive()) {
+    if (!editor.CanUndo() && !editor.CanRedo()) return menu;
+    entries = InactiveEntries;
+  }
   for (const TEntry& entry : entries) {
     if (entry == pcLock && !editor.GetAllowLocking()) continue;
     TPanelMenuItem& item = menu.emplace_back();
@@ -71,7 +66,7 @@ TPanelMenu MakeMenu(const TPanelEditor& editor, const TCommandTitles& titles, st
     item.Argument = argument;
     item.Caption = titles.GetCaption(*entry, editor.GetPanel()->Titles());
     item.Enabled = CanRun(editor, *entry, row, argument);
-    item.Checked = IsChecked(editor, *entry, row, argument);
+    item.Checked = IsOn(editor, *entry, row, argument);
     if (*entry == pcAddCustomCond) item.Items = CustomConditions(editor, row);
   }
   return menu;

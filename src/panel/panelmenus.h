@@ -25,7 +25,7 @@ using TPanelMenu = std::vector<TPanelMenuItem>;
 
 /// The menu of a row: add after and inside, predefined conditions, delete, enable; then what else can be done with it.
 TPanelMenu RowMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterRow& row);
-/// The menu of the label at the end of the panel: add to the panel, paste.
+/// The menu of the label at the end of the panel: add to the panel, paste. Undo and redo for an inactive panel.
 TPanelMenu AddMenu(const TPanelEditor& editor, const TCommandTitles& titles);
 /// The menu of a value (1 or 2): what kind of value it is; the present one is checked.
 TPanelMenu ValueMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterCond& condition, int index);

@@ -192,6 +192,11 @@ TFilterRow* TJQueryPanel::RowByNum(int rowNum) const {
   }
 }
 
+void TJQueryPanel::SetView(TQueryPanelView* view) {
+  TQueryPanelView* old = std::exchange(FView, view);
+  if (old != nullptr && view != nullptr && old != view) old->ActiveChanged(false);
+}
+
 void TJQueryPanel::SetCurrentRow(TFilterRow* row) {
   if (FCurrentRow == row) return;
   FCurrentRow = row;

@@ -228,9 +228,10 @@ class TJQueryPanel : public TComponent, private TDSListener {
   /// be gone then. Views are told at once.
   void BeginUpdate() { HoldBack(); }
   void EndUpdate() { Release(); }
-  /// Null for none; must outlive the panel or be taken off.
+  /// Null for none; must outlive the panel or be taken off. A view that another one replaces is told that the panel is
+  /// inactive.
   TQueryPanelView* GetView() const { return FView; }
-  void SetView(TQueryPanelView* view) { FView = view; }
+  void SetView(TQueryPanelView* view);
   /// After any change of the query.
   TPanelEvent OnChange;
   TPanelEvent OnActiveChange;

@@ -97,6 +97,17 @@ TEST_F(Undo, SeveralChangesCanBeOneStep) {
   EXPECT_FALSE(FEditor.CanRedo());
 }
 
+TEST_F(Undo, DoesNotTakeRowsAwayThatTheHostHasLocked) {
+  Build("A");
+  FEditor.AddCondition({&FPanel.RootBracket(), 0});
+  FEditor.SetLocked(*FPanel.RowByNum(1), true);
+  EXPECT_FALSE(FEditor.CanUndo());
+  FEditor.SetAllowLocking(true);
+  FEditor.AddBracket({&FPanel.RootBracket(), 0});
+  FEditor.ToggleLock(*FPanel.RowByNum(1));
+  EXPECT_TRUE(FEditor.CanUndo());
+}
+
 TEST_F(Undo, RowsKeepWhatTheTextDoesNotHold) {
   Build("A (B C) D");
   FPanel.RowByNum(1)->SetHidden(true);

@@ -56,9 +56,9 @@ TEST_F(QueryPanelView, BuildsTheSameQueryByKeysAndByMouse) {
     ClickLabel(row, "value1", QLatin1String(value));
   };
   Click(view->GetAddRowLabel());
-  Choose(pcAddCond);
+  Settle();
   fill(1, "Total", "is greater than", "500");
-  Click(view->GetAddRowLabel());
+  user::RightClick(view->GetAddRowLabel());
   Choose(pcAddBracket);
   ClickLabel(2, "linkWord", QStringLiteral("any"));
   for (const int row : {3, 4}) {
@@ -67,7 +67,7 @@ TEST_F(QueryPanelView, BuildsTheSameQueryByKeysAndByMouse) {
     fill(row, "City", "is equal", row == 3 ? "Berlin" : "Paris");
   }
   Click(view->GetAddRowLabel());
-  Choose(pcAddCond);
+  Settle();
   fill(5, "Sale date", "is between", "2026-01-01");
   ClickLabel(5, "value2", QStringLiteral("2026-12-31"));
   EXPECT_EQ(Phrases(), orders);
@@ -179,6 +179,35 @@ TEST_F(QueryPanelView, OpensMenusWithWhatIsPossible) {
   EXPECT_FALSE(static_cast<TFilterCond*>(panel->RowByNum(1))->GetValueIsParam(1));
 }
 
+TEST_F(QueryPanelView, KeepsItsActionsToWhatIsPossible) {
+  const auto state = [this](TPanelCommand command) {
+    const QAction& action = view->GetAction(command);
+    return std::string(action.isEnabled() ? "on" : "off") + (action.isChecked() ? ", checked" : "");
+  };
+  EXPECT_EQ(state(pcUndo) + " " + state(pcDelete), "off off");
+  Press(Qt::Key_Insert);
+  EXPECT_EQ(state(pcUndo) + " " + state(pcDelete), "on on");
+  EXPECT_EQ(state(pcEnable) + " " + state(pcConstant) + " " + state(pcParameter), "on, checked on, checked on");
+  Press(Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(state(pcEnable), "on");
+  Press(Qt::Key_Home);
+  EXPECT_EQ(state(pcEnable) + " " + state(pcDelete), "off off") << "the root stays, with all its rows off";
+  view->GetAddRowLabel().setFocus();
+  EXPECT_EQ(state(pcEnable) + " " + state(pcAddCond), "off on");
+
+  // An import that fails leaves nothing to click, but can be taken back.
+  EXPECT_THROW(panel->ParseSQL("select"), EException);
+  Settle();
+  EXPECT_TRUE(view->Rows().empty());
+  view->setFocus();
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), view->viewport()->mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(view->viewport(), &event);
+  EXPECT_EQ(Menu(), QStringLiteral("&Undo\n!&Redo\n"));
+  PopupKey(Qt::Key_Escape);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(view->Rows().size(), 2u);
+}
+
 TEST_F(QueryPanelView, LeadsTheFocusThroughRowsAndOut) {
   TFilterBracket& bracket = panel->AddBracket(panel->RootBracket());
   Add("Customers.City", "Equal", "A", &bracket);
@@ -205,6 +234,11 @@ TEST_F(QueryPanelView, LeadsTheFocusThroughRowsAndOut) {
   EXPECT_EQ(panel->GetCurrentRow(), &bracket);
   Press(Qt::Key_Plus);
   EXPECT_EQ(view->GetRowWidgetCount(), 3u);
+
+  // A click beside the words, too, makes the row the current one.
+  Click(Row(1), {Row(1).width() / 2, Row(1).height() / 2});
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(panel->RootBracket().GetRowCount(), 0u);
 }
 
 TEST_F(QueryPanelView, IsAListOfSentencesToScreenReaders) {
@@ -234,6 +268,32 @@ TEST_F(QueryPanelView, KeepsWidgetsForTheRowsInSightOnly) {
   EXPECT_GT(view->verticalScrollBar()->value(), 0);
   EXPECT_LT(view->GetRowWidgetCount(), 60u);
   EXPECT_EQ(told, 0);
+}
+
+TEST_F(QueryPanelView, FollowsWhatAProgramDoesMeanwhile) {
+  TFilterRow& typed = Add("Customers.City", "Equal", "abc");
+  Settle();
+  const int narrow = Row(1).GetButton().width();
+  Click(Label(1, "value1"));
+  Settle();
+  Type(QStringLiteral("new"));
+  for (int i = 0; i < 120; ++i) panel->AddCondition(panel->RootBracket(), FieldOf(*model, "Customers.City"));
+  while (typed.MoveDown()) {
+  }
+  Settle();
+  ASSERT_NE(Popup(), nullptr) << "what is being typed stays";
+  PopupKey(Qt::Key_Return);
+  EXPECT_TRUE(Phrases().ends_with(" City is equal to new\n")) << Phrases();
+  EXPECT_GT(Row(static_cast<int>(panel->RootBracket().GetRowCount())).GetButton().width(), narrow);
+
+  // Another view takes the panel over.
+  TJQueryPanelView other(&window);
+  other.SetQueryPanel(panel.get());
+  EXPECT_EQ(view->GetQueryPanel(), nullptr);
+  panel->ClearRows();
+  Settle();
+  EXPECT_EQ(other.Rows().size(), 1u);
+  EXPECT_EQ(view->GetRowWidgetCount(), 0u);
 }
 
 TEST_F(QueryPanelView, OutlivesPanelAndModelAndIsDestroyedByHandlers) {
@@ -269,6 +329,35 @@ TEST_F(QueryPanelView, OutlivesPanelAndModelAndIsDestroyedByHandlers) {
   };
   std::unique_ptr<TJQueryPanel> owned(panel.get());
   Press(Qt::Key_Insert);
+  EXPECT_EQ(view, nullptr);
+}
+
+TEST_F(QueryPanelView, MayBeDestroyedOrGetAnotherPanelWhileAHostEdits) {
+  FieldOf(*model, "Customers.City").SetEditType(etCustom);
+  TJQueryPanel next;
+  next.SetDBStruct(model.get());
+  next.SetActive(true);
+  Add("Customers.City", "Equal", "A");
+  int changes = 0;
+  panel->OnChange = [&changes](TJQueryPanel&) { ++changes; };
+  view->OnCustomEdit = [&next](TJQueryPanelView& sender, TFilterCond& condition, int index) {
+    condition.SetValue(index, "B");
+    sender.SetQueryPanel(&next);
+  };
+  Settle();
+  Click(Label(1, "value1"));
+  Settle();
+  EXPECT_EQ(changes, 1);
+  panel->AddBracket(panel->RootBracket());
+  EXPECT_EQ(changes, 2) << "the old panel's events come again";
+  Press(Qt::Key_Insert);
+  EXPECT_TRUE(view->GetEditor()->CanUndo());
+
+  view->SetQueryPanel(panel.get());
+  view->OnCustomEdit = [this](TJQueryPanelView&, TFilterCond&, int) { delete std::exchange(view, nullptr); };
+  Settle();
+  Click(Label(1, "value1"));
+  Settle();
   EXPECT_EQ(view, nullptr);
 }
 

@@ -18,6 +18,10 @@ inline void Click(QWidget& widget, QPoint at) {
   QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, widget.mapTo(widget.window(), at));
 }
 inline void Click(QWidget& widget) { Click(widget, widget.rect().center()); }
+inline void RightClick(QWidget& widget) {
+  QTest::mouseClick(widget.window()->windowHandle(), Qt::RightButton, {},
+                    widget.mapTo(widget.window(), widget.rect().center()));
+}
 
 inline void Press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   Settle();

@@ -21,6 +21,11 @@ QList<QKeySequence> KeysOf(const TPanelCommandInfo& info, bool rightToLeft) {
   return keys;
 }
 
+/// Whether the command switches something on and off, or chooses one of several kinds.
+bool IsSwitch(TPanelCommand command) {
+  return command == pcEnable || command == pcLock || (command >= pcConstant && command <= pcSubQuery);
+}
+
 /// The key without what tells keyboards apart: the number block, and Shift for signs that need it on some.
 QKeySequence PlainKey(const QKeyEvent& event) {
   Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
@@ -35,6 +40,7 @@ TQPActions::TQPActions(QObject* parent, TRun run) : QObject(parent) {
     auto* action = new QAction(parent);
     action->setObjectName(ToQString(info.Name));
     action->setShortcutContext(Qt::WidgetShortcut);
+    action->setCheckable(IsSwitch(info.Command));
     connect(action, &QAction::triggered, this, [run, command = info.Command] { run(command); });
     FActions.push_back(action);
   }
@@ -78,7 +84,7 @@ void TQPActions::FillMenu(QMenu& menu, const TPanelMenu& items,
       const QAction& command = Get(item.Command);
       action->setObjectName(command.objectName());
       action->setEnabled(item.Enabled);
-      action->setCheckable(item.Checked || item.Command == pcEnable || item.Command == pcLock);
+      action->setCheckable(IsSwitch(item.Command));
       action->setChecked(item.Checked);
       action->setWhatsThis(command.whatsThis());
       if (&menu == menu.window() && item.Argument < 0) {

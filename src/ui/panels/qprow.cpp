@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <utility>
@@ -69,6 +70,8 @@ TQPRow::TQPRow(TJQueryPanelView& view, TFilterRow& row, QWidget* parent)
   if (row.GetRowType() != frtBracket) return;
   FTriangle = new TQPTriangle(this);
   connect(FTriangle, &QAbstractButton::clicked, this, [this] {
+    if (FRow == nullptr) return;
+    FView.FocusRow(*FRow, 0);
     if (FRow != nullptr) FView.ToggleCollapsed(*FRow);
   });
 }
@@ -158,6 +161,7 @@ TQPRow::TPart TQPRow::TakePart(std::vector<TPart>& parts, const TPhrasePart& phr
 void TQPRow::ShowPart(TPart& part, const TPhrasePart& phrase) {
   part.Text = ToQString(phrase.Text);
   part.SpaceBefore = phrase.SpaceBefore;
+  part.IsElided = phrase.Kind == pkSQL;
   if (!IsLabel(part.Kind)) return;
   if (part.Label == nullptr) part.Label = MakeLabel(part);
   if (part.Label->IsDroppedDown()) return;
@@ -208,7 +212,6 @@ void TQPRow::Refresh() {
   const TQPAppearance::TQPAppearanceOptions options = FView.GetAppearance().GetOptions();
   FButton->SetFlat(options.testFlag(TQPAppearance::aoFlatButtons));
   FButton->SetRounded(options.testFlag(TQPAppearance::aoRoundButtons));
-  ShowSigns();
   if (sentence != FSentence) {
     FSentence = sentence;
     FButton->setAccessibleName(sentence);
@@ -216,15 +219,22 @@ void TQPRow::Refresh() {
     QAccessibleEvent told(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&told);
   }
+  ShowSigns();
   UpdateColors();
 }
 
 void TQPRow::ShowSigns() {
   const TPanelEditor& editor = *FView.GetEditor();
   FLocked = editor.IsLocked(*FRow);
-  const QString lockedText = FLocked ? tr("The row is locked: it cannot be changed here") : QString();
-  setToolTip(lockedText);
-  FButton->setAccessibleDescription(lockedText);
+  QString told;
+  if (FLocked) {
+    told = tr("The row is locked: it cannot be changed here");
+  } else if (editor.HoldsLocked(*FRow)) {
+    told = tr("The bracket holds a locked row: it cannot be changed here");
+  }
+  FButton->setAccessibleDescription(told);
+  const bool isElided = std::any_of(FParts.begin(), FParts.end(), [](const TPart& part) { return part.IsElided; });
+  setToolTip(told.isEmpty() && isElided ? FSentence : told);
   if (FTriangle == nullptr) return;
   const bool isCollapsed = editor.IsCollapsed(*FRow);
   FTriangle->SetCollapsed(isCollapsed);
@@ -235,7 +245,6 @@ void TQPRow::ShowSigns() {
 
 void TQPRow::SetPlace(int level, int number) {
   FLevel = level;
-  FNumber = number;
   const bool numbers = FView.GetAppearance().GetOptions().testFlag(TQPAppearance::aoRowNumbers);
   FButton->SetText(numbers && number > 0 ? QString::number(number) : QStringLiteral("•"));
 }
@@ -337,6 +346,11 @@ void TQPRow::TakePartValue(TDropDownLabel& label, const TPart& part) {
 }
 
 // Focus
+
+// Wherever the row is clicked, it becomes the current one.
+void TQPRow::mousePressEvent(QMouseEvent* event) {
+  if (FRow != nullptr && event->button() == Qt::LeftButton) FView.FocusRow(*FRow, 0);
+}
 
 int TQPRow::GetPartCount() const {
   const auto labels = std::count_if(FParts.begin(), FParts.end(), [](const TPart& part) { return part.Label; });

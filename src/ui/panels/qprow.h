@@ -58,6 +58,7 @@ class TQPRow final : public QWidget {
 
  protected:
   bool event(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -100,7 +101,7 @@ class TQPRow final : public QWidget {
   TQPTriangle* FTriangle = nullptr;
   std::vector<TPart> FParts;
   QString FSentence, FValueBefore;
-  int FLevel = 0, FNumber = 0;
+  int FLevel = 0;
   bool FCurrent = false, FOff = false, FLocked = false;
   QRect FLockPlace;
 };

@@ -140,7 +140,7 @@ void TQPRow::paintEvent(QPaintEvent*) {
 // Words as they are; SQL in a frame of its own.
 void TQPRow::PaintPart(QPainter& painter, const TPart& part) const {
   const QColor background = palette().color(backgroundRole()), text = palette().color(QPalette::Text);
-  const QColor color = part.IsElided ? MixedColor(text, background, 0.75) : ColorOf(part);
+  const QColor color = part.IsElided && part.Kind == pkText ? MixedColor(text, background, 0.75) : ColorOf(part);
   QColor ground = background;
   if (part.Kind == pkSQL) {
     ground = MixedColor(text, background, 0.06);

@@ -45,6 +45,8 @@ class TJQueryPanelView::TSink final : public TQueryPanelView {
   void ResultFieldsChanged() override { FView.Schedule(); }
   void TitlesChanged() override { FView.Schedule(); }
   void ActiveChanged(bool) override {
+    // Another view shows the panel now.
+    if (FView.FPanel && FView.FPanel->GetView() != this) return FView.SetQueryPanel(nullptr);
     FView.ReleaseWidgets(nullptr);
     FView.FBringCurrent = true;
     Reshape();
@@ -97,7 +99,10 @@ TJQueryPanelView::TJQueryPanelView(QWidget* parent)
   FAddLabel->setObjectName(QStringLiteral("addRowLabel"));
   FAddLabel->installEventFilter(this);
   FAddLabel->hide();
-  connect(FAddLabel, &QAbstractButton::clicked, this, [this] { OpenAddMenu(); });
+  connect(FAddLabel, &QAbstractButton::clicked, this, [this] {
+    FAddLabel->setFocus();
+    if (!RunCommand(pcAddCond)) OpenAddMenu();
+  });
 }
 
 TJQueryPanelView::~TJQueryPanelView() {
@@ -111,6 +116,7 @@ void TJQueryPanelView::SetQueryPanel(TJQueryPanel* panel) {
   if (FPanel && FPanel->GetView() == FSink.get()) FPanel->SetView(nullptr);
   ReleaseWidgets(nullptr);
   FEditor.reset();
+  ++FSession;
   FPanel.Set(panel);
   FRows.clear();
   FRowsStale = true;
@@ -236,6 +242,8 @@ void TJQueryPanelView::CollectRows() {
   if (FEditor && FPanel) {
     for (TFilterRow* row : FEditor->VisibleRows()) FRows.push_back({row, row->GetRowLevel()});
   }
+  FContentWidth = 0;
+  if (DigitsOfRows() != FDigits) FMeasured = false;
   FRowsStale = false;
 }
 
@@ -257,6 +265,7 @@ void TJQueryPanelView::ShowChanges() {
   for (const auto& [serial, widget] : FWidgets) widget->Refresh();
   PlaceRows();
   RestoreFocus();
+  UpdateActions();
   FNewRow = 0;
   FShowing = false;
 }
@@ -264,6 +273,7 @@ void TJQueryPanelView::ShowChanges() {
 void TJQueryPanelView::Edit(TFilterRow& row, const std::function<void()>& change) {
   if (!FEditor || !FEditor->CanEdit(row)) return Schedule();
   const QPointer<TJQueryPanelView> self(this);
+  const int session = FSession;
   QString fault;
   Schedule();
   FEditor->BeginStep();
@@ -272,7 +282,8 @@ void TJQueryPanelView::Edit(TFilterRow& row, const std::function<void()>& change
   } catch (const std::exception& error) {
     fault = QString::fromUtf8(error.what());
   }
-  FEditor->EndStep();
+  // The host's handlers may have destroyed the view, or given it another panel.
+  if (self && FSession == session) FEditor->EndStep();
   if (self && !fault.isEmpty()) ShowError(fault);
 }
 

@@ -37,7 +37,7 @@ struct TQPMetrics {
 ///   TJQueryPanelView view;
 ///   view.SetQueryPanel(&panel);
 ///
-/// 1. The panel is not owned; when it goes, the view is empty. A panel has one view.
+/// 1. The panel is not owned; when it goes, or gets another view, the view is empty.
 /// 2. Changes are shown together when the program is back in its event loop (`ShowChanges`: at once). Those that a
 ///    program makes become a step of undo then.
 /// 3. Only the rows in sight have widgets.
@@ -168,6 +168,7 @@ class TJQueryPanelView : public QAbstractScrollArea {
   void ReleaseWidgets(const TFilterRow* within);
   void CollectRows();
   void Measure();
+  qsizetype DigitsOfRows() const;
   void PlaceRows();
   void PlaceAddLabel();
   // The model; what is kept of another one, or of an earlier revision, is dropped.
@@ -177,6 +178,8 @@ class TJQueryPanelView : public QAbstractScrollArea {
   void BringIntoView(std::size_t index);
   bool HasFocusInside() const;
   TFilterRow* TargetRow() const;
+  int TargetValue() const;
+  void UpdateActions();
   bool RunViewCommand(TPanelCommand command);
   bool GoToRow(TPanelCommand command);
   bool GoToPart(bool next, bool beyond);
@@ -192,6 +195,8 @@ class TJQueryPanelView : public QAbstractScrollArea {
   std::unique_ptr<TSink> FSink;
   TRef<TJQueryPanel> FPanel;
   std::unique_ptr<TPanelEditor> FEditor;
+  // Another number for each panel.
+  int FSession = 0;
   std::unique_ptr<TQPAppearance> FAppearance;
   TCommandTitles FCommandTitles;
   bool FAllowLocking = false;
@@ -208,6 +213,8 @@ class TJQueryPanelView : public QAbstractScrollArea {
   // The serial number of the row that came last, and the part of the current row that has, or had, the focus.
   std::uint64_t FNewRow = 0;
   int FPart = 0, FContentWidth = 0;
+  // Of the row numbers for which there is room.
+  qsizetype FDigits = 0;
   // What is kept of the model, of which revision of which model it is.
   std::unique_ptr<TFieldNames> FNames;
   std::optional<std::vector<TDropDownItem>> FFieldItems;

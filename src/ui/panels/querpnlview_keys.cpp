@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <algorithm>
+#include <limits>
 
 #include <tolvi/ui/panels/linklabel.h>
 #include <tolvi/ui/panels/qpdrag.h>
@@ -79,7 +80,9 @@ void TJQueryPanelView::PartFocused(TQPRow& row, int part) {
   TFilterRow* own = row.GetRow();
   if (own == nullptr || part < 0 || FShowing) return;
   FPart = part;
+  const QPointer<TJQueryPanelView> self(this);
   if (FPanel && FPanel->GetCurrentRow() != own) FPanel->SetCurrentRow(own);
+  if (self) UpdateActions();
 }
 
 // Who comes to the view gets to the current row, or else makes the first one current.
@@ -204,16 +207,34 @@ bool TJQueryPanelView::RunViewCommand(TPanelCommand command) {
   }
 }
 
+// Of the current row: the value that has the focus, else the first one.
+int TJQueryPanelView::TargetValue() const {
+  const TQPRow* focused = FocusedRow();
+  return focused != nullptr ? std::max(1, focused->ValueOfPart(focused->IndexOfPart(QApplication::focusWidget()))) : 1;
+}
+
+void TJQueryPanelView::UpdateActions() {
+  TFilterRow* row = TargetRow();
+  const int value = row != nullptr && row->GetRowType() != frtBracket ? TargetValue() : -1;
+  for (const TPanelCommandInfo& info : PanelCommands()) {
+    const bool isOfValue = info.Command >= pcConstant && info.Command <= pcSubQuery;
+    const int argument = isOfValue ? value : -1;
+    // The clipboard is looked at when it is needed.
+    const bool isPossible =
+        FEditor && (info.Command == pcPaste ? FEditor->IsActive() : CanRun(*FEditor, info.Command, row, argument));
+    QAction& action = FActions->Get(info.Command);
+    action.setEnabled(isPossible);
+    action.setChecked(action.isCheckable() && FEditor && IsOn(*FEditor, info.Command, row, argument));
+  }
+}
+
 bool TJQueryPanelView::RunCommand(TPanelCommand command, int argument) {
-  if (!FEditor || !FEditor->IsActive()) return false;
+  // A failed import leaves the panel inactive.
+  if (!FEditor || (!FEditor->IsActive() && command != pcUndo && command != pcRedo)) return false;
   ShowChanges();
   if (command >= pcPrevRow && command <= pcLastRow) return GoToRow(command);
   TFilterRow* row = TargetRow();
-  if (argument < 0 && command >= pcConstant && command <= pcSubQuery) {
-    const TQPRow* focused = FocusedRow();
-    argument =
-        focused != nullptr ? std::max(1, focused->ValueOfPart(focused->IndexOfPart(QApplication::focusWidget()))) : 1;
-  }
+  if (argument < 0 && command >= pcConstant && command <= pcSubQuery) argument = TargetValue();
   if (!CanRun(*FEditor, command, row, argument)) return false;
   const QPointer<TJQueryPanelView> self(this);
   bool done = false;
@@ -240,12 +261,12 @@ bool TJQueryPanelView::RunKey(QKeyEvent& event) {
   const std::optional<TPanelCommand> command = FActions->CommandOf(event);
   if (!command || !FEditor) return false;
   const bool onPart = QApplication::focusWidget() != this;
-  if (onPart && (command == pcEnable || command == pcOpenPart) &&
+  if (onPart && command == pcEnable && !(event.modifiers() & Qt::ControlModifier)) return false;
+  if (onPart && command == pcOpenPart &&
       (event.key() != Qt::Key_F2 || qobject_cast<TDropDownLabel*>(QApplication::focusWidget()) != nullptr)) {
     return false;
   }
   if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) return false;
-  const QPointer<TJQueryPanelView> self(this);
   RunCommand(*command);
   return true;
 }
@@ -268,6 +289,7 @@ bool TJQueryPanelView::eventFilter(QObject* watched, QEvent* event) {
         PartFocused(*row, row->IndexOfPart(watched));
         return !self;
       }
+      if (watched == FAddLabel && !FShowing) UpdateActions();
       return false;
     default:
       return QAbstractScrollArea::eventFilter(watched, event);
@@ -334,8 +356,10 @@ void TJQueryPanelView::contextMenuEvent(QContextMenuEvent* event) {
   ShowChanges();
   const std::size_t index = RowAt(viewport()->mapFromGlobal(event->globalPos()).y());
   event->accept();
-  if (event->reason() == QContextMenuEvent::Keyboard) {
-    RunCommand(pcRowMenu);
+  if (FRows.empty()) {
+    if (FEditor) OpenMenu(AddMenu(*FEditor, FCommandTitles), 0, event->globalPos());
+  } else if (event->reason() == QContextMenuEvent::Keyboard) {
+    if (!RunCommand(pcRowMenu)) OpenAddMenu();
   } else if (index >= FRows.size()) {
     OpenAddMenu();
   } else if (TQPRow* row = RowWidget(*FRows[index].Row)) {

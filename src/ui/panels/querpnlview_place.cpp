@@ -18,6 +18,10 @@ constexpr int rowsBeyond = 2;  // rows that have widgets above and below those i
 
 }  // namespace
 
+qsizetype TJQueryPanelView::DigitsOfRows() const {
+  return QString::number(std::max<std::size_t>(FRows.size(), 10)).size();
+}
+
 void TJQueryPanelView::Measure() {
   ensurePolished();
   TJRndBtn button(QStringLiteral("0"), viewport());
@@ -43,9 +47,9 @@ void TJQueryPanelView::Measure() {
   FMetrics.ElemSpace = orElse(FAppearance->GetElemSpace(), std::max(2, wide / 2));
   FMetrics.Baseline = above + FMetrics.RowSpace / 2;
   FMetrics.RowHeight = above + below + FMetrics.RowSpace;
-  const auto digits = QString::number(std::max<std::size_t>(FRows.size(), 10)).size();
+  FDigits = DigitsOfRows();
   FMetrics.ButtonWidth = std::max(
-      button.sizeHint().width() - fonts.horizontalAdvance(u'0') + fonts.horizontalAdvance(QString(digits, u'0')),
+      button.sizeHint().width() - fonts.horizontalAdvance(u'0') + fonts.horizontalAdvance(QString(FDigits, u'0')),
       button.sizeHint().height());
   FMetrics.Indent = orElse(FAppearance->GetIndent(), FMetrics.ButtonWidth + wide);
   FMeasured = true;
@@ -106,8 +110,8 @@ void TJQueryPanelView::PlaceRows() {
     const auto own = FWidgets.find(row.GetSerial());
     TQPRow* widget = own != FWidgets.end() ? own->second : nullptr;
     const bool isNear = i >= first && i <= last;
-    // The part that has the focus stays, wherever it is.
-    if (!isNear && (widget == nullptr || !widget->isAncestorOf(QApplication::focusWidget()))) continue;
+    // The part that has the focus stays, wherever it is; while its editor is open, it has that of the window only.
+    if (!isNear && (widget == nullptr || !widget->isAncestorOf(window()->focusWidget()))) continue;
     const bool isNew = widget == nullptr;
     if (isNew) {
       widget = new TQPRow(*this, row, viewport());
