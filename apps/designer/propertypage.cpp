@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFontDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -41,11 +42,50 @@ QIcon Swatch(const QColor& color, const QSize& size) {
   return QIcon(pixmap);
 }
 
-/// Chooses a colour, or the default one.
-class TColorEditor final : public QWidget {
+void ShowColor(QPushButton& button, const QVariant& value) {
+  const auto color = value.value<QColor>();
+  button.setIcon(Swatch(color, button.iconSize()));
+  button.setText(color.isValid() ? color.name() : TPropertyPage::tr("by the palette"));
+}
+
+QVariant ChooseColor(const QVariant& value, QWidget* parent) {
+  const auto color = value.value<QColor>();
+  const QColor chosen = QColorDialog::getColor(color.isValid() ? color : QColor(Qt::black), parent);
+  return chosen.isValid() ? QVariant(chosen) : QVariant();
+}
+
+void ShowFont(QPushButton& button, const QVariant& value) {
+  const auto font = value.value<QFont>();
+  const bool isSet = font.resolveMask() != 0;
+  button.setText(isSet ? QStringLiteral("%1, %2").arg(font.family()).arg(font.pointSize())
+                       : TPropertyPage::tr("as the panel"));
+  QFont shown = isSet ? font : QFont();
+  shown.setPointSize(QFont().pointSize());
+  button.setFont(shown);
+}
+
+QVariant ChooseFont(const QVariant& value, QWidget* parent) {
+  bool isChosen = false;
+  const QFont font = QFontDialog::getFont(&isChosen, value.value<QFont>(), parent);
+  return isChosen ? QVariant(font) : QVariant();
+}
+
+/// A font that sets what the program's font has is another one than a font that sets nothing.
+bool IsSame(const QVariant& one, const QVariant& other) {
+  const bool areFonts = one.typeId() == QMetaType::QFont && other.typeId() == QMetaType::QFont;
+  return one == other && (!areFonts || one.value<QFont>().resolveMask() == other.value<QFont>().resolveMask());
+}
+
+/// A button that shows the value and chooses another one by a dialog, and one for the default value.
+class TChoiceEditor final : public QWidget {
  public:
-  TColorEditor(const QColor& color, const QColor& byDefault, std::function<void(const QVariant&)> changed)
-      : FColor(color), FChanged(std::move(changed)) {
+  using TShow = void (*)(QPushButton& button, const QVariant& value);
+  /// An invalid value when the user chooses none.
+  using TChoose = QVariant (*)(const QVariant& value, QWidget* parent);
+
+  TChoiceEditor(const QVariant& value, const QVariant& byDefault, TShow show, TChoose choose,
+                std::function<void(const QVariant&)> changed)
+      : FValue(value), FShow(show), FChanged(std::move(changed)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
     FButton = new QPushButton;
@@ -54,26 +94,23 @@ class TColorEditor final : public QWidget {
     row->addWidget(FButton, 1);
     row->addWidget(reset);
     setFocusProxy(FButton);
-    connect(FButton, &QPushButton::clicked, this, [this] {
-      const QColor chosen = QColorDialog::getColor(FColor.isValid() ? FColor : QColor(Qt::black), this);
+    connect(FButton, &QPushButton::clicked, this, [this, choose] {
+      const QVariant chosen = choose(FValue, this);
       if (chosen.isValid()) Set(chosen);
     });
     connect(reset, &QPushButton::clicked, this, [this, byDefault] { Set(byDefault); });
-    Show();
+    FShow(*FButton, FValue);
   }
 
  private:
-  void Set(const QColor& color) {
-    FColor = color;
-    Show();
-    FChanged(color);
-  }
-  void Show() {
-    FButton->setIcon(Swatch(FColor, FButton->iconSize()));
-    FButton->setText(FColor.isValid() ? FColor.name() : TPropertyPage::tr("by the palette"));
+  void Set(const QVariant& value) {
+    FValue = value;
+    FShow(*FButton, value);
+    FChanged(value);
   }
 
-  QColor FColor;
+  QVariant FValue;
+  const TShow FShow;
   const std::function<void(const QVariant&)> FChanged;
   QPushButton* FButton;
 };
@@ -141,7 +178,7 @@ QVariantMap TPropertyPage::GetChanges() const {
   QVariantMap changes;
   for (auto given = FGiven.begin(); given != FGiven.end(); ++given) {
     const QVariant value = FPreview->property(given.key().toLatin1());
-    if (value != given.value()) changes[given.key()] = value;
+    if (!IsSame(value, given.value())) changes[given.key()] = value;
   }
   return changes;
 }
@@ -162,6 +199,8 @@ QWidget* TPropertyPage::MakeEditor(const QMetaProperty& property) {
   switch (property.typeId()) {
     case QMetaType::QColor:
       return MakeColorEditor(property);
+    case QMetaType::QFont:
+      return MakeFontEditor(property);
     case QMetaType::QStringList:
       return MakeLinesEditor(property);
     case QMetaType::Bool: {
@@ -187,12 +226,20 @@ QWidget* TPropertyPage::MakeEditor(const QMetaProperty& property) {
   }
 }
 
-QWidget* TPropertyPage::MakeColorEditor(const QMetaProperty& property) {
+QVariant TPropertyPage::DefaultOf(const QMetaProperty& property) {
   const QVariant value = property.read(FPreview);
   property.reset(FPreview);
   const QVariant byDefault = property.read(FPreview);
   property.write(FPreview, value);
-  return new TColorEditor(value.value<QColor>(), byDefault.value<QColor>(), Setter(property));
+  return byDefault;
+}
+
+QWidget* TPropertyPage::MakeColorEditor(const QMetaProperty& property) {
+  return new TChoiceEditor(property.read(FPreview), DefaultOf(property), ShowColor, ChooseColor, Setter(property));
+}
+
+QWidget* TPropertyPage::MakeFontEditor(const QMetaProperty& property) {
+  return new TChoiceEditor(property.read(FPreview), DefaultOf(property), ShowFont, ChooseFont, Setter(property));
 }
 
 QWidget* TPropertyPage::MakeEnumEditor(const QMetaProperty& property) {

@@ -33,6 +33,9 @@ class TPropertyPage final : public QDialog {
   /// A widget that edits the property of the preview; its object name is that of the property.
   QWidget* MakeEditor(const QMetaProperty& property);
   QWidget* MakeColorEditor(const QMetaProperty& property);
+  QWidget* MakeFontEditor(const QMetaProperty& property);
+  /// What the property has when it is reset.
+  QVariant DefaultOf(const QMetaProperty& property);
   QWidget* MakeEnumEditor(const QMetaProperty& property);
   QWidget* MakeFlagsEditor(const QMetaProperty& property);
   QWidget* MakeLinesEditor(const QMetaProperty& property);

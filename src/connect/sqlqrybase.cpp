@@ -1,3 +1,4 @@
+#include <QSqlRecord>
 #include <cstdint>
 #include <cstdlib>
 #include <random>
@@ -16,12 +17,14 @@ namespace {
 /// What the kinds of databases say differently.
 struct TDialect {
   std::string_view CreateSql;
-  /// The columns of the table that statements find; none when there is none.
+  /// The columns of the table that statements find; none when there is none. With `HeadSql`, only whether there is one.
   std::string_view ColumnsSql;
   /// The time as text.
   std::string_view TimeSql;
   /// `changed_at` as text.
   std::string_view ChangedAt;
+  /// Yields all columns and no row.
+  std::string_view HeadSql = {};
 };
 
 constexpr TDialect SQLite{
@@ -44,9 +47,9 @@ constexpr TDialect MySQL{
     "name_key VARCHAR(200) NOT NULL UNIQUE, description LONGTEXT NOT NULL, text LONGTEXT NOT NULL, "
     "owner LONGTEXT NOT NULL, changed_at DATETIME NOT NULL, revision BIGINT NOT NULL) "
     "ENGINE=InnoDB CHARACTER SET utf8mb4 COLLATE utf8mb4_bin",
-    "SELECT COLUMN_NAME FROM information_schema.COLUMNS WHERE TABLE_SCHEMA = DATABASE() "
-    "AND TABLE_NAME = 'tolvi_queries'",
-    "SELECT DATE_FORMAT(UTC_TIMESTAMP(), '%Y-%m-%d %H:%i:%s')", "DATE_FORMAT(changed_at, '%Y-%m-%d %H:%i:%s')"};
+    // Its catalogue of columns has crashed MariaDB 10.11 while another connection made the table.
+    "SHOW TABLES LIKE 'tolvi_queries'", "SELECT DATE_FORMAT(UTC_TIMESTAMP(), '%Y-%m-%d %H:%i:%s')",
+    "DATE_FORMAT(changed_at, '%Y-%m-%d %H:%i:%s')", "SELECT * FROM tolvi_queries WHERE 1 = 0"};
 
 /// By `TDatabaseKind`.
 constexpr const TDialect* Dialects[] = {&SQLite, &PostgreSQL, &MySQL};
@@ -99,9 +102,7 @@ class TQueryTable final {
 
   /// Raises `EQueryStoreError` when it is another table.
   bool Exists() const {
-    QSqlQuery query = RunSql(FSession.Database, FDialect.ColumnsSql);
-    std::set<std::string, std::less<>> columns;
-    while (NextRow(query, FDialect.ColumnsSql)) columns.insert(TextAt(query, 0));
+    const std::set<std::string, std::less<>> columns = ColumnNames();
     if (columns.empty()) return false;
     for (const std::string_view column : Columns) {
       if (!columns.contains(column)) {
@@ -158,6 +159,17 @@ class TQueryTable final {
   }
 
  private:
+  std::set<std::string, std::less<>> ColumnNames() const {
+    QSqlQuery query = RunSql(FSession.Database, FDialect.ColumnsSql);
+    std::set<std::string, std::less<>> columns;
+    while (NextRow(query, FDialect.ColumnsSql)) columns.insert(TextAt(query, 0));
+    if (columns.empty() || FDialect.HeadSql.empty()) return columns;
+    columns.clear();
+    const QSqlRecord head = RunSql(FSession.Database, FDialect.HeadSql).record();
+    for (int i = 0; i < head.count(); ++i) columns.insert(FromQString(head.fieldName(i)));
+    return columns;
+  }
+
   std::string SelectSql(std::string_view more) const {
     return std::string("SELECT id, name, description, owner, ")
         .append(FDialect.ChangedAt)

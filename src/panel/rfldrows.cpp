@@ -16,16 +16,6 @@ namespace {
 
 constexpr std::string_view FieldPlace = "@1";
 
-// The groups of a model in the order in which menus show them.
-std::vector<const TDSFieldGroup*> GroupsInOrder(const TJCustomDBStructure& model) {
-  std::vector<const TDSFieldGroup*> groups;
-  groups.reserve(model.FieldGroups().Count() + 1);
-  if (model.GetRootFieldsFirst()) groups.push_back(&model.RootGroup());
-  for (const TDSFieldGroup& group : model.FieldGroups()) groups.push_back(&group);
-  if (!model.GetRootFieldsFirst()) groups.push_back(&model.RootGroup());
-  return groups;
-}
-
 }  // namespace
 
 const TStrings& DefaultRFPanelTitles() {
@@ -49,6 +39,15 @@ void LoadRFPanelTitles(TStrings& titles, const TStrings& given) {
 }
 
 // What rows show
+
+std::vector<const TDSFieldGroup*> GroupsInOrder(const TJCustomDBStructure& model) {
+  std::vector<const TDSFieldGroup*> groups;
+  groups.reserve(model.FieldGroups().Count() + 1);
+  if (model.GetRootFieldsFirst()) groups.push_back(&model.RootGroup());
+  for (const TDSFieldGroup& group : model.FieldGroups()) groups.push_back(&group);
+  if (!model.GetRootFieldsFirst()) groups.push_back(&model.RootGroup());
+  return groups;
+}
 
 std::vector<TRFItem> ResultFieldItems(const TJCustomDBStructure& model) {
   std::vector<TRFItem> items;

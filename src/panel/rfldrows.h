@@ -14,6 +14,7 @@
 namespace tolvi {
 
 class TDSField;
+class TDSFieldGroup;
 class TJCustomDBStructure;
 class TResultField;
 class TRFieldList;
@@ -34,8 +35,10 @@ struct TRFItem {
   bool operator==(const TRFItem&) const = default;
 };
 
-/// The fields that a column may show, in the order of the label's list: by group, those without a named group first or
-/// last as the model says. The values are the fields' IDs.
+/// The groups of a model in the order in which lists show them: the one without a name first or last, as the model
+/// says.
+std::vector<const TDSFieldGroup*> GroupsInOrder(const TJCustomDBStructure& model);
+/// The fields that a column may show, by groups in that order. The values are the fields' IDs.
 std::vector<TRFItem> ResultFieldItems(const TJCustomDBStructure& model);
 /// The first of them, as a field; null when there is none.
 TDSField* GetFirstResultField(const TJCustomDBStructure& model);

@@ -7,6 +7,7 @@
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/params.h>
+#include <tolvi/query/paramvalues.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/sqlbuilder.h>
 
@@ -39,6 +40,12 @@ std::string NumberedName(std::size_t number) { return std::string(AutomaticName)
 
 }  // namespace
 
+void CheckParamName(std::string_view name) {
+  if (IsName(name)) return;
+  throw EJQueryPanelError(0, "\"%s\" is no parameter name: use letters A to Z, digits and \"_\", a letter first",
+                          {name});
+}
+
 TSQLParam::~TSQLParam() {
   TFilterCond::TSlot& slot = FCondition.Slot(FValueIndex);
   if (slot.param == this) slot.param = nullptr;
@@ -46,10 +53,7 @@ TSQLParam::~TSQLParam() {
 
 void TSQLParam::SetParamName(std::string_view name) {
   if (name == FParamName) return;
-  if (!IsName(name)) {
-    throw EJQueryPanelError(0, "\"%s\" is no parameter name: use letters A to Z, digits and \"_\", a letter first",
-                            {name});
-  }
+  CheckParamName(name);
   TSQLParamList& list = FCondition.GetQueryPanel().QResult().Params();
   list.GiveUp(FParamName);
   FParamName = name;

@@ -28,6 +28,9 @@ std::vector<TParamInfo> ListParams(TJQueryPanel& panel);
 /// when there is none.
 bool SetParamValue(TJQueryPanel& panel, std::string_view name, std::string_view value);
 
+/// Raises `EJQueryPanelError` for a text that no parameter can be called.
+void CheckParamName(std::string_view name);
+
 using TParamNames = std::unordered_set<std::string, TFoldedHash, TFoldedEqual>;
 
 /// In a statement of the query, parameters of a text type are not missing when they were given an empty text; other

@@ -98,6 +98,11 @@ QVariant Other(const QMetaProperty& property, const QVariant& value) {
       return value.toInt() + 3;
     case QMetaType::QColor:
       return QColor(12, 34, 56);
+    case QMetaType::QFont: {
+      QFont font;
+      font.setBold(true);
+      return font;
+    }
     case QMetaType::QString:
       return u"a <b>"_s;
     default:
@@ -118,6 +123,8 @@ QString InForm(const QMetaProperty& property, const QVariant& value) {
     text = element("enum", QLatin1String(values.valueToKey(value.toInt())));
   else if (value.typeId() == QMetaType::QColor)
     text = u"<color><red>12</red><green>34</green><blue>56</blue></color>"_s;
+  else if (value.typeId() == QMetaType::QFont)
+    text = u"<font><bold>true</bold></font>"_s;
   else
     text = element(value.typeId() == QMetaType::Bool  ? "bool"
                    : value.typeId() == QMetaType::Int ? "number"
@@ -210,6 +217,9 @@ TEST(Designer, EditsPropertiesOnAPageWithAPreview) {
   TJQueryPanelView view;
   view.GetAppearance().SetLeftMargin(7);
   view.GetAppearance().SetValueColor(Qt::red);
+  QFont usualSize;
+  usualSize.setPointSize(QFont().pointSize());
+  view.GetAppearance().SetValueFont(usualSize);
   TPropertyPage page(*DesignWidgetOf(view), view);
   page.show();
   auto& preview = static_cast<TJQueryPanelView&>(page.GetPreview());
@@ -223,12 +233,14 @@ TEST(Designer, EditsPropertiesOnAPageWithAPreview) {
   QTest::keyClicks(indent, u"50"_s);
   for (QCheckBox* box : page.findChild<QWidget*>(u"options"_s)->findChildren<QCheckBox*>())
     if (box->text() == u"aoTreeLines") QTest::mouseClick(box, Qt::LeftButton, {}, {4, box->height() / 2});
-  QTest::mouseClick(page.findChild<QWidget*>(u"valueColor"_s)->findChildren<QPushButton*>().last(), Qt::LeftButton);
+  for (const QString& name : {u"valueColor"_s, u"valueFont"_s})
+    QTest::mouseClick(page.findChild<QWidget*>(name)->findChildren<QPushButton*>().last(), Qt::LeftButton);
   QTest::keyClicks(page.findChild<QPlainTextEdit*>(u"commandTitles"_s), u"cmdUndo=Take back"_s);
   EXPECT_EQ(preview.GetAppearance().GetIndent(), 50);
   EXPECT_FALSE(preview.GetAppearance().GetOptions() & TQPAppearance::aoTreeLines);
   EXPECT_FALSE(preview.GetAppearance().GetValueColor().isValid());
-  EXPECT_EQ(page.GetChanges().keys(), (QStringList{u"commandTitles"_s, u"indent"_s, u"options"_s, u"valueColor"_s}));
+  EXPECT_EQ(page.GetChanges().keys(),
+            (QStringList{u"commandTitles"_s, u"indent"_s, u"options"_s, u"valueColor"_s, u"valueFont"_s}));
   EXPECT_EQ(view.GetAppearance().GetIndent(), -1);
 }
 

@@ -1,3 +1,5 @@
+#include <QListView>
+
 #include "queryview.h"
 
 namespace tolvi {
@@ -153,6 +155,43 @@ TEST_F(QueryPanelView, MovesRowsByDraggingAndByKeys) {
   EXPECT_EQ(view->FocusedRow()->GetRow(), &last);
 }
 
+TEST_F(QueryPanelView, DragsUntilTheButtonIsReleasedOrGone) {
+  for (int i = 0; i < 60; ++i) Add("Customers.City", "Equal", "A");
+  Settle();
+  const auto* mark = view->viewport()->findChild<QWidget*>(QStringLiteral("insertMark"));
+  QWindow* handle = window.windowHandle();
+  const auto drag = [&](const QPoint& to) {
+    TJRndBtn& button = Row(2).GetButton();
+    const QPoint from = button.mapTo(&window, button.rect().center());
+    QTest::mousePress(handle, Qt::LeftButton, {}, from);
+    QTest::mouseMove(handle, from + QPoint(0, QApplication::startDragDistance() + 1));
+    QTest::mouseMove(handle, to);
+    Settle();
+    EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    return &button;
+  };
+  const std::string before = Phrases();
+  TJRndBtn* button = drag(Row(5).mapTo(&window, QPoint(30, 0)));
+  Press(Qt::Key_Delete);
+  QMouseEvent right(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::RightButton, Qt::LeftButton, {});
+  QApplication::sendEvent(button, &right);
+  EXPECT_EQ(Phrases(), before);
+  EXPECT_TRUE(mark->isVisible());
+  panel->RootBracket().DeleteRow(1);
+  Settle();
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  EXPECT_FALSE(mark->isVisible());
+  QTest::mouseRelease(handle, Qt::LeftButton);
+
+  const int first = view->verticalScrollBar()->value();
+  drag(QPoint(30, window.height() + 5));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return view->verticalScrollBar()->value() > first + 3 * Row(1).height(); }));
+  delete view;
+  view = nullptr;
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  QTest::mouseRelease(handle, Qt::LeftButton);
+}
+
 TEST_F(QueryPanelView, OpensMenusWithWhatIsPossible) {
   Add("Customers.City", "Equal", "A");
   Settle();
@@ -253,6 +292,65 @@ TEST_F(QueryPanelView, IsAListOfSentencesToScreenReaders) {
   EXPECT_FALSE(row->state().checked);
   EXPECT_EQ(row->parent(), list);
   EXPECT_EQ(list->indexOfChild(row), 1);
+  EXPECT_FALSE(list->child(0)->state().checked) << "the root has no check box";
+  Add("Orders.Total", "Between", "");
+  Settle();
+  const auto told = [this](int number, const char* name) {
+    QAccessibleInterface* label = QAccessible::queryAccessibleInterface(&Label(number, name));
+    return label->text(QAccessible::Name) + u'=' + label->text(QAccessible::Value);
+  };
+  EXPECT_EQ(told(0, "linkWord"), QStringLiteral("Link word=all"));
+  EXPECT_EQ(told(1, "field"), QStringLiteral("Field=City"));
+  EXPECT_EQ(told(1, "operator"), QStringLiteral("Operator=is equal to"));
+  EXPECT_EQ(told(1, "value1"), QStringLiteral("Value=A"));
+  EXPECT_TRUE(told(2, "value2").startsWith(QStringLiteral("Value 2=")) && told(2, "value2").size() > 8);
+}
+
+TEST_F(QueryPanelView, SetsItsPartsInFontsOfTheirOwnOnOneLine) {
+  Add("Customers.City", "Equal", "A");
+  Settle();
+  const int height = Row(1).height();
+  const int size = view->fontInfo().pointSize();
+  QFont large;
+  large.setPointSize(2 * size);
+  view->setProperty("fieldFont", large);
+  Settle();
+  EXPECT_GT(Row(1).height(), height * 3 / 2);
+  EXPECT_EQ(Label(1, "operator").font(), view->font());
+  TJRndBtn& button = Row(1).GetButton();
+  for (const char* name : {"field", "operator", "value1"}) {
+    const TDropDownLabel& label = Label(1, name);
+    EXPECT_EQ(label.y() + label.GetBaseline(), button.y() + button.GetBaseline()) << name;
+    EXPECT_TRUE(Row(1).rect().contains(label.geometry())) << name;
+  }
+  QFont italic;
+  italic.setItalic(true);
+  TQPAppearance other;
+  other.SetOperatorFont(italic);
+  other.SetValueFont(view->font());
+  QFont explicitSize;
+  explicitSize.setPointSize(QFont().pointSize());
+  other.SetFieldFont(explicitSize);
+  view->SetAppearance(other);
+  view->setFont(large);
+  Settle();
+  EXPECT_TRUE(Label(1, "operator").font().italic() && Label(1, "operator").font().pointSize() == 2 * size);
+  EXPECT_EQ(Label(1, "field").font().pointSize(), QFont().pointSize());
+}
+
+TEST_F(QueryPanelView, OffersFieldsByGroupsInTheModelsOrder) {
+  FieldOf(*model, "Orders.Total").SetGroup(model->FieldGroups().AddGroup("Money"));
+  Add("Customers.City", "Equal", "A");
+  for (const bool rootFirst : {false, true}) {
+    model->SetRootFieldsFirst(rootFirst);
+    Settle();
+    Click(Label(1, "field"));
+    Settle();
+    ASSERT_NE(Popup(), nullptr);
+    const QModelIndex top = Popup()->findChild<QListView*>()->model()->index(0, 0);
+    EXPECT_EQ(top.data().toString() == QStringLiteral("Money"), !rootFirst);
+    PopupKey(Qt::Key_Escape);
+  }
 }
 
 TEST_F(QueryPanelView, KeepsWidgetsForTheRowsInSightOnly) {

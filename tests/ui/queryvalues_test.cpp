@@ -123,10 +123,17 @@ TEST_F(QueryPanelView, EditsParametersAndSubQueries) {
   for (const QChar letter : QStringLiteral("Town")) QTest::keyClick(Popup()->focusProxy(), letter.toLatin1());
   PopupKey(Qt::Key_Return);
   EXPECT_EQ(Row(1).GetSentence(), QStringLiteral("City is equal to <Town: A>"));
+  const QString noName =
+      QStringLiteral("\"no name\" is no parameter name: use letters A to Z, digits and \"_\", a letter first");
   Click(Label(1, "value1"));
   Enter(QStringLiteral("no name"));
-  EXPECT_EQ(errors.size(), 1);
-  EXPECT_EQ(param.GetParam(1)->GetParamName(), "Town");
+  ASSERT_NE(Popup(), nullptr) << "Enter takes no wrong name";
+  EXPECT_EQ(Popup()->focusProxy()->accessibleDescription(), noName);
+  Popup()->findChild<QLineEdit*>(QStringLiteral("prompt"))->setText(QStringLiteral("Which town?"));
+  Popup()->close();
+  Settle();
+  EXPECT_EQ(errors, QStringList(noName));
+  EXPECT_EQ(param.GetParam(1)->GetParamName() + param.GetParam(1)->GetOwnDisplayName(), "Town");
 
   QTimer untilOpen;
   QObject::connect(&untilOpen, &QTimer::timeout, view, [this, &untilOpen] {
@@ -161,6 +168,193 @@ TEST_F(QueryPanelView, EditsParametersAndSubQueries) {
   ASSERT_EQ(inner.RFields().Count(), 1u);
   EXPECT_EQ(inner.RFields()[0].DSFields().front(), &FieldOf(*model, "Orders.CustNo"));
   EXPECT_NE(SQL().find("(SELECT DISTINCT Orders.CustNo"), std::string::npos) << SQL();
+}
+
+/// A condition with a sub-query, and what users do in its dialog.
+class SubQueryDialog : public QueryPanelView {
+ protected:
+  void SetUp() override {
+    QueryPanelView::SetUp();
+    TJQueryPanel query;
+    query.SetDBStruct(model.get());
+    query.SetActive(true);
+    query.ParseSQL("select max(Orders.CustNo) from Orders where Orders.Total > 5");
+    query.AddSimpleCond(query.RootBracket(), FieldOf(*model, "Customers.City"), OperatorOf(*model, "Equal"),
+                        "a\u00A0b");
+    TStrings lines;
+    query.SaveToStrings(lines);
+    condition = &Add("Orders.CustNo", "InQuery", "");
+    condition->SetSubQuery(lines);
+    Settle();
+  }
+
+  /// Opens the dialog; gives it up if it is open afterwards.
+  void Run(const std::function<void()>& edit) {
+    bool wasOpen = false;
+    QTimer::singleShot(20, view, [&] {
+      dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      wasOpen = dialog != nullptr;
+      if (!wasOpen) return;
+      sql = Part<QPlainTextEdit>("sql");
+      inner = dialog->findChild<TJQueryPanelView*>();
+      edit();
+      if (dialog->isVisible()) dialog->reject();
+    });
+    view->EditSubQuery(*condition, 1);
+    Settle();
+    EXPECT_TRUE(wasOpen);
+  }
+  template <typename T>
+  T* Part(const char* name) const {
+    return dialog->findChild<T*>(QLatin1String(name));
+  }
+  void Push(const char* button) { Click(*Part<QAbstractButton>(button)); }
+  std::size_t AddRow() {
+    inner->RunCommand(pcFirstRow);
+    inner->RunCommand(pcAddCond);
+    Settle();
+    return inner->GetQueryPanel()->RootBracket().GetRowCount();
+  }
+  std::size_t RowsInText() const {
+    TJQueryPanel query;
+    query.SetDBStruct(model.get());
+    query.LoadFromStrings(condition->GetSubQuery());
+    return query.RootBracket().GetRowCount();
+  }
+
+  TSimpleCond* condition = nullptr;
+  QDialog* dialog = nullptr;
+  QPlainTextEdit* sql = nullptr;
+  TJQueryPanelView* inner = nullptr;
+};
+
+TEST_F(SubQueryDialog, ChangesNothingThatTheUserDoesNotChange) {
+  const TStrings before = condition->GetSubQuery();
+  Run([this] {
+    auto* column = Part<TDropDownLabel>("column");
+    const QString computed = column->GetCaption();
+    Open(*column);
+    PopupKey(Qt::Key_Return);
+    EXPECT_EQ(column->GetCaption(), computed);
+    dialog->accept();
+    EXPECT_FALSE(dialog->isVisible());
+  });
+  EXPECT_EQ(condition->GetSubQuery().GetText(), before.GetText());
+}
+
+TEST_F(SubQueryDialog, AsksWhichIsMeantWhenQueryAndTextWereBothChanged) {
+  Run([this] {
+    const QString good = sql->toPlainText();
+    Push("sqlSwitch");
+    sql->setPlainText(QStringLiteral("select nonsense ("));
+    Push("readSql");
+    EXPECT_TRUE(Part<QWidget>("fault")->isVisible());
+    sql->setPlainText(good);
+    EXPECT_FALSE(Part<QWidget>("fault")->isVisible());
+    EXPECT_EQ(AddRow(), 3u);
+    EXPECT_NE(sql->toPlainText(), good) << "text put back is no text of the user's";
+
+    sql->setPlainText(good + u' ');
+    Push("sqlSwitch");
+    EXPECT_FALSE(Part<QWidget>("unread")->isVisible());
+    EXPECT_EQ(AddRow(), 4u);
+    dialog->accept();
+    EXPECT_TRUE(dialog->isVisible() && Part<QWidget>("unread")->isVisible());
+    EXPECT_TRUE(Part<QWidget>("readSql")->hasFocus());
+    Push("discardSql");
+    EXPECT_FALSE(Part<QWidget>("unread")->isVisible());
+    EXPECT_EQ(inner->GetQueryPanel()->RootBracket().GetRowCount(), 4u);
+    dialog->accept();
+  });
+  EXPECT_EQ(RowsInText(), 4u);
+  Run([this] {
+    sql->setPlainText(QStringLiteral("select CustNo from Orders where Total > 5"));
+    AddRow();
+    Push("readSql");
+    EXPECT_EQ(inner->GetQueryPanel()->RootBracket().GetRowCount(), 1u);
+    dialog->accept();
+  });
+  EXPECT_EQ(RowsInText(), 1u);
+}
+
+TEST_F(SubQueryDialog, LooksAndActsAsTheViewOutside) {
+  FieldOf(*model, "Customers.City").SetEditType(etCustom);
+  view->SetCommandTitleLines({QStringLiteral("cmdDuplicateRow=Noch einmal")});
+  view->GetAppearance().SetIndent(77);
+  view->OnCustomEdit = [](TJQueryPanelView&, TFilterCond& sender, int index) { sender.SetValue(index, "by host"); };
+  Run([this] {
+    auto& row = static_cast<TFilterCond&>(*inner->GetQueryPanel()->RowByNum(2));
+    inner->RowWidget(row)->findChild<TDropDownLabel*>(QStringLiteral("value1"))->DropDown();
+    Settle();
+    EXPECT_EQ(row.GetValue(1), "by host");
+    EXPECT_EQ(inner->GetAction(pcDuplicate).text(), QStringLiteral("Noch einmal"));
+    EXPECT_EQ(inner->GetAppearance().GetIndent(), 77);
+    inner->OnError(*inner, QStringLiteral("told outside"));
+  });
+  EXPECT_EQ(errors, QStringList(QStringLiteral("told outside")));
+}
+
+TEST_F(QueryPanelView, OffersDefaultValuesAndTheCaseOfTheField) {
+  struct TCase {
+    const char *Field, *Op, *Default, *Typed, *Value;
+  };
+  static constexpr TCase cases[] = {
+      {"Customers.City", "Equal", "Berlin", "oslo", "OSLO"},
+      {"Customers.City", "InList", "New York", "oslo, bern", "OSLO,BERN"},
+      {"Customers.Notes", "Equal", "Berlin", "oslo", "OSLO"},
+      {"Orders.SaleDate", "Equal", "2026-05-17", nullptr, nullptr},
+      {"Customers.Active", "Equal", "True", nullptr, nullptr},
+  };
+  for (const TCase& at : cases) {
+    TDSField& field = FieldOf(*model, at.Field);
+    field.SetEditType(etEdit);
+    auto& editor = static_cast<TDSTextEditor&>(*field.GetValueEditor());
+    editor.SetDefaultValue(at.Default);
+    editor.SetAutoUpperCase(true);
+    TSimpleCond& condition = Add(at.Field, at.Op, "");
+    Settle();
+    const int row = static_cast<int>(panel->RootBracket().GetRowCount());
+    const auto accept = [&] {
+      QTest::keyClick(Popup()->windowHandle(), Qt::Key_Return,
+                      at.Field == std::string("Customers.Notes") ? Qt::ControlModifier : Qt::NoModifier);
+      Settle();
+    };
+    Click(Label(row, "value1"));
+    PopupKey(Qt::Key_Escape);
+    EXPECT_EQ(Label(row, "value1").GetValue(), QString()) << at.Field << ": given up";
+    Click(Label(row, "value1"));
+    Settle();
+    accept();
+    EXPECT_FALSE(condition.GetValue(1).empty()) << at.Field << ": a default given up once comes again";
+    if (at.Typed == nullptr) continue;
+    Click(Label(row, "value1"));
+    Settle();
+    user::TypeOver(QLatin1String(at.Typed));
+    accept();
+    EXPECT_EQ(condition.GetValue(1), at.Value) << at.Field;
+  }
+}
+
+TEST_F(QueryPanelView, ShowsAgainWhatTheConditionHoldsAfterAnEditThatChangesNothing) {
+  TDSField& city = FieldOf(*model, "Customers.City");
+  city.SetEditType(etList);
+  auto& editor = static_cast<TDSListEditor&>(*city.GetValueEditor());
+  editor.Items() = TStrings{"Berlin", "Paris"};
+  editor.Values() = TStrings{"1", "2"};
+  TSimpleCond& several = Add("Customers.City", "InList", "2,1");
+  TSimpleCond& one = Add("Customers.City", "Equal", "2");
+  several.SetCaption(1, "Paris!, Berlin!");
+  one.SetCaption(1, "Paris!");
+  Settle();
+  const std::size_t steps = view->GetEditor()->GetUndoCount();
+  for (const int row : {1, 2}) {
+    const QString caption = Label(row, "value1").GetCaption();
+    Click(Label(row, "value1"));
+    PopupKey(Qt::Key_Return);
+    EXPECT_EQ(Label(row, "value1").GetCaption(), caption);
+  }
+  EXPECT_EQ(several.GetValue(1) + " " + one.GetValue(1), "2,1 2");
+  EXPECT_EQ(view->GetEditor()->GetUndoCount(), steps);
 }
 
 }  // namespace

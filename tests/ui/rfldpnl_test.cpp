@@ -136,6 +136,8 @@ TEST_F(ResultFieldsPanel, ShowsEachColumnAsARow) {
   EXPECT_EQ(Row(1).GetSorting(), stDescending);
   EXPECT_EQ(Row(1).GetSortLabel().GetCaption(), QStringLiteral("Descending"));
   EXPECT_EQ(Row(1).GetButton().accessibleName(), QStringLiteral("2: SUM( Total ), Descending"));
+  EXPECT_EQ(Row(1).GetFieldLabel()->accessibleName() + Row(1).GetSortLabel().accessibleName(),
+            QStringLiteral("FieldSorting"));
   EXPECT_EQ(Row(2).GetFieldLabel(), nullptr);
   EXPECT_EQ(Panel->GetAddRowLabel().text(), QStringLiteral("< Click to add new field >"));
   EXPECT_EQ(Panel->GetFirstRow(), &Row(0));
@@ -299,7 +301,7 @@ TEST_F(ResultFieldsPanel, IsWorkedWithTheKeyboardAlone) {
   Panel->GetRowMenu()->close();
   for (int i = 0; i < 3; ++i) {
     Row(0).GetButton().setFocus();
-    Key(Qt::Key_Delete);
+    Key(Qt::Key_Delete, i == 1 ? Qt::KeypadModifier : Qt::NoModifier);
   }
   EXPECT_TRUE(focused(Panel->GetAddRowLabel()));
   CheckPlaces();
@@ -333,6 +335,8 @@ TEST_F(ResultFieldsPanel, KeepsThePlainTextsWhenRowsAreHidden) {
   fields.Add(FieldOf(*Model, "Customers.City"));
   Panel->SetResultFields(fields);
   EXPECT_EQ(shown(0), "x-x-x");
+  Click(Row(0).GetButton());
+  EXPECT_FALSE(Panel->GetRowMenu()->isVisible());
   EXPECT_TRUE(Panel->GetAddRowLabel().isHidden());
   Panel->GetRows().SetVisible(false);
   EXPECT_EQ(shown(0), "x-x-x");

@@ -77,7 +77,12 @@ class TitlesDialog : public TUiTest {
 };
 
 TEST_F(TitlesDialog, FindsAndChangesTextsByKeys) {
+  QFont large = window.font();
+  large.setPointSize(30);
+  window.setFont(large);
   Open(TTitles::DefaultLines());
+  const QSize room = window.screen()->availableGeometry().size();
+  EXPECT_EQ(dialog->size().boundedTo(room), dialog->size());
   EXPECT_EQ(Current(TTitlesModel::ColKey), u"ttlFilter"_s);
   Find(u"DiViDe"_s);
   EXPECT_EQ(Keys(), u"Result Fields Editor(ttlDivRFldHint )"_s);

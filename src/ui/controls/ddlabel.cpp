@@ -50,7 +50,7 @@ void TDropDownLabel::SetCaption(const QString& caption) {
   FCaption = caption;
   updateGeometry();
   update();
-  TellAccessibility(accessibleName().isEmpty());
+  TellCaption(accessibleName().isEmpty());
 }
 
 void TDropDownLabel::SetValue(const QString& value) { FValue = value; }
@@ -72,9 +72,13 @@ void TDropDownLabel::SetUnderlined(bool on) {
 }
 
 void TDropDownLabel::SetReadOnly(bool on) {
+  if (on == FReadOnly) return;
   FReadOnly = on;
   setCursor(on ? Qt::ArrowCursor : Qt::PointingHandCursor);
   update();
+  QAccessible::State changed;
+  changed.readOnly = true;
+  TellState(changed);
 }
 
 void TDropDownLabel::SetFault(const QString& fault) {
@@ -85,9 +89,20 @@ void TDropDownLabel::SetFault(const QString& fault) {
   QAccessible::updateAccessibility(&told);
 }
 
-void TDropDownLabel::TellAccessibility(bool name) {
+void TDropDownLabel::TellState(QAccessible::State changed) {
+  QAccessibleStateChangeEvent told(this, changed);
+  QAccessible::updateAccessibility(&told);
+}
+
+void TDropDownLabel::TellOpened() {
+  QAccessible::State changed;
+  changed.expanded = changed.collapsed = true;
+  TellState(changed);
+}
+
+void TDropDownLabel::TellCaption(bool name) {
   if (!QAccessible::isActive()) return;
-  QAccessibleValueChangeEvent value(this, FCaption);
+  QAccessibleValueChangeEvent value(this, FCaption.isEmpty() ? FPlaceholder : FCaption);
   QAccessible::updateAccessibility(&value);
   if (!name) return;
   QAccessibleEvent told(this, QAccessible::NameChanged);
@@ -120,7 +135,7 @@ void TDropDownLabel::DropDown() {
   FEditor->show();
   typedIn->setFocus(Qt::PopupFocusReason);
   update();
-  TellAccessibility(false);
+  TellOpened();
 }
 
 void TDropDownLabel::DropUp(bool accept) {
@@ -131,7 +146,7 @@ void TDropDownLabel::DropUp(bool accept) {
   CloseEditor();
   setFocus(Qt::PopupFocusReason);
   update();
-  TellAccessibility(false);
+  TellOpened();
   if (const auto handler = OnAfterDropUp) handler(*this, accepted);
 }
 

@@ -1,6 +1,7 @@
 // Words of a sentence that are edited where they stand: a label that looks like a link and opens an editor.
 #pragma once
 
+#include <QAccessible>
 #include <QColor>
 #include <QPointer>
 #include <QString>
@@ -102,7 +103,9 @@ class TDropDownLabel : public QWidget {
   void CloseEditor();
   bool KeyInEditor(const QKeyEvent& key);
   void ShowToolTip(const QPoint& globalPos);
-  void TellAccessibility(bool name);
+  void TellCaption(bool name);
+  void TellOpened();
+  void TellState(QAccessible::State changed);
   QString ShownText() const;
   QColor TextColor() const;
   QRect TextRect() const;

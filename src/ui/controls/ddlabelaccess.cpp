@@ -18,7 +18,7 @@ class TLabelAccess final : public QAccessibleWidget {
       case QAccessible::Name:
         return label.accessibleName().isEmpty() ? shown : label.accessibleName();
       case QAccessible::Value:
-        return label.GetCaption();
+        return shown;
       case QAccessible::Description:
         return label.GetFault().isEmpty() ? label.accessibleDescription() : label.GetFault();
       default:

@@ -1,3 +1,4 @@
+#include <QHash>
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -20,13 +21,18 @@ struct TChosen {
 };
 
 TChosen ChosenItems(const QString& commaText, const std::vector<TDropDownItem>& items) {
+  const std::vector<std::string> values = SplitCommaText(FromQString(commaText));
   TChosen result;
-  for (const std::string& value : SplitCommaText(FromQString(commaText))) {
-    const auto found = std::ranges::find(items, ToQString(value), &TDropDownItem::Value);
-    if (found == items.end())
+  if (values.empty()) return result;
+  QHash<QString, int> firstItems;
+  firstItems.reserve(static_cast<qsizetype>(items.size()));
+  for (std::size_t item = items.size(); item-- > 0;) firstItems[items[item].Value] = static_cast<int>(item);
+  for (const std::string& value : values) {
+    const auto found = firstItems.constFind(ToQString(value));
+    if (found == firstItems.cend())
       result.unknown.push_back(value);
     else
-      result.items.push_back(static_cast<int>(found - items.begin()));
+      result.items.push_back(*found);
   }
   return result;
 }
@@ -143,7 +149,7 @@ QWidget* TDropDownCheckList::CreateEditor(QWidget* parent) { return MakeList(tru
 void TDropDownCheckList::FillList(TItemList& list) {
   list.SetItems(Items());
   const std::vector<int> chosen = ChosenItems(GetValue(), Items()).items;
-  for (const int item : chosen) list.Model().SetChecked(item, true);
+  list.Model().SetCheckedItems(chosen);
   list.SetItemIndex(chosen.empty() ? -1 : *std::ranges::min_element(chosen));
 }
 

@@ -76,7 +76,8 @@ class TDropDownListBox : public TDropDownList {
   using TDropDownList::TDropDownList;
 };
 
-/// Shows each group as a section with a heading; items without a group come first.
+/// Shows each group as a section with a heading, in the order of their first items; a line is above the items without a
+/// group when they are not the first.
 class TDropDownPopup : public TDropDownList {
   Q_OBJECT
  public:

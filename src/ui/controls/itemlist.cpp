@@ -71,19 +71,24 @@ class TRowPainter final : public QStyledItemDelegate {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
     option->text = AsWritten(option->text, option->direction);
+    int indent = 0;
     if (option->features.testFlag(QStyleOptionViewItem::HasCheckIndicator)) {
       // Drawn by ourselves: those of styles neither grow with the font, nor can be seen on every palette.
       option->features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false);
-      Indent(*option, CheckBoxSide(option->fontMetrics) + TextMargin(option->fontMetrics));
+      indent += CheckBoxSide(option->fontMetrics) + TextMargin(option->fontMetrics);
     }
     const QString group = index.data(TItemModel::RoleGroup).toString();
-    if (!group.isEmpty() && FHeadings) Indent(*option, TextMargin(option->fontMetrics));
+    if (!group.isEmpty() && FHeadings) indent += TextMargin(option->fontMetrics);
+    if (indent > 0) Indent(*option, indent);
   }
 
  private:
+  /// Only of the text: the highlight has the whole width, as the room is that of an empty picture before the text.
   static void Indent(QStyleOptionViewItem& option, int by) {
-    const bool mirrored = option.direction == Qt::RightToLeft;
-    option.rect.adjust(mirrored ? 0 : by, 0, mirrored ? -by : 0, 0);
+    const QStyle& style = *option.widget->style();
+    const int margins = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1);
+    option.features |= QStyleOptionViewItem::HasDecoration;
+    option.decorationSize = QSize(std::max(1, by - margins), 1);
   }
 
   void PaintCheckBox(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -101,14 +106,15 @@ class TRowPainter final : public QStyledItemDelegate {
   static void PaintHeading(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) {
     const QColor base = option.palette.color(QPalette::Active, QPalette::Base);
     const QColor text = option.palette.color(QPalette::Active, QPalette::Text);
-    const QColor face = MixedColor(text, base, 0.08);
-    painter.fillRect(option.rect, face);
+    const QColor face = MixedColor(text, base, 0.08), line = ReadableColor(MixedColor(text, base, 0.4), base, 2);
     painter.setFont(HeadingFont(option.font));
     painter.setPen(ReadableColor(text, face));
     const int margin = TextMargin(option.fontMetrics);
     const QRect place = option.rect.adjusted(margin, 0, -margin, 0);
-    const Qt::Alignment side = QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter;
     const QString heading = index.data(Qt::DisplayRole).toString();
+    if (heading.isEmpty()) return painter.fillRect(QRect(place.left(), place.center().y(), place.width(), 1), line);
+    painter.fillRect(option.rect, face);
+    const Qt::Alignment side = QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter;
     painter.drawText(
         place, static_cast<int>(side) | Qt::TextSingleLine,
         AsWritten(QFontMetrics(painter.font()).elidedText(heading, Qt::ElideRight, place.width()), option.direction));

@@ -28,7 +28,7 @@ void TItemModel::SetItems(const std::vector<TDropDownItem>& items) {
   FOrder.resize(FItems.size());
   std::iota(FOrder.begin(), FOrder.end(), 0);
   if (FHeadings) {
-    QHash<QString, int> places{{QString(), 0}};
+    QHash<QString, int> places;
     std::vector<int> placeOfItem;
     placeOfItem.reserve(FItems.size());
     for (const TDropDownItem& item : FItems) {
@@ -95,6 +95,12 @@ void TItemModel::SetChecked(int item, bool on) {
   FChecked[static_cast<size_t>(item)] = on;
   const QModelIndex changed = index(RowOfItem(item));
   if (changed.isValid()) Q_EMIT dataChanged(changed, changed, {Qt::CheckStateRole});
+}
+
+void TItemModel::SetCheckedItems(const std::vector<int>& items) {
+  FChecked.assign(FItems.size(), false);
+  for (const int item : items) FChecked[static_cast<size_t>(item)] = true;
+  if (!FRows.empty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
 }
 
 int TItemModel::rowCount(const QModelIndex& parent) const {

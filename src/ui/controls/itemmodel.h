@@ -1,4 +1,5 @@
-// The rows of a list that finds items as one types: headings, and the items that hold the text.
+// The rows of a list that finds items as one types: headings, and the items that hold the text. The heading of items
+// without a group is empty; at the top they have none.
 #pragma once
 
 #include <QAbstractListModel>
@@ -36,6 +37,8 @@ class TItemModel final : public QAbstractListModel {
 
   bool IsChecked(int item) const { return FChecked[static_cast<size_t>(item)]; }
   void SetChecked(int item, bool on);
+  /// These, and no others.
+  void SetCheckedItems(const std::vector<int>& items);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;

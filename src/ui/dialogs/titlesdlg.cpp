@@ -104,9 +104,14 @@ void T_dlgTitlesEdit::BuildTree() {
   const int letter = fontMetrics().averageCharWidth();
   FTree->expandAll();
   FTree->resizeColumnToContents(TTitlesModel::ColKey);
-  FTree->setColumnWidth(TTitlesModel::ColDefault, 38 * letter);
-  FTree->setColumnWidth(TTitlesModel::ColText, 44 * letter);
-  resize(FTree->columnWidth(TTitlesModel::ColKey) + (38 + 44 + 30) * letter, 32 * fontMetrics().height());
+  // As wide as the texts need, on a small screen as there is room; the notes get what is left.
+  constexpr int defaultLetters = 38, textLetters = 44, letters = defaultLetters + textLetters + 30;
+  const QSize wanted(FTree->columnWidth(TTitlesModel::ColKey) + letters * letter, 32 * fontMetrics().height());
+  resize(wanted.boundedTo(screen()->availableGeometry().size() * 9 / 10));
+  const int keyWidth = std::min(FTree->columnWidth(TTitlesModel::ColKey), width() / 3), room = width() - keyWidth;
+  FTree->setColumnWidth(TTitlesModel::ColKey, keyWidth);
+  FTree->setColumnWidth(TTitlesModel::ColDefault, room * defaultLetters / letters);
+  FTree->setColumnWidth(TTitlesModel::ColText, room * textLetters / letters);
 
   // The row is one thing to the user: its text is what can be edited.
   connect(FTree->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& current) {

@@ -1,4 +1,3 @@
-#include <QAccessible>
 #include <QAccessibleWidget>
 
 #include <tolvi/query/querpnl.h>
@@ -9,6 +8,20 @@
 
 namespace tolvi {
 namespace {
+
+void AddRowState(const TQPRow& widget, QAccessible::State& state) {
+  const TFilterRow* row = widget.GetRow();
+  const TPanelEditor* editor = widget.GetView().GetEditor();
+  if (row == nullptr || editor == nullptr) return;
+  state.selectable = true;
+  state.selected = row == row->GetQueryPanel().GetCurrentRow();
+  state.checkable = widget.GetCheckBox() != nullptr;
+  state.checked = state.checkable && row->GetEnabled();
+  state.readOnly = editor->IsLocked(*row);
+  state.expandable = row->GetRowType() == frtBracket;
+  state.collapsed = state.expandable && editor->IsCollapsed(*row);
+  state.expanded = state.expandable && !state.collapsed;
+}
 
 /// The rows in sight as items, and the label that adds to them.
 class TPanelAccess final : public QAccessibleWidget {
@@ -47,17 +60,7 @@ class TRowAccess final : public QAccessibleWidget {
   }
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
-    const TFilterRow* row = FRow.GetRow();
-    const TPanelEditor* editor = FRow.GetView().GetEditor();
-    if (row == nullptr || editor == nullptr) return state;
-    state.selectable = true;
-    state.selected = row == row->GetQueryPanel().GetCurrentRow();
-    state.checkable = FRow.GetCheckBox() != nullptr;
-    state.checked = row->GetEnabled();
-    state.readOnly = editor->IsLocked(*row);
-    state.expandable = row->GetRowType() == frtBracket;
-    state.collapsed = state.expandable && editor->IsCollapsed(*row);
-    state.expanded = state.expandable && !state.collapsed;
+    AddRowState(FRow, state);
     return state;
   }
 
@@ -72,6 +75,21 @@ QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
 }
 
 }  // namespace
+
+void TellRowState(TQPRow& row, std::optional<QAccessible::State>& told) {
+  QAccessible::State now, changed;
+  AddRowState(row, now);
+  const QAccessible::State before = told.value_or(now);
+  told = now;
+  changed.selected = now.selected != before.selected;
+  changed.checked = now.checked != before.checked;
+  changed.readOnly = now.readOnly != before.readOnly;
+  changed.collapsed = now.collapsed != before.collapsed;
+  changed.expanded = now.expanded != before.expanded;
+  if (changed == QAccessible::State()) return;
+  QAccessibleStateChangeEvent event(&row, changed);
+  QAccessible::updateAccessibility(&event);
+}
 
 void InstallPanelAccess() {
   static const bool once = [] {

@@ -1,13 +1,17 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QObject>
 #include <functional>
+
+#include <tolvi/query/rowphrase.h>
 
 namespace tolvi {
 
 /// How a query panel looks. Colours that are not set are those of the palette; all are adjusted where they could not be
-/// read on the background. Sizes are in pixels; -1, the default, fits the font. The view takes changes at once.
+/// read on the background. What a font does not set, such as its size, is that of the view's font. Sizes are in pixels;
+/// -1, the default, fits the view's font. The view takes changes at once.
 class TQPAppearance final : public QObject {
   Q_OBJECT
   Q_PROPERTY(QColor linkWordColor READ GetLinkWordColor WRITE SetLinkWordColor RESET ResetLinkWordColor)
@@ -15,6 +19,11 @@ class TQPAppearance final : public QObject {
   Q_PROPERTY(QColor operatorColor READ GetOperatorColor WRITE SetOperatorColor RESET ResetOperatorColor)
   Q_PROPERTY(QColor valueColor READ GetValueColor WRITE SetValueColor RESET ResetValueColor)
   Q_PROPERTY(QColor parameterColor READ GetParameterColor WRITE SetParameterColor RESET ResetParameterColor)
+  Q_PROPERTY(QFont linkWordFont READ GetLinkWordFont WRITE SetLinkWordFont RESET ResetLinkWordFont)
+  Q_PROPERTY(QFont fieldFont READ GetFieldFont WRITE SetFieldFont RESET ResetFieldFont)
+  Q_PROPERTY(QFont operatorFont READ GetOperatorFont WRITE SetOperatorFont RESET ResetOperatorFont)
+  Q_PROPERTY(QFont valueFont READ GetValueFont WRITE SetValueFont RESET ResetValueFont)
+  Q_PROPERTY(QFont parameterFont READ GetParameterFont WRITE SetParameterFont RESET ResetParameterFont)
   Q_PROPERTY(int leftMargin READ GetLeftMargin WRITE SetLeftMargin)
   Q_PROPERTY(int topMargin READ GetTopMargin WRITE SetTopMargin)
   Q_PROPERTY(int rowSpace READ GetRowSpace WRITE SetRowSpace)
@@ -60,6 +69,25 @@ class TQPAppearance final : public QObject {
   void ResetValueColor() { SetValueColor(TQPAppearance().FValueColor); }
   void ResetParameterColor() { SetParameterColor(TQPAppearance().FParameterColor); }
 
+  /// Default: the view's font (a font that sets nothing). Values that are sub-queries or SQL have the font of values.
+  const QFont& GetLinkWordFont() const { return FLinkWordFont; }
+  void SetLinkWordFont(const QFont& font) { Set(FLinkWordFont, font); }
+  const QFont& GetFieldFont() const { return FFieldFont; }
+  void SetFieldFont(const QFont& font) { Set(FFieldFont, font); }
+  const QFont& GetOperatorFont() const { return FOperatorFont; }
+  void SetOperatorFont(const QFont& font) { Set(FOperatorFont, font); }
+  const QFont& GetValueFont() const { return FValueFont; }
+  void SetValueFont(const QFont& font) { Set(FValueFont, font); }
+  const QFont& GetParameterFont() const { return FParameterFont; }
+  void SetParameterFont(const QFont& font) { Set(FParameterFont, font); }
+  void ResetLinkWordFont() { SetLinkWordFont({}); }
+  void ResetFieldFont() { SetFieldFont({}); }
+  void ResetOperatorFont() { SetOperatorFont({}); }
+  void ResetValueFont() { SetValueFont({}); }
+  void ResetParameterFont() { SetParameterFont({}); }
+  /// That of such a part of a row.
+  const QFont& FontOf(TPhraseKind kind) const;
+
   /// Beside and above the rows, between rows, between the elements of a row, for each level of brackets.
   int GetLeftMargin() const { return FLeftMargin; }
   void SetLeftMargin(int pixels) { Set(FLeftMargin, pixels); }
@@ -81,13 +109,22 @@ class TQPAppearance final : public QObject {
  private:
   template <typename T>
   void Set(T& property, const T& value) {
-    if (property == value) return;
+    if (IsSame(property, value)) return;
     property = value;
     if (OnChange) OnChange();
+  }
+  template <typename T>
+  static bool IsSame(const T& one, const T& other) {
+    return one == other;
+  }
+  // A font that sets what the program's font has is not one that leaves it to the view.
+  static bool IsSame(const QFont& one, const QFont& other) {
+    return one == other && one.resolveMask() == other.resolveMask();
   }
 
   QColor FLinkWordColor = QColor(0, 128, 0), FFieldColor, FOperatorColor = QColor(0, 128, 0), FValueColor,
          FParameterColor = QColor(128, 0, 160);
+  QFont FLinkWordFont, FFieldFont, FOperatorFont, FValueFont, FParameterFont;
   int FLeftMargin = -1, FTopMargin = -1, FRowSpace = -1, FElemSpace = -1, FIndent = -1;
   TQPAppearanceOptions FOptions = TQPAppearanceOptions(aoFlatButtons | aoRoundButtons | aoRowNumbers | aoTreeLines);
 };

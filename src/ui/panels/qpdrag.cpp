@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -12,6 +13,8 @@
 
 namespace tolvi {
 namespace {
+
+constexpr int scrollPause = 60;  // milliseconds from row to row
 
 /// A line with a knob at its start.
 class TInsertMark final : public QWidget {
@@ -40,6 +43,9 @@ class TInsertMark final : public QWidget {
 
 TQPDrag::TQPDrag(TJQueryPanelView& view) : QObject(&view), FView(view), FMark(new TInsertMark(view.viewport())) {}
 
+// The view is half gone by now, and perhaps the mark with it.
+TQPDrag::~TQPDrag() { Cancel(); }
+
 void TQPDrag::Watch(QWidget& button) { button.installEventFilter(this); }
 
 TFilterRow* TQPDrag::DraggedRow() const {
@@ -56,14 +62,31 @@ bool TQPDrag::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseMove:
       return MoveTo(watched, static_cast<QMouseEvent&>(*event));
     case QEvent::MouseButtonRelease:
-      return Release(watched);
+      return Release(static_cast<QMouseEvent&>(*event));
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+      return FDragging && KeyPress(static_cast<QKeyEvent&>(*event));
+    case QEvent::ContextMenu:
+      return FDragging;
+    case QEvent::Hide:
+      // The row goes: nobody will release its button.
+      if (watched == FButton) Cancel();
+      return false;
     default:
       return false;
   }
 }
 
+bool TQPDrag::KeyPress(QKeyEvent& event) {
+  event.accept();
+  if (event.type() == QEvent::KeyPress && event.key() == Qt::Key_Escape) Cancel();
+  return true;
+}
+
 bool TQPDrag::Press(QObject* button, const QMouseEvent& event) {
+  if (FDragging) return true;
   const auto* row = qobject_cast<TQPRow*>(button->parent());
+  FButton = button;
   FPressed = event.button() == Qt::LeftButton && row != nullptr && row->GetRow() != nullptr;
   FSerial = FPressed ? row->GetRow()->GetSerial() : 0;
   FStart = event.globalPosition().toPoint();
@@ -71,7 +94,8 @@ bool TQPDrag::Press(QObject* button, const QMouseEvent& event) {
 }
 
 bool TQPDrag::MoveTo(QObject* button, const QMouseEvent& event) {
-  if (!FPressed || !(event.buttons() & Qt::LeftButton)) return false;
+  if (!(event.buttons() & Qt::LeftButton)) Cancel();
+  if (!FPressed) return false;
   const QPoint at = event.globalPosition().toPoint();
   const TFilterRow* row = DraggedRow();
   const TPanelEditor* editor = FView.GetEditor();
@@ -81,16 +105,27 @@ bool TQPDrag::MoveTo(QObject* button, const QMouseEvent& event) {
     static_cast<QAbstractButton*>(button)->setDown(false);
     QApplication::setOverrideCursor(Qt::ClosedHandCursor);
   }
-  QScrollBar& bar = *FView.verticalScrollBar();
-  const QPoint local = FView.viewport()->mapFromGlobal(at);
-  if (local.y() < 0) bar.setValue(bar.value() - bar.singleStep());
-  if (local.y() > FView.viewport()->height()) bar.setValue(bar.value() + bar.singleStep());
-  FLast = local;
-  ShowMark(local);
+  FLast = FView.viewport()->mapFromGlobal(at);
+  if (StepAtEdge() == 0) FScrolling.stop();
+  if (StepAtEdge() != 0 && !FScrolling.isActive()) FScrolling.start(scrollPause, this);
+  ShowMark(FLast);
   return true;
 }
 
-bool TQPDrag::Release(QObject*) {
+// How far to scroll while the mouse is held where it is.
+int TQPDrag::StepAtEdge() const {
+  const int step = FView.verticalScrollBar()->singleStep();
+  return FLast.y() < 0 ? -step : FLast.y() >= FView.viewport()->height() ? step : 0;
+}
+
+void TQPDrag::timerEvent(QTimerEvent*) {
+  QScrollBar& bar = *FView.verticalScrollBar();
+  bar.setValue(bar.value() + StepAtEdge());
+  ShowMark(FLast);
+}
+
+bool TQPDrag::Release(const QMouseEvent& event) {
+  if (event.button() != Qt::LeftButton) return FDragging;
   FPressed = false;
   if (!FDragging) return false;
   TFilterRow* row = DraggedRow();
@@ -104,7 +139,8 @@ bool TQPDrag::Release(QObject*) {
 void TQPDrag::Cancel() {
   FPressed = false;
   if (!std::exchange(FDragging, false)) return;
-  FMark->hide();
+  FScrolling.stop();
+  if (FMark) FMark->hide();
   QApplication::restoreOverrideCursor();
 }
 

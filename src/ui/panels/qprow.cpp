@@ -10,6 +10,7 @@
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/controls/ddedit.h>
 #include <tolvi/ui/controls/ddlist.h>
+#include <tolvi/ui/panels/qpaccess.h>
 #include <tolvi/ui/panels/qpdrag.h>
 #include <tolvi/ui/panels/qprow.h>
 #include <tolvi/ui/panels/qpsigns.h>
@@ -25,26 +26,6 @@ constexpr std::size_t collapsedLimit = 400;             // bytes of the rows' se
 
 /// Whether the part can be changed. Words of SQL and of what the model lacks stay as they are.
 bool IsLabel(TPhraseKind kind) { return kind != pkText && kind != pkSQL; }
-
-std::vector<TDropDownItem> LinkWordItems(const TFilterBracket& bracket) {
-  static constexpr std::pair<TFilterLinkType, std::string_view> words[] = {
-      {fltAll, "ttlAll"}, {fltAny, "ttlAny"}, {fltNone, "ttlNone"}, {fltNotAll, "ttlNotAll"}};
-  const TJQueryPanel& panel = bracket.GetQueryPanel();
-  std::vector<TDropDownItem> items;
-  for (const auto& [linkType, title] : words) {
-    if (!panel.GetLinkTypes().Contains(linkType) && bracket.GetLinkType() != linkType) continue;
-    items.push_back({QString(), QString::number(linkType), ToQString(panel.GetTitle(title))});
-  }
-  return items;
-}
-
-std::vector<TDropDownItem> OperatorItems(const TSimpleCond& condition) {
-  std::vector<TDropDownItem> items;
-  for (const TDSOperator* op : condition.GetField().Operators()) {
-    items.push_back({QString(), ToQString(op->GetName()), ToQString(op->GetDisplayName())});
-  }
-  return items;
-}
 
 }  // namespace
 
@@ -106,6 +87,17 @@ QColor TQPRow::ColorOf(const TPart& part) const {
   return plain;
 }
 
+QFont TQPRow::FontOf(const TPart& part) const { return FView.GetAppearance().FontOf(part.Kind).resolve(font()); }
+
+// What the part is, for screen readers; the caption is its value.
+QString TQPRow::NameOf(const TPart& part) const {
+  if (part.Kind == pkLinkWord) return tr("Link word");
+  if (part.Kind == pkField) return tr("Field");
+  if (part.Kind == pkOperator) return tr("Operator");
+  const bool isOnly = static_cast<TFilterCond*>(FRow)->GetValueCount() <= 1;
+  return isOnly ? tr("Value") : tr("Value %1").arg(part.ValueIndex);
+}
+
 TDropDownLabel* TQPRow::MakeLabel(const TPart& part) {
   TDropDownLabel* label = nullptr;
   if (part.ValueIndex > 0) {
@@ -123,14 +115,12 @@ TDropDownLabel* TQPRow::MakeLabel(const TPart& part) {
       const TPart* own = PartOf(*action);
       if (own == nullptr || !CanEdit()) return;
       auto& condition = static_cast<TFilterCond&>(*FRow);
-      own->ValueKind == TQPValueKind::vkQuery ? FView.EditSubQuery(condition, own->ValueIndex)
+      own->ValueKind == TQPValueKind::qvQuery ? FView.EditSubQuery(condition, own->ValueIndex)
                                               : FView.EditCustom(condition, own->ValueIndex);
     };
   } else {
     label->OnBeforeDropDown = [this](TDropDownLabel& sender) { BeforeEdit(sender); };
-    label->OnAfterDropUp = [this](TDropDownLabel& sender, bool accepted) {
-      if (accepted) AfterEdit(sender);
-    };
+    label->OnAfterDropUp = [this](TDropDownLabel& sender, bool accepted) { AfterEdit(sender, accepted); };
   }
   if (auto* edit = qobject_cast<TDropDownEdit*>(label)) {
     edit->OnCheck = [this, edit](const QString& text) {
@@ -164,6 +154,8 @@ void TQPRow::ShowPart(TPart& part, const TPhrasePart& phrase) {
   part.IsElided = phrase.Kind == pkSQL;
   if (!IsLabel(part.Kind)) return;
   if (part.Label == nullptr) part.Label = MakeLabel(part);
+  part.Label->setFont(FView.GetAppearance().FontOf(part.Kind));
+  if (const QString name = NameOf(part); part.Label->accessibleName() != name) part.Label->setAccessibleName(name);
   if (part.Label->IsDroppedDown()) return;
   part.Label->SetReadOnly(!CanEdit());
   if (part.ValueIndex > 0) {
@@ -219,6 +211,7 @@ void TQPRow::Refresh() {
     QAccessibleEvent told(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&told);
   }
+  TellRowState(*this, FToldState);
   ShowSigns();
   UpdateColors();
 }
@@ -267,82 +260,6 @@ void TQPRow::UpdateColors() {
     if (part_.Label != nullptr) part_.Label->SetLinkColor(ColorOf(part_));
   }
   update();
-}
-
-// Editing
-
-TQPRow::TPart* TQPRow::PartOf(const TDropDownLabel& label) {
-  if (FRow == nullptr) return nullptr;
-  const auto found =
-      std::find_if(FParts.begin(), FParts.end(), [&](const TPart& part) { return part.Label == &label; });
-  return found != FParts.end() ? &*found : nullptr;
-}
-
-void TQPRow::BeforeEdit(TDropDownLabel& label) {
-  const TPart* part = PartOf(label);
-  if (part == nullptr) return;
-  FValueBefore = label.GetValue();
-  if (part->ValueIndex > 0) {
-    auto& condition = static_cast<TFilterCond&>(*FRow);
-    PrepareLabel(label, part->ValueKind, condition, part->ValueIndex);
-    if (part->ValueKind != TQPValueKind::vkFetchedItem && part->ValueKind != TQPValueKind::vkFetchedItems) return;
-    const QPointer<TDropDownLabel> target(&label);
-    QMetaObject::invokeMethod(
-        this, [this, target] { Fetch(target); }, Qt::QueuedConnection);
-    return;
-  }
-  auto& list = static_cast<TDropDownList&>(label);
-  const QString caption = label.GetCaption();
-  if (part->Kind == pkLinkWord) {
-    const auto& bracket = static_cast<TFilterBracket&>(*FRow);
-    list.SetItems(LinkWordItems(bracket));
-    list.SetValue(QString::number(bracket.GetLinkType()));
-  } else if (part->Kind == pkField) {
-    list.SetItems(FView.FieldItems());
-    list.SetValue(QString::number(static_cast<TSimpleCond&>(*FRow).GetFieldID()));
-  } else {
-    list.SetItems(OperatorItems(static_cast<TSimpleCond&>(*FRow)));
-    list.SetValue(ToQString(static_cast<TSimpleCond&>(*FRow).GetOperatorName()));
-  }
-  list.SetCaption(caption);
-  FValueBefore = list.GetValue();
-}
-
-void TQPRow::Fetch(const QPointer<TDropDownLabel>& label) {
-  const TPart* part = label ? PartOf(*label) : nullptr;
-  auto* editor = part == nullptr
-                     ? nullptr
-                     : dynamic_cast<TDSSQLEditor*>(static_cast<TFilterCond*>(FRow)->GetValueEditor(part->ValueIndex));
-  if (editor == nullptr) return;
-  // The list shows that it is busy first.
-  if (QWidget* popup = QApplication::activePopupWidget()) popup->repaint();
-  const QPointer<TQPRow> self(this);
-  FView.FetchItems(*editor, [self, label](const QString& fault) {
-    const TPart* own = self && label ? self->PartOf(*label) : nullptr;
-    if (own != nullptr) ShowFetched(*label, static_cast<TFilterCond&>(*self->FRow), own->ValueIndex, fault);
-  });
-}
-
-void TQPRow::AfterEdit(TDropDownLabel& label) {
-  const TPart* part = PartOf(label);
-  if (part == nullptr || (label.GetValue() == FValueBefore && part->ValueKind != TQPValueKind::vkParam)) return;
-  const TPart edited = *part;
-  FView.Edit(*FRow, [this, &label, edited] { TakePartValue(label, edited); });
-}
-
-void TQPRow::TakePartValue(TDropDownLabel& label, const TPart& part) {
-  if (part.ValueIndex > 0) {
-    return TakeValue(label, part.ValueKind, static_cast<TFilterCond&>(*FRow), part.ValueIndex);
-  }
-  const TJCustomDBStructure* model = FRow->GetQueryPanel().GetDBStruct();
-  if (part.Kind == pkLinkWord) {
-    static_cast<TFilterBracket*>(FRow)->SetLinkType(static_cast<TFilterLinkType>(label.GetValue().toInt()));
-  } else if (part.Kind == pkField) {
-    TDSField* field = model->FieldByID(label.GetValue().toInt());
-    if (field != nullptr) static_cast<TSimpleCond*>(FRow)->SetField(*field);
-  } else if (TDSOperator* op = model->OperatorByName(FromQString(label.GetValue()))) {
-    static_cast<TSimpleCond*>(FRow)->SetOperator(*op);
-  }
 }
 
 // Focus

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QAccessible>
 #include <QPointer>
 #include <QWidget>
+#include <optional>
 #include <vector>
 
 #include <tolvi/query/rowphrase.h>
@@ -66,7 +68,7 @@ class TQPRow final : public QWidget {
   struct TPart {
     TPhraseKind Kind = pkText;
     int ValueIndex = 0;
-    TQPValueKind ValueKind = TQPValueKind::vkText;
+    TQPValueKind ValueKind = TQPValueKind::qvText;
     bool SpaceBefore = false;
     QString Text;
     // As much of the text as there is room for is shown.
@@ -79,9 +81,11 @@ class TQPRow final : public QWidget {
   TPart TakePart(std::vector<TPart>& parts, const TPhrasePart& phrase) const;
   void ShowPart(TPart& part, const TPhrasePart& phrase);
   QColor ColorOf(const TPart& part) const;
+  QFont FontOf(const TPart& part) const;
+  QString NameOf(const TPart& part) const;
   void Fetch(const QPointer<TDropDownLabel>& label);
   void BeforeEdit(TDropDownLabel& label);
-  void AfterEdit(TDropDownLabel& label);
+  void AfterEdit(TDropDownLabel& label, bool accepted);
   void TakePartValue(TDropDownLabel& label, const TPart& part);
   TPart* PartOf(const TDropDownLabel& label);
   bool CanEdit() const;
@@ -104,6 +108,8 @@ class TQPRow final : public QWidget {
   int FLevel = 0;
   bool FCurrent = false, FOff = false, FLocked = false;
   QRect FLockPlace;
+  // What screen readers know; nothing before the row is complete.
+  std::optional<QAccessible::State> FToldState;
 };
 
 }  // namespace tolvi

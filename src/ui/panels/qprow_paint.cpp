@@ -63,7 +63,7 @@ int TQPRow::Arrange() {
 }
 
 int TQPRow::ArrangeText(TPart& part, int x) const {
-  const QFontMetrics fonts = fontMetrics();
+  const QFontMetrics fonts(FontOf(part));
   int width = fonts.horizontalAdvance(part.Text);
   if (part.IsElided) {
     const int room = FView.viewport()->width() - x - FView.Metrics().Left;
@@ -151,9 +151,10 @@ void TQPRow::PaintPart(QPainter& painter, const TPart& part) const {
     painter.drawRoundedRect(QRectF(part.Place.adjusted(-padding, -1, padding, 1)).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
   }
   painter.setPen(ReadableColor(color.isValid() ? color : text, ground));
-  painter.drawText(part.Place,
-                   static_cast<int>(Qt::AlignLeading | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextDontClip,
-                   part.IsElided ? fontMetrics().elidedText(part.Text, Qt::ElideRight, part.Place.width()) : part.Text);
+  painter.setFont(FontOf(part));
+  painter.drawText(
+      part.Place, static_cast<int>(Qt::AlignLeading | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextDontClip,
+      part.IsElided ? painter.fontMetrics().elidedText(part.Text, Qt::ElideRight, part.Place.width()) : part.Text);
 }
 
 }  // namespace tolvi

@@ -6,10 +6,12 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/panel/rfldrows.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/controls/ddlist.h>
@@ -23,7 +25,7 @@ namespace {
 /// A query panel of its own, as the sub-query is built.
 class TSubQueryDialog final : public QDialog {
  public:
-  TSubQueryDialog(const TFilterCond& condition, QWidget* parent);
+  TSubQueryDialog(const TFilterCond& condition, TJQueryPanelView& outerView);
 
   /// Nothing when the model has gone.
   std::optional<TSubQuery> Result();
@@ -33,10 +35,15 @@ class TSubQueryDialog final : public QDialog {
   void SetUpQuery(const TFilterCond& condition);
   void AddColumn(QVBoxLayout& rows, const TJQueryPanel& outer);
   void AddSql(QVBoxLayout& rows);
+  void AddTextRow(QVBoxLayout& rows);
   void AddButtons(QVBoxLayout& rows, const TJQueryPanel& outer);
   void ShowColumn();
   void TakeColumn();
+  // The text in the box is not that of the query.
+  bool IsUnread() const { return FConflict || FSql->toPlainText() != FShownSql; }
+  void QueryChanged();
   void ShowSql();
+  void ShowState();
   bool ReadSql();
   void ShowFault(const QString& fault);
 
@@ -45,26 +52,32 @@ class TSubQueryDialog final : public QDialog {
   TJQueryPanelView* FView = nullptr;
   QToolButton* FSqlSwitch = nullptr;
   QPlainTextEdit* FSql = nullptr;
-  QPushButton* FRead = nullptr;
-  QLabel* FFault = nullptr;
+  QWidget* FTextRow = nullptr;
+  QPushButton *FRead = nullptr, *FDiscard = nullptr;
+  QLabel *FUnread = nullptr, *FFault = nullptr;
+  // What the box made of the query's SQL: not every character is as it was.
   QString FShownSql;
+  bool FConflict = false, FReading = false;  // the query has changed while the text was unread
 };
 
-TSubQueryDialog::TSubQueryDialog(const TFilterCond& condition, QWidget* parent) : QDialog(parent) {
+TSubQueryDialog::TSubQueryDialog(const TFilterCond& condition, TJQueryPanelView& outerView) : QDialog(&outerView) {
   const TJQueryPanel& outer = condition.GetQueryPanel();
   setWindowTitle(ToQString(outer.GetTitle("ttlSubQueryCaption")));
   auto* rows = new QVBoxLayout(this);
   AddColumn(*rows, outer);
   FView = new TJQueryPanelView(this);
+  FView->SetAppearance(outerView.GetAppearance());
+  FView->SetCommandTitles(outerView.GetCommandTitles().Lines());
+  FView->OnCustomEdit = outerView.OnCustomEdit;
+  FView->OnEditSubQuery = outerView.OnEditSubQuery;
+  FView->OnFetchItems = outerView.OnFetchItems;
+  FView->OnError = outerView.OnError;
   rows->addWidget(FView, 3);
   AddSql(*rows);
   AddButtons(*rows, outer);
   SetUpQuery(condition);
   FView->SetQueryPanel(&FQuery);
-  FQuery.OnChange = [this](TJQueryPanel&) {
-    ShowColumn();
-    ShowSql();
-  };
+  FQuery.OnChange = [this](TJQueryPanel&) { QueryChanged(); };
   ShowColumn();
   ShowSql();
 }
@@ -91,17 +104,15 @@ void TSubQueryDialog::AddColumn(QVBoxLayout& rows, const TJQueryPanel& outer) {
   FColumn->setObjectName(QStringLiteral("column"));
   FColumn->OnAfterDropUp = [this](TDropDownLabel&, bool accepted) {
     if (accepted) TakeColumn();
+    ShowColumn();
   };
-  const auto add = [this](const TDSFieldGroup& group) {
-    for (const TDSField* field : group) {
+  for (const TDSFieldGroup* group : GroupsInOrder(*outer.GetDBStruct())) {
+    for (const TDSField* field : *group) {
       if (!field->GetUseInResult()) continue;
-      FColumn->AddItem(ToQString(group.GetGroupName()), QString::number(field->GetID()),
+      FColumn->AddItem(ToQString(group->GetGroupName()), QString::number(field->GetID()),
                        ToQString(field->GetCompoundName()));
     }
-  };
-  const TJCustomDBStructure& model = *outer.GetDBStruct();
-  add(model.RootGroup());
-  for (const TDSFieldGroup& group : model.FieldGroups()) add(group);
+  }
   auto* caption = new QLabel(ToQString(outer.GetTitle("ttlResultField")), this);
   caption->setBuddy(FColumn);
   auto* form = new QFormLayout;
@@ -130,12 +141,9 @@ void TSubQueryDialog::AddSql(QVBoxLayout& rows) {
   fixed.setPointSizeF(font().pointSizeF());
   FSql->setFont(fixed);
   lines->addWidget(FSql);
-  FRead = new QPushButton(tr("&Read this SQL"), box);
-  FRead->setObjectName(QStringLiteral("readSql"));
-  FRead->setAutoDefault(false);
-  lines->addWidget(FRead, 0, Qt::AlignLeading);
   box->hide();
   rows.addWidget(box, 2);
+  AddTextRow(rows);
   FFault = new QLabel(this);
   FFault->setObjectName(QStringLiteral("fault"));
   FFault->setTextFormat(Qt::PlainText);
@@ -146,9 +154,40 @@ void TSubQueryDialog::AddSql(QVBoxLayout& rows) {
     box->setVisible(on);
     const Qt::ArrowType closed = isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
     FSqlSwitch->setArrowType(on ? Qt::DownArrow : closed);
+    ShowState();
   });
-  connect(FSql, &QPlainTextEdit::textChanged, this, [this] { FRead->setEnabled(FSql->toPlainText() != FShownSql); });
+  connect(FSql, &QPlainTextEdit::textChanged, this, [this] {
+    ShowFault({});
+    ShowState();
+  });
+}
+
+// What can be done with the text; also to be seen while the box is closed, if there is unread text in it.
+void TSubQueryDialog::AddTextRow(QVBoxLayout& rows) {
+  FTextRow = new QWidget(this);
+  auto* parts = new QHBoxLayout(FTextRow);
+  parts->setContentsMargins({});
+  const auto addButton = [&](const QString& text, const QString& objectName) {
+    auto* button = new QPushButton(text, FTextRow);
+    button->setObjectName(objectName);
+    button->setAutoDefault(false);
+    parts->addWidget(button);
+    return button;
+  };
+  FRead = addButton(tr("&Read this SQL"), QStringLiteral("readSql"));
+  FDiscard = addButton(tr("&Discard"), QStringLiteral("discardSql"));
+  FUnread = new QLabel(tr("The text is not read yet"), FTextRow);
+  FUnread->setObjectName(QStringLiteral("unread"));
+  FUnread->setWordWrap(true);
+  parts->addWidget(FUnread, 1);
+  parts->addStretch();
+  rows.addWidget(FTextRow);
   connect(FRead, &QPushButton::clicked, this, [this] { ReadSql(); });
+  connect(FDiscard, &QPushButton::clicked, this, [this] {
+    ShowFault({});
+    ShowSql();
+    FSql->setFocus();
+  });
 }
 
 void TSubQueryDialog::AddButtons(QVBoxLayout& rows, const TJQueryPanel& outer) {
@@ -167,7 +206,8 @@ void TSubQueryDialog::ShowColumn() {
   }
   const TResultField& column = FQuery.RFields()[0];
   const TDSField& field = *column.DSFields().front();
-  FColumn->SetValue(QString::number(field.GetID()));
+  // A computed column is none of those in the list.
+  FColumn->SetValue(column.IsPlainField() ? QString::number(field.GetID()) : QString());
   FColumn->SetCaption(ToQString(column.IsPlainField() ? field.GetCompoundName() : column.GetExpression()));
 }
 
@@ -175,41 +215,61 @@ void TSubQueryDialog::TakeColumn() {
   const TJCustomDBStructure* model = FQuery.GetDBStruct();
   TDSField* field = model != nullptr ? model->FieldByID(FColumn->GetValue().toInt()) : nullptr;
   if (field == nullptr) return;
+  const bool isPlain = !FQuery.RFields().Empty() && FQuery.RFields()[0].IsPlainField();
+  if (isPlain && FQuery.RFields()[0].DSFields().front() == field) return;
   FQuery.RFields().BeginUpdate();
   FQuery.RFields().Clear();
   FQuery.RFields().Add(*field);
   FQuery.RFields().EndUpdate();
 }
 
-// What has been typed and not read yet stays.
+// What has been typed and not read yet stays, until the user says which of both is meant.
+void TSubQueryDialog::QueryChanged() {
+  ShowColumn();
+  if (FReading) return;
+  if (!IsUnread()) return ShowSql();
+  FConflict = true;
+  ShowState();
+}
+
 void TSubQueryDialog::ShowSql() {
-  if (FSql->toPlainText() != FShownSql) return;
   QString sql;
   try {
     if (!FQuery.RFields().Empty()) sql = ToQString(FQuery.GetSQL().Joined("\n"));
   } catch (const EException&) {
     // The row says what is wrong with it.
   }
-  FShownSql = sql;
+  const QSignalBlocker quiet(FSql);
   FSql->setPlainText(sql);
-  FRead->setEnabled(false);
+  FShownSql = FSql->toPlainText();
+  FConflict = false;
+  ShowState();
+}
+
+void TSubQueryDialog::ShowState() {
+  const bool unread = IsUnread();
+  FRead->setEnabled(unread);
+  FDiscard->setEnabled(unread);
+  FUnread->setVisible(FConflict);
+  FRead->setAccessibleDescription(FConflict ? FUnread->text() : QString());
+  FTextRow->setVisible(unread || FSqlSwitch->isChecked());
 }
 
 bool TSubQueryDialog::ReadSql() {
+  QString fault;
+  FReading = true;
   try {
-    const std::string sql = FromQString(FSql->toPlainText());
-    // What the change shows is the query again.
-    FShownSql = FSql->toPlainText();
-    FQuery.ParseSQL(sql, {.Faithful = true});
+    FQuery.ParseSQL(FromQString(FSql->toPlainText()), {.Faithful = true});
   } catch (const EException& error) {
-    FShownSql = QString(QChar::Null);
-    FRead->setEnabled(true);
+    fault = ToQString(error.Message());
+  }
+  FReading = false;
+  ShowFault(fault);
+  if (!fault.isEmpty()) {
     FSqlSwitch->setChecked(true);
-    ShowFault(ToQString(error.Message()));
     FSql->setFocus();
     return false;
   }
-  ShowFault({});
   ShowSql();
   return true;
 }
@@ -223,7 +283,11 @@ void TSubQueryDialog::ShowFault(const QString& fault) {
 }
 
 void TSubQueryDialog::accept() {
-  if (FSql->toPlainText() == FShownSql || ReadSql()) QDialog::accept();
+  if (FConflict) {
+    FSqlSwitch->setChecked(true);
+    return FRead->setFocus();
+  }
+  if (!IsUnread() || ReadSql()) QDialog::accept();
 }
 
 std::optional<TSubQuery> TSubQueryDialog::Result() {
@@ -236,10 +300,10 @@ std::optional<TSubQuery> TSubQueryDialog::Result() {
 
 }  // namespace
 
-std::optional<TSubQuery> RunSubQueryDialog(QWidget& parent, const TFilterCond& condition) {
-  const QPointer<TSubQueryDialog> dialog = new TSubQueryDialog(condition, &parent);
+std::optional<TSubQuery> RunSubQueryDialog(TJQueryPanelView& outer, const TFilterCond& condition) {
+  const QPointer<TSubQueryDialog> dialog = new TSubQueryDialog(condition, outer);
   const bool accepted = dialog->exec() == QDialog::Accepted;
-  // The parent may have gone with the dialog.
+  // The outer view may have gone with the dialog.
   if (!dialog) return std::nullopt;
   std::optional<TSubQuery> result;
   if (accepted) result = dialog->Result();

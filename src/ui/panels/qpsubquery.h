@@ -4,11 +4,11 @@
 
 #include <tolvi/foundation/strings.h>
 #include <tolvi/query/sqltypes.h>
-class QWidget;
 
 namespace tolvi {
 
 class TFilterCond;
+class TJQueryPanelView;
 
 struct TSubQuery {
   TStrings Lines;
@@ -16,7 +16,8 @@ struct TSubQuery {
 };
 
 /// Lets the user edit the sub-query of a condition in a dialog: the column that it yields and its conditions, or its
-/// SQL. Returns the query, nothing when the user gave up.
-std::optional<TSubQuery> RunSubQueryDialog(QWidget& parent, const TFilterCond& condition);
+/// SQL. Returns the query, nothing when the user gave up. The panel in the dialog looks as `outer`, the condition's,
+/// and has its events.
+std::optional<TSubQuery> RunSubQueryDialog(TJQueryPanelView& outer, const TFilterCond& condition);
 
 }  // namespace tolvi

@@ -1,19 +1,22 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QStringList>
+#include <QStyle>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
 #include <tolvi/foundation/errors.h>
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/query/paramvalues.h>
 #include <tolvi/query/querpnl.h>
 #include <tolvi/query/valuedates.h>
 #include <tolvi/query/values.h>
+#include <tolvi/ui/controls/checkededitor.h>
 #include <tolvi/ui/controls/datetext.h>
 #include <tolvi/ui/controls/dddate.h>
 #include <tolvi/ui/controls/ddedit.h>
 #include <tolvi/ui/controls/ddlist.h>
-#include <tolvi/ui/controls/drawing.h>
 #include <tolvi/ui/panels/qpvalues.h>
 #include <tolvi/ui/qtext.h>
 
@@ -25,31 +28,31 @@ using enum TQPValueKind;
 constexpr TFieldTypes LongTextTypes{ftMemo, ftFmtMemo};
 
 TQPValueKind KindOfText(const TDSTextEditor* editor, TFieldType type) {
-  if (editor != nullptr && editor->GetKind() == tekDate) return vkDate;
-  if (editor != nullptr && editor->GetKind() == tekTime) return vkTime;
-  if (editor != nullptr && !editor->GetEditMask().empty()) return vkText;
+  if (editor != nullptr && editor->GetKind() == tekDate) return qvDate;
+  if (editor != nullptr && editor->GetKind() == tekTime) return qvTime;
+  if (editor != nullptr && !editor->GetEditMask().empty()) return qvText;
   switch (type) {
     case ftDate:
-      return vkDate;
+      return qvDate;
     case ftTime:
-      return vkTime;
+      return qvTime;
     case ftDateTime:
     case ftTimeStamp:
-      return vkDateTime;
+      return qvDateTime;
     case ftBoolean:
-      return vkBoolean;
+      return qvBoolean;
     default:
-      return LongTextTypes.Contains(type) ? vkMemo : vkText;
+      return LongTextTypes.Contains(type) ? qvMemo : qvText;
   }
 }
 
 TDateKind DateKindOf(TQPValueKind kind) {
-  if (kind == vkTime) return TDateKind::dkTime;
-  return kind == vkDate ? TDateKind::dkDate : TDateKind::dkDateTime;
+  if (kind == qvTime) return TDateKind::dkTime;
+  return kind == qvDate ? TDateKind::dkDate : TDateKind::dkDateTime;
 }
-bool IsDate(TQPValueKind kind) { return kind == vkDate || kind == vkTime || kind == vkDateTime; }
+bool IsDate(TQPValueKind kind) { return kind == qvDate || kind == qvTime || kind == qvDateTime; }
 bool IsList(TQPValueKind kind) {
-  return kind == vkItem || kind == vkItems || kind == vkFetchedItem || kind == vkFetchedItems || kind == vkBoolean;
+  return kind == qvItem || kind == qvItems || kind == qvFetchedItem || kind == qvFetchedItems || kind == qvBoolean;
 }
 
 const TFormatSettings& SettingsOf(const TFilterCond& condition) {
@@ -66,8 +69,8 @@ QString PatternOf(TQPValueKind kind, const TFormatSettings& settings) {
     if (!date.contains(token) || date.count(token.front()) != token.size()) return {};
   }
   if (!time.startsWith(QStringLiteral("hh"))) return {};
-  if (kind == vkTime) return time;
-  return kind == vkDate ? date : date + u' ' + time;
+  if (kind == qvTime) return time;
+  return kind == qvDate ? date : date + u' ' + time;
 }
 
 // Items divided by commas
@@ -128,19 +131,31 @@ std::vector<TDropDownItem> TruthItems(const TJQueryPanel& panel) {
           {QString(), QStringLiteral("0"), ToQString(panel.GetTitle("ttlFalse"))}};
 }
 
-/// The value as the label keeps it.
-QString LabelValue(TQPValueKind kind, const TFilterCond& condition, int index) {
-  const std::string& value = condition.GetValue(index);
+/// One value as the label keeps it.
+QString LabelText(TQPValueKind kind, const std::string& value, const TFormatSettings& settings) {
   if (value.empty()) return {};
-  if (kind == vkTextList) return TypedItems(value);
-  if (kind == vkBoolean) {
+  if (kind == qvBoolean) {
     const auto truth = TryXStrToBool(value);
     return truth ? QString::number(*truth ? 1 : 0) : ToQString(value);
   }
   if (!IsDate(kind)) return ToQString(value);
-  const auto date = TryReadDate(value, SettingsOf(condition));
+  const auto date = TryReadDate(value, settings);
   static constexpr TFieldType types[] = {ftDate, ftTime, ftDateTime};
   return date ? ToQString(PlainDate(*date, types[static_cast<int>(DateKindOf(kind))])) : ToQString(value);
+}
+
+TTextCase CaseOf(const TDSTextEditor* editor) {
+  if (editor != nullptr && editor->GetAutoUpperCase()) return TTextCase::tcUpper;
+  return editor != nullptr && editor->GetAutoLowerCase() ? TTextCase::tcLower : TTextCase::tcNone;
+}
+
+QString FaultOfName(const QString& name) {
+  try {
+    CheckParamName(FromQString(name));
+  } catch (const EException& error) {
+    return ToQString(error.Message());
+  }
+  return {};
 }
 
 QString FaultOfValue(const TFilterCond& condition, int index) {
@@ -156,16 +171,31 @@ QString FaultOfValue(const TFilterCond& condition, int index) {
 
 }  // namespace
 
+QString LabelValue(TQPValueKind kind, const TFilterCond& condition, int index) {
+  if (kind == qvTextList) return TypedItems(condition.GetValue(index));
+  return LabelText(kind, condition.GetValue(index), SettingsOf(condition));
+}
+
+bool IsSameValue(TQPValueKind kind, const QString& value, const QString& other) {
+  if (kind != qvItems && kind != qvFetchedItems) return value == other;
+  const auto sorted = [](const QString& commaText) {
+    std::vector<std::string> items = SplitCommaText(FromQString(commaText));
+    std::sort(items.begin(), items.end());
+    return items;
+  };
+  return sorted(value) == sorted(other);
+}
+
 TQPValueKind ValueKindOf(const TFilterCond& condition, int index) {
-  if (condition.GetValueIsParam(index)) return vkParam;
-  if (condition.GetValueKind(index) == vkSubQuery) return vkQuery;
+  if (condition.GetValueIsParam(index)) return qvParam;
+  if (condition.GetValueKind(index) == vkSubQuery) return qvQuery;
   const TDSValueEditor* editor = condition.GetValueEditor(index);
   const bool isList = condition.GetValueKind(index) == vkList;
-  if (dynamic_cast<const TDSCustomEditor*>(editor) != nullptr) return vkHost;
-  if (dynamic_cast<const TDSSQLEditor*>(editor) != nullptr) return isList ? vkFetchedItems : vkFetchedItem;
-  if (dynamic_cast<const TDSListEditor*>(editor) != nullptr) return isList ? vkItems : vkItem;
+  if (dynamic_cast<const TDSCustomEditor*>(editor) != nullptr) return qvHost;
+  if (dynamic_cast<const TDSSQLEditor*>(editor) != nullptr) return isList ? qvFetchedItems : qvFetchedItem;
+  if (dynamic_cast<const TDSListEditor*>(editor) != nullptr) return isList ? qvItems : qvItem;
   const TQPValueKind kind = KindOfText(dynamic_cast<const TDSTextEditor*>(editor), condition.GetValueType(index));
-  return isList ? vkTextList : kind;
+  return isList ? qvTextList : kind;
 }
 
 QString FaultOfText(const TFilterCond& condition, int index, const QString& text) {
@@ -203,51 +233,73 @@ TQPActionLabel::TQPActionLabel(QWidget* parent) : TDropDownLabel(parent) {
   };
 }
 
+// Its editor: the name, checked as it is typed, and the prompt below.
+class TQPParamLabel::TEditor final : public TCheckedEditor {
+ public:
+  TEditor(QLineEdit& name, const QString& prompt, QWidget* parent)
+      : TCheckedEditor(name, parent), FName(name), FPrompt(*new QLineEdit(prompt, this)) {
+    auto* form = new QFormLayout;
+    FName.setObjectName(QStringLiteral("name"));
+    FPrompt.setObjectName(QStringLiteral("prompt"));
+    FPrompt.setMinimumWidth(20 * fontMetrics().averageCharWidth());
+    form->addRow(TQPParamLabel::tr("&Name:"), &FName);
+    form->addRow(TQPParamLabel::tr("&Prompt:"), &FPrompt);
+    const int space = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    form->setSpacing(std::max(3, fontMetrics().averageCharWidth() / 2));
+    Rows().setContentsMargins(space, space, space, space);
+    Rows().insertLayout(0, form);
+  }
+
+  QString Name() const { return FName.text().trimmed(); }
+  QString Prompt() const { return FPrompt.text(); }
+
+ private:
+  QLineEdit &FName, &FPrompt;
+};
+
 QWidget* TQPParamLabel::CreateEditor(QWidget* parent) {
-  auto* frame = new TEditorFrame(parent);
-  auto* form = new QFormLayout(frame);
-  const auto addLine = [&](const QString& caption, const QString& text, const QString& objectName) {
-    auto* line = new QLineEdit(text, frame);
-    line->setObjectName(objectName);
-    line->setMinimumWidth(20 * fontMetrics().averageCharWidth());
-    form->addRow(caption, line);
-    return line;
-  };
-  QLineEdit* name = addLine(tr("&Name:"), Name, QStringLiteral("name"));
-  addLine(tr("&Prompt:"), Prompt, QStringLiteral("prompt"));
+  auto* name = new QLineEdit(Name);
   name->selectAll();
-  frame->setFocusProxy(name);
-  return frame;
+  auto* editor = new TEditor(*name, Prompt, parent);
+  connect(name, &QLineEdit::textChanged, this, [this, editor] {
+    editor->ShowFault(FaultOfName(editor->Name()));
+    PlaceEditor();
+  });
+  return editor;
 }
 
 bool TQPParamLabel::TakeFromEditor(QWidget& editor) {
-  Name = editor.findChild<QLineEdit*>(QStringLiteral("name"))->text().trimmed();
-  Prompt = editor.findChild<QLineEdit*>(QStringLiteral("prompt"))->text();
+  Name = static_cast<TEditor&>(editor).Name();
+  Prompt = static_cast<TEditor&>(editor).Prompt();
   return true;
+}
+
+bool TQPParamLabel::AcceptsByKey(const QKeyEvent& key) const {
+  return TDropDownLabel::AcceptsByKey(key) && FaultOfName(static_cast<TEditor*>(Editor())->Name()).isEmpty();
 }
 
 TDropDownLabel* MakeValueLabel(TQPValueKind kind, QWidget* parent) {
   switch (kind) {
-    case vkText:
-    case vkTextList:
+    case qvText:
+    case qvTextList:
       return new TDropDownEdit(parent);
-    case vkMemo:
+    case qvMemo:
       return new TDropDownMemo(parent);
-    case vkDate:
-    case vkTime:
-    case vkDateTime:
+    case qvDate:
+    case qvTime:
+    case qvDateTime:
       return new TDropDownDate(DateKindOf(kind), parent);
-    case vkBoolean:
-    case vkItem:
-    case vkFetchedItem:
+    case qvBoolean:
+    case qvItem:
+    case qvFetchedItem:
       return new TDropDownListBox(parent);
-    case vkItems:
-    case vkFetchedItems:
+    case qvItems:
+    case qvFetchedItems:
       return new TDropDownCheckList(parent);
-    case vkHost:
-    case vkQuery:
+    case qvHost:
+    case qvQuery:
       return new TQPActionLabel(parent);
-    case vkParam:
+    case qvParam:
       break;
   }
   return new TQPParamLabel(parent);
@@ -259,7 +311,7 @@ void ShowValue(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& cond
   label.SetPlaceholder(part.IsPlaceholder ? text : QStringLiteral("..."));
   if (IsDate(kind)) static_cast<TDropDownDate&>(label).SetDisplayFormat(PatternOf(kind, SettingsOf(condition)));
   label.SetValue(LabelValue(kind, condition, index));
-  if (kind != vkText || !condition.GetCaption(index).empty()) {
+  if (kind != qvText || !condition.GetCaption(index).empty()) {
     label.SetCaption(part.IsPlaceholder ? QString() : text);
   } else {
     label.SetCaption(label.GetValue());
@@ -270,31 +322,33 @@ void ShowValue(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& cond
 
 void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index) {
   const TDSValueEditor* editor = condition.GetValueEditor(index);
-  if (kind == vkText || kind == vkTextList) {
+  const auto* textEditor = dynamic_cast<const TDSTextEditor*>(editor);
+  if (kind == qvText || kind == qvTextList) {
     auto& edit = static_cast<TDropDownEdit&>(label);
-    const auto* textEditor = dynamic_cast<const TDSTextEditor*>(editor);
-    if (textEditor == nullptr || kind == vkTextList) return;
-    edit.SetInputMask(ToQString(textEditor->GetEditMask()));
-    edit.SetKeepsMask(textEditor->GetUseFormattedValue());
-    edit.SetTextCase(textEditor->GetAutoUpperCase()   ? TTextCase::tcUpper
-                     : textEditor->GetAutoLowerCase() ? TTextCase::tcLower
-                                                      : TTextCase::tcNone);
-    if (label.GetValue().isEmpty()) label.SetValue(ToQString(textEditor->GetDefaultValue()));
-  } else if (kind == vkParam) {
+    // A mask is that of one value.
+    const bool hasMask = textEditor != nullptr && kind == qvText;
+    edit.SetInputMask(hasMask ? ToQString(textEditor->GetEditMask()) : QString());
+    edit.SetKeepsMask(!hasMask || textEditor->GetUseFormattedValue());
+    edit.SetTextCase(CaseOf(textEditor));
+  } else if (kind == qvParam) {
     const TSQLParam* param = condition.GetParam(index);
     auto& paramLabel = static_cast<TQPParamLabel&>(label);
     paramLabel.Name = ToQString(param->GetParamName());
     paramLabel.Prompt = ToQString(param->GetOwnDisplayName());
+    return;
   } else if (IsList(kind)) {
     auto& list = static_cast<TDropDownList&>(label);
-    const bool isFetched = kind == vkFetchedItem || kind == vkFetchedItems;
+    const bool isFetched = kind == qvFetchedItem || kind == qvFetchedItems;
     const auto* sqlEditor = isFetched ? static_cast<const TDSSQLEditor*>(editor) : nullptr;
     list.SetListFault({});
     list.SetBusy(isFetched && !sqlEditor->GetOpened());
-    list.SetItems(kind == vkBoolean ? TruthItems(condition.GetQueryPanel())
+    list.SetItems(kind == qvBoolean ? TruthItems(condition.GetQueryPanel())
                                     : ItemsOf(static_cast<const TDSListEditor&>(*editor)));
     list.SetValue(list.GetValue());
   }
+  if (textEditor == nullptr || textEditor->GetDefaultValue().empty() || !label.GetValue().isEmpty()) return;
+  const std::string& value = textEditor->GetDefaultValue();
+  label.SetValue(kind == qvTextList ? QuotedItem(value) : LabelText(kind, value, SettingsOf(condition)));
 }
 
 void ShowFetched(TDropDownLabel& label, const TFilterCond& condition, int index, const QString& fault) {
@@ -311,20 +365,25 @@ void ShowFetched(TDropDownLabel& label, const TFilterCond& condition, int index,
 
 void TakeValue(const TDropDownLabel& label, TQPValueKind kind, TFilterCond& condition, int index) {
   const QString& value = label.GetValue();
-  if (kind == vkParam) {
+  if (kind == qvParam) {
     const auto& paramLabel = static_cast<const TQPParamLabel&>(label);
     TSQLParam& param = *condition.GetParam(index);
-    param.SetDisplayName(FromQString(paramLabel.Prompt));
     param.SetParamName(FromQString(paramLabel.Name));
+    param.SetDisplayName(FromQString(paramLabel.Prompt));
     return;
   }
   std::string text = FromQString(value), caption;
-  if (kind == vkTextList) {
+  if (kind == qvTextList) {
     text = CommaTextOf(value);
+  } else if (kind == qvMemo) {
+    const TTextCase textCase = CaseOf(dynamic_cast<const TDSTextEditor*>(condition.GetValueEditor(index)));
+    if (textCase != TTextCase::tcNone) {
+      text = FromQString(textCase == TTextCase::tcUpper ? value.toUpper() : value.toLower());
+    }
   } else if (IsDate(kind)) {
     const auto date = ReadDate(value, DateKindOf(kind), IsoFormat(DateKindOf(kind)));
     if (date && !value.isEmpty()) text = FloatToStr(*date, SettingsOf(condition));
-  } else if (IsList(kind) && kind != vkBoolean && label.GetCaption() != value) {
+  } else if (IsList(kind) && kind != qvBoolean && label.GetCaption() != value) {
     caption = FromQString(label.GetCaption());
   }
   condition.SetValue(index, text);

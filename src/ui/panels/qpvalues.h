@@ -14,20 +14,20 @@ namespace tolvi {
 /// false, an item of a list, several of them, the same fetched by SQL, by the host, as a query of its own, as a
 /// parameter.
 enum class TQPValueKind : std::uint8_t {
-  vkText,
-  vkTextList,
-  vkMemo,
-  vkDate,
-  vkTime,
-  vkDateTime,
-  vkBoolean,
-  vkItem,
-  vkItems,
-  vkFetchedItem,
-  vkFetchedItems,
-  vkHost,
-  vkQuery,
-  vkParam,
+  qvText,
+  qvTextList,
+  qvMemo,
+  qvDate,
+  qvTime,
+  qvDateTime,
+  qvBoolean,
+  qvItem,
+  qvItems,
+  qvFetchedItem,
+  qvFetchedItems,
+  qvHost,
+  qvQuery,
+  qvParam,
 };
 
 /// By the value's kind, the field's editor, and the type.
@@ -61,6 +61,11 @@ class TQPParamLabel final : public TDropDownLabel {
   QWidget* CreateEditor(QWidget* parent) override;
   bool TakeFromEditor(QWidget& editor) override;
   bool TabMovesInEditor() const override { return true; }
+  /// Not while the name is none.
+  bool AcceptsByKey(const QKeyEvent& key) const override;
+
+ private:
+  class TEditor;
 };
 
 /// A label of that kind without a value. The caller sets its events.
@@ -68,7 +73,12 @@ TDropDownLabel* MakeValueLabel(TQPValueKind kind, QWidget* parent);
 /// Shows the value, worded as in the row's sentence, with what is wrong with it.
 void ShowValue(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index,
                const TPhrasePart& part);
-/// What the label offers, set when it opens. Lists fetched by SQL are marked as busy until `ShowFetched`.
+/// The value as the label keeps it.
+QString LabelValue(TQPValueKind kind, const TFilterCond& condition, int index);
+/// Whether two values of a label are the same; for several items, in whatever order.
+bool IsSameValue(TQPValueKind kind, const QString& value, const QString& other);
+/// What the label offers, set when it opens; the default value where there is none. Lists fetched by SQL are marked as
+/// busy until `ShowFetched`.
 void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index);
 void ShowFetched(TDropDownLabel& label, const TFilterCond& condition, int index, const QString& fault);
 /// Gives the condition the value that the user has chosen. Raises `EJQueryPanelError` for a parameter's name that is

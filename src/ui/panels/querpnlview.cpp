@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/panel/rfldrows.h>
 #include <tolvi/panel/titlefiles.h>
 #include <tolvi/query/rowerror.h>
 #include <tolvi/ui/dialogs/titlesdlg.h>
@@ -186,17 +187,14 @@ const std::vector<TDropDownItem>& TJQueryPanelView::FieldItems() {
   const TJCustomDBStructure* model = SeenModel();
   if (FFieldItems) return *FFieldItems;
   std::vector<TDropDownItem> items;
-  const auto add = [this, &items](const TDSFieldGroup& group) {
-    for (const TDSField* field : group) {
+  const auto groups = model != nullptr ? GroupsInOrder(*model) : std::vector<const TDSFieldGroup*>();
+  for (const TDSFieldGroup* group : groups) {
+    for (const TDSField* field : *group) {
       if (!field->GetUseInConditions()) continue;
       items.push_back(
-          {ToQString(group.GetGroupName()), QString::number(field->GetID()),
-           group.GetGroupName().empty() ? ToQString(Names().Of(*field)) : ToQString(field->GetDisplayName())});
+          {ToQString(group->GetGroupName()), QString::number(field->GetID()),
+           group->GetGroupName().empty() ? ToQString(Names().Of(*field)) : ToQString(field->GetDisplayName())});
     }
-  };
-  if (model != nullptr) {
-    add(model->RootGroup());
-    for (const TDSFieldGroup& group : model->FieldGroups()) add(group);
   }
   return FFieldItems.emplace(std::move(items));
 }

@@ -54,6 +54,12 @@ class TJQueryPanelView : public QAbstractScrollArea {
   Q_PRIVATE_PROPERTY(FAppearance, QColor valueColor READ GetValueColor WRITE SetValueColor RESET ResetValueColor)
   Q_PRIVATE_PROPERTY(FAppearance,
                      QColor parameterColor READ GetParameterColor WRITE SetParameterColor RESET ResetParameterColor)
+  Q_PRIVATE_PROPERTY(FAppearance, QFont linkWordFont READ GetLinkWordFont WRITE SetLinkWordFont RESET ResetLinkWordFont)
+  Q_PRIVATE_PROPERTY(FAppearance, QFont fieldFont READ GetFieldFont WRITE SetFieldFont RESET ResetFieldFont)
+  Q_PRIVATE_PROPERTY(FAppearance, QFont operatorFont READ GetOperatorFont WRITE SetOperatorFont RESET ResetOperatorFont)
+  Q_PRIVATE_PROPERTY(FAppearance, QFont valueFont READ GetValueFont WRITE SetValueFont RESET ResetValueFont)
+  Q_PRIVATE_PROPERTY(FAppearance,
+                     QFont parameterFont READ GetParameterFont WRITE SetParameterFont RESET ResetParameterFont)
   Q_PRIVATE_PROPERTY(FAppearance, int leftMargin READ GetLeftMargin WRITE SetLeftMargin)
   Q_PRIVATE_PROPERTY(FAppearance, int topMargin READ GetTopMargin WRITE SetTopMargin)
   Q_PRIVATE_PROPERTY(FAppearance, int rowSpace READ GetRowSpace WRITE SetRowSpace)

@@ -26,20 +26,23 @@ void TJQueryPanelView::Measure() {
   ensurePolished();
   TJRndBtn button(QStringLiteral("0"), viewport());
   TJFlatCheckBox box(viewport());
-  TDropDownEdit label(viewport());
-  label.SetCaption(QStringLiteral("0"));
-  label.resize(label.sizeHint());
   button.resize(button.sizeHint());
   const QFontMetrics fonts = fontMetrics();
   const auto orElse = [](int pixels, int byFont) { return pixels >= 0 ? pixels : byFont; };
   const int wide = fonts.averageCharWidth();
-  const std::pair<int, int> parts[] = {{button.GetBaseline(), button.sizeHint().height()},
-                                       {box.GetBaseline(), box.sizeHint().height()},
-                                       {label.GetBaseline(), label.height()}};
   int above = 0, below = 0;
-  for (const auto& [baseline, height] : parts) {
+  const auto reserve = [&](int baseline, int height) {
     above = std::max(above, baseline);
     below = std::max(below, height - baseline);
+  };
+  reserve(button.GetBaseline(), button.sizeHint().height());
+  reserve(box.GetBaseline(), box.sizeHint().height());
+  TDropDownEdit label(viewport());
+  label.SetCaption(QStringLiteral("0"));
+  for (const TPhraseKind kind : {pkText, pkLinkWord, pkField, pkOperator, pkValue, pkParameter}) {
+    label.setFont(FAppearance->FontOf(kind));
+    label.resize(label.sizeHint());
+    reserve(label.GetBaseline(), label.height());
   }
   FMetrics.RowSpace = orElse(FAppearance->GetRowSpace(), std::max(2, fonts.height() / 5));
   FMetrics.Left = orElse(FAppearance->GetLeftMargin(), wide);

@@ -304,7 +304,7 @@ void TJResultFieldsPanel::ReleaseRowMenu() {
 
 void TJResultFieldsPanel::RowButtonClick(TResultFieldRow& row) {
   FCurrentRow = &row;
-  if (FRowPopup == nullptr) return;
+  if (!FActive || FRowPopup == nullptr) return;
   const auto index = static_cast<std::size_t>(row.GetRowIndex());
   for (QAction* action : FRowPopup->actions()) {
     const auto tag = static_cast<TRFMenuTag>(action->data().toInt());

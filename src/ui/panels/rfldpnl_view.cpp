@@ -191,10 +191,11 @@ bool TJResultFieldsPanel::MoveFocus(int key) {
 
 // Deletes or moves the row that has the focus.
 bool TJResultFieldsPanel::EditByKey(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
   TRFMenuTag tag = mtSeparator;
-  if (event.key() == Qt::Key_Delete && event.modifiers() == Qt::NoModifier) tag = mtDelete;
-  if (event.key() == Qt::Key_Up && event.modifiers() == Qt::AltModifier) tag = mtMoveUp;
-  if (event.key() == Qt::Key_Down && event.modifiers() == Qt::AltModifier) tag = mtMoveDown;
+  if (event.key() == Qt::Key_Delete && modifiers == Qt::NoModifier) tag = mtDelete;
+  if (event.key() == Qt::Key_Up && modifiers == Qt::AltModifier) tag = mtMoveUp;
+  if (event.key() == Qt::Key_Down && modifiers == Qt::AltModifier) tag = mtMoveDown;
   if (tag == mtSeparator) return false;
   for (TResultFieldRow& row : FRows) {
     const QWidget* focused = row.GetFocusedPart();

@@ -48,6 +48,7 @@ TResultFieldRow::TResultFieldRow(TResultFieldRows& list) : FList(list) {
   FSortLabel = std::make_unique<TDropDownPopup>(content);
   FSortLabel->SetLinkColor(appearance.GetSortColor());
   FSortLabel->SetUnderlined(true);
+  FSortLabel->setAccessibleName(TJResultFieldsPanel::tr("Sorting"));
   Watch(*FSortLabel, rpSorting);
   for (const TRFItem& item : SortingItems(panel.GetTitles())) {
     FSortLabel->AddItem(ToQString(item.Group), ToQString(item.Value), ToQString(item.Text));
@@ -121,6 +122,7 @@ std::unique_ptr<TDropDownList> TResultFieldRow::MakeFieldLabel() const {
   }
   label->SetLinkColor(appearance.GetFieldColor());
   label->SetUnderlined(true);
+  label->setAccessibleName(TJResultFieldsPanel::tr("Field"));
   label->SetItems(panel.FieldItems());
   if (!label->Items().empty()) label->SetItemIndex(0);
   label->SetValue(ToQString(*FTexts.FieldValue));
