@@ -7,10 +7,13 @@
 #include <QHash>
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <set>
 
 #include "apps/screenshots/session.h"
 #include <tolvi/foundation/errors.h>
+#include <tolvi/panel/rfldeditor.h>
+#include <tolvi/ui/dialogs/rfldedlg.h>
 #include <tolvi/ui/qtext.h>
 
 using namespace tolvi;
@@ -25,9 +28,10 @@ struct TLook {
 };
 
 /// The looks and stations that the documentation shows; the rest is left out.
-const std::set<std::string> documented{"keys-start",   "keys-field",     "keys-mistake",       "keys-linkword",
-                                       "keys-sorting", "mouse-menu",     "mouse-operator",     "mouse-rowmenu",
-                                       "mouse-drag",   "mouse-finished", "dark-keys-finished", "arabic-keys-finished"};
+const std::set<std::string> documented{"keys-start",          "keys-field",     "keys-mistake",   "keys-linkword",
+                                       "keys-sorting",        "mouse-menu",     "mouse-operator", "mouse-rowmenu",
+                                       "mouse-drag",          "mouse-finished", "mouse-editor",   "dark-keys-finished",
+                                       "arabic-keys-finished"};
 
 QPalette DarkPalette() {
   QPalette palette;
@@ -74,6 +78,19 @@ QImage Reduced(const QImage& picture) {
   return picture.convertToFormat(QImage::Format_Indexed8, colors.mid(0, 256), Qt::ThresholdDither | Qt::AvoidDither);
 }
 
+/// The dialog on the columns of the window, with one more: a formula over two fields.
+QImage EditorPicture(THostWindow& window, const THostTexts& texts) {
+  TTitles titles;
+  titles.Assign(texts.Titles);
+  T_dlgRFieldEdit dialog(*window.GetColumns().GetResultFields(), titles);
+  TRFieldEditor& editor = dialog.Editor();
+  editor.New();
+  editor.SetExpression("sum({OrderLines.Quantity} * {OrderLines.UnitPrice})");
+  dialog.show();
+  QCoreApplication::processEvents();
+  return dialog.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 /// Plays the session, keeps the pictures that are wanted, and returns the statement.
 std::string Play(const TLook& look, bool byKeys, const QString& folder, bool all) {
   Apply(look);
@@ -87,13 +104,15 @@ std::string Play(const TLook& look, bool byKeys, const QString& folder, bool all
   THostWindow window(model, texts);
   window.Open();
   const std::string prefix = look.Name + (byKeys ? "keys-" : "mouse-");
-  const auto keep = [&](const std::string& station) {
+  const auto save = [&](const std::string& station, const std::function<QImage()>& picture) {
     const std::string name = prefix + station;
     if (!all && documented.count(name) == 0) return;
     const QString file = QDir(folder).filePath(ToQString(name) + QStringLiteral(".png"));
-    if (!Reduced(window.GetPicture()).save(file, "PNG", 0)) throw EException("cannot write " + FromQString(file));
+    if (!Reduced(picture()).save(file, "PNG", 0)) throw EException("cannot write " + FromQString(file));
   };
+  const auto keep = [&](const std::string& station) { save(station, [&window] { return window.GetPicture(); }); };
   byKeys ? PlayByKeys(window, keep) : PlayByMouse(window, keep);
+  if (!byKeys) save("editor", [&] { return EditorPicture(window, texts); });
   return window.GetStatement();
 }
 

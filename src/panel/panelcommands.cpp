@@ -30,6 +30,7 @@ constexpr TPanelCommandInfo Commands[] = {
     {pcParameter, "ParameterValue", "ttlParameter", "", "", "The value is asked for each time the query runs",
      "Ctrl+2"},
     {pcSubQuery, "SubQueryValue", "ttlSubQueryCaption", "", "", "The value comes from a query of its own", "Ctrl+3"},
+    {pcValueList, "ValueList", "", "", "Value &list...", "Edits the values of a list, one in a line", "Ctrl+4"},
     {pcDuplicate, "DuplicateRow", "", "", "Duplic&ate row", "Puts a copy behind the current row", "Ctrl+D"},
     {pcWrap, "WrapRow", "", "", "&Wrap in new bracket", "Puts the current row into a new bracket", "Ctrl+G"},
     {pcUngroup, "UngroupBracket", "", "", "U&ngroup bracket", "Replaces the current bracket by its rows",
@@ -193,6 +194,15 @@ bool CanCollapse(const TPanelEditor& editor, const TTarget& target) {
          (!Collapsed || static_cast<TFilterBracket*>(target.Row)->GetRowCount() > 0);
 }
 
+/// Whether the value is a list that is typed, rather than chosen from items.
+bool CanEditList(const TPanelEditor& editor, const TTarget& target) {
+  const TFilterCond* condition = target.Condition();
+  return condition != nullptr && editor.CanEdit(*condition) && target.Argument >= 1 &&
+         target.Argument <= condition->GetValueCount() && condition->GetValueKind(target.Argument) == vkList &&
+         !condition->GetValueIsParam(target.Argument) &&
+         dynamic_cast<const TDSListEditor*>(condition->GetValueEditor(target.Argument)) == nullptr;
+}
+
 template <bool IsParam>
 bool CanSetParam(const TPanelEditor& editor, const TTarget& target) {
   const TFilterCond* condition = target.Condition();
@@ -312,6 +322,7 @@ bool IsOn(const TPanelEditor& editor, TPanelCommand command, const TFilterRow* r
 }
 
 bool CanRun(const TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument) {
+  if (command == pcValueList) return CanEditList(editor, {row, argument});
   const TCommandRule* rule = RuleOf(command);
   if (rule != nullptr) return rule->Can(editor, {row, argument});
   return editor.IsActive() && (row != nullptr || command == pcAddMenu);

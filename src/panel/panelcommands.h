@@ -29,6 +29,7 @@ enum TPanelCommand : std::uint8_t {
   pcConstant,
   pcParameter,
   pcSubQuery,
+  pcValueList,
   pcDuplicate,
   pcWrap,
   pcUngroup,
@@ -107,6 +108,8 @@ bool IsOn(const TPanelEditor& editor, TPanelCommand command, const TFilterRow* r
 /// Runs the command; the panel may be gone then. False when it is not possible or for the view to do. Raises what
 /// `TPanelEditor` raises for texts that cannot be pasted.
 bool RunCommand(TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument = -1);
+/// Whether the command is about a value of the row.
+constexpr bool IsValueCommand(TPanelCommand command) { return command >= pcConstant && command <= pcValueList; }
 /// Whether only a view can run the command.
 bool IsViewCommand(TPanelCommand command);
 

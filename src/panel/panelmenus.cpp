@@ -28,6 +28,7 @@ constexpr TEntry AddEntries[] = {pcAddCond, pcAddBracket, pcAddCustomCond, Separ
 // What is possible when a failed import has left the panel inactive.
 constexpr TEntry InactiveEntries[] = {pcUndo, pcRedo};
 constexpr TEntry ValueEntries[] = {pcConstant, pcParameter, pcSubQuery};
+constexpr TEntry ListEntries[] = {pcConstant, pcParameter, pcSubQuery, Separator, pcValueList};
 
 /// A sentence with places for values as a caption.
 std::string ConditionCaption(const TDSCondition& condition) {
@@ -83,7 +84,9 @@ TPanelMenu AddMenu(const TPanelEditor& editor, const TCommandTitles& titles) {
 }
 
 TPanelMenu ValueMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterCond& condition, int index) {
-  return MakeMenu(editor, titles, ValueEntries, &condition, index);
+  const bool isList = CanRun(editor, pcValueList, &condition, index);
+  const auto entries = isList ? std::span<const TEntry>(ListEntries) : std::span<const TEntry>(ValueEntries);
+  return MakeMenu(editor, titles, entries, &condition, index);
 }
 
 }  // namespace tolvi

@@ -27,7 +27,8 @@ using TPanelMenu = std::vector<TPanelMenuItem>;
 TPanelMenu RowMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterRow& row);
 /// The menu of the label at the end of the panel: add to the panel, paste. Undo and redo for an inactive panel.
 TPanelMenu AddMenu(const TPanelEditor& editor, const TCommandTitles& titles);
-/// The menu of a value (1 or 2): what kind of value it is; the present one is checked.
+/// The menu of a value (1 or 2): what kind of value it is; the present one is checked. For a list that
+/// is typed, its values as lines, too.
 TPanelMenu ValueMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterCond& condition, int index);
 
 }  // namespace tolvi

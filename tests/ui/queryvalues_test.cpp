@@ -1,3 +1,4 @@
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 
@@ -111,6 +112,35 @@ TEST_F(QueryPanelView, OffersValuesByTheEditorOfTheField) {
   EXPECT_EQ(custom.GetValue(1), "by host");
   ClickLabel(3, "value1", QStringLiteral("False"));
   EXPECT_EQ(truth.GetValue(1), "0");
+}
+
+TEST_F(QueryPanelView, EditsAListOfValuesAsLines) {
+  TSimpleCond& numbers = Add("Orders.OrderNo", "InList", "3,5");
+  Settle();
+  Label(1, "value1").setFocus();
+  QTimer untilOpen;
+  QObject::connect(&untilOpen, &QTimer::timeout, view, [&untilOpen] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    untilOpen.stop();
+    auto* lines = dialog->findChild<QPlainTextEdit*>();
+    EXPECT_EQ(lines->toPlainText(), QStringLiteral("3\n5"));
+    lines->moveCursor(QTextCursor::End);
+    QTest::keyClicks(lines, QStringLiteral("x"));
+    EXPECT_EQ(lines->extraSelections().size(), 1);
+    EXPECT_TRUE(lines->accessibleDescription().startsWith(QStringLiteral("Line 2: Field \"Order no\": \"5x\" is not")));
+    QTest::keyClick(lines, Qt::Key_Backspace);
+    QTest::keyClick(lines, Qt::Key_Return);
+    lines->insertPlainText(QStringLiteral(" 7\n\n12 \n"));
+    EXPECT_TRUE(lines->extraSelections().isEmpty());
+    QTest::keyClick(lines, Qt::Key_Return, Qt::ControlModifier);
+  });
+  untilOpen.start(10);
+  Press(Qt::Key_4, Qt::ControlModifier);
+  EXPECT_EQ(numbers.GetValue(1), "3,5,7,12");
+  QContextMenuEvent event(QContextMenuEvent::Mouse, {}, Label(1, "value1").mapToGlobal(QPoint(3, 3)));
+  QApplication::sendEvent(&Label(1, "value1"), &event);
+  EXPECT_EQ(Menu(), QStringLiteral("Constant value\nParameter\n!Sub-query\n-\nValue &list...\n"));
 }
 
 TEST_F(QueryPanelView, EditsParametersAndSubQueries) {

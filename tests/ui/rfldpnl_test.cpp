@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -299,6 +300,25 @@ TEST_F(ResultFieldsPanel, IsWorkedWithTheKeyboardAlone) {
   QApplication::sendEvent(&Row(1).GetSortLabel(), &menuKey);
   EXPECT_TRUE(Panel->GetRowMenu()->isVisible());
   Panel->GetRowMenu()->close();
+  // Below the rows, and with a key: the dialog.
+  for (const bool byKey : {false, true}) {
+    bool wasOpen = false;
+    QTimer::singleShot(50, Panel, [&wasOpen] {
+      auto* dialog = qobject_cast<T_dlgRFieldEdit*>(QApplication::activeModalWidget());
+      wasOpen = dialog != nullptr;
+      if (wasOpen) dialog->reject();
+    });
+    if (byKey) {
+      Row(1).GetSortLabel().setFocus();
+      Key(Qt::Key_E, Qt::ControlModifier);
+    } else {
+      user::RightClick(Panel->GetAddRowLabel());
+      EXPECT_TRUE(user::ChooseFromMenu(QStringLiteral("editFields")));
+      QTest::qWait(100);
+    }
+    EXPECT_TRUE(wasOpen) << byKey;
+    QApplication::setActiveWindow(&window);
+  }
   for (int i = 0; i < 3; ++i) {
     Row(0).GetButton().setFocus();
     Key(Qt::Key_Delete, i == 1 ? Qt::KeypadModifier : Qt::NoModifier);

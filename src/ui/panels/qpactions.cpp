@@ -23,7 +23,7 @@ QList<QKeySequence> KeysOf(const TPanelCommandInfo& info, bool rightToLeft) {
 
 /// Whether the command switches something on and off, or chooses one of several kinds.
 bool IsSwitch(TPanelCommand command) {
-  return command == pcEnable || command == pcLock || (command >= pcConstant && command <= pcSubQuery);
+  return command == pcEnable || command == pcLock || (IsValueCommand(command) && command != pcValueList);
 }
 
 /// The key without what tells keyboards apart: the number block, and Shift for signs that need it on some.

@@ -169,6 +169,23 @@ QString FaultOfValue(const TFilterCond& condition, int index) {
   return {};
 }
 
+/// Why the literal cannot be written; empty when it can.
+template <typename TAppend>
+QString FaultOfLiteral(const TFilterCond& condition, int index, TAppend append) {
+  const TJQueryPanel& panel = condition.GetQueryPanel();
+  const TJCustomDBStructure* model = panel.GetDBStruct();
+  if (model == nullptr) return {};
+  const std::string name = condition.GetValueName(index);
+  const TValueContext context{model->SQLFormats(), panel.GetFormatSettings(), panel.GetSQLSyntax(), name};
+  std::string literal;
+  try {
+    append(literal, context);
+  } catch (const EException& error) {
+    return ToQString(error.Message());
+  }
+  return {};
+}
+
 }  // namespace
 
 QString LabelValue(TQPValueKind kind, const TFilterCond& condition, int index) {
@@ -198,23 +215,18 @@ TQPValueKind ValueKindOf(const TFilterCond& condition, int index) {
   return isList ? qvTextList : kind;
 }
 
+QString FaultOfItem(const TFilterCond& condition, int index, const QString& item) {
+  return FaultOfLiteral(condition, index, [&](std::string& literal, const TValueContext& context) {
+    AppendLiteral(literal, FromQString(item), condition.GetValueType(index), context);
+  });
+}
+
 QString FaultOfText(const TFilterCond& condition, int index, const QString& text) {
-  const TJQueryPanel& panel = condition.GetQueryPanel();
-  const TJCustomDBStructure* model = panel.GetDBStruct();
-  if (text.isEmpty() || model == nullptr || condition.GetValueIsParam(index)) return {};
-  const std::string name = condition.GetValueName(index);
-  const TValueContext context{model->SQLFormats(), panel.GetFormatSettings(), panel.GetSQLSyntax(), name};
-  std::string literal;
-  try {
-    if (condition.GetValueKind(index) == vkList) {
-      AppendLiteralList(literal, CommaTextOf(text), condition.GetValueType(index), context);
-    } else {
-      AppendLiteral(literal, FromQString(text), condition.GetValueType(index), context);
-    }
-  } catch (const EException& error) {
-    return ToQString(error.Message());
-  }
-  return {};
+  if (text.isEmpty() || condition.GetValueIsParam(index)) return {};
+  if (condition.GetValueKind(index) != vkList) return FaultOfItem(condition, index, text);
+  return FaultOfLiteral(condition, index, [&](std::string& literal, const TValueContext& context) {
+    AppendLiteralList(literal, CommaTextOf(text), condition.GetValueType(index), context);
+  });
 }
 
 // Labels

@@ -87,5 +87,7 @@ void TakeValue(const TDropDownLabel& label, TQPValueKind kind, TFilterCond& cond
 
 /// Why the text cannot be a value of the condition; empty when it can.
 QString FaultOfText(const TFilterCond& condition, int index, const QString& text);
+/// The same of one value of a list.
+QString FaultOfItem(const TFilterCond& condition, int index, const QString& item);
 
 }  // namespace tolvi

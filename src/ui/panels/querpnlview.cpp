@@ -9,6 +9,7 @@
 #include <tolvi/panel/titlefiles.h>
 #include <tolvi/query/rowerror.h>
 #include <tolvi/ui/dialogs/titlesdlg.h>
+#include <tolvi/ui/dialogs/valuelistdlg.h>
 #include <tolvi/ui/panels/linklabel.h>
 #include <tolvi/ui/panels/qpaccess.h>
 #include <tolvi/ui/panels/qpdrag.h>
@@ -347,6 +348,22 @@ void TJQueryPanelView::EditSubQuery(TFilterCond& condition, int index) {
     target->SetSubQuery(query->Lines);
     target->SetSubQueryOptions(query->Options);
   });
+}
+
+void TJQueryPanelView::EditValueList(TFilterCond& condition, int index) {
+  const std::uint64_t serial = condition.GetSerial();
+  const QPointer<TJQueryPanelView> self(this);
+  const auto check = [this, self, serial, index](const QString& value) {
+    auto* target = self ? static_cast<TFilterCond*>(RowBySerial(serial)) : nullptr;
+    return target != nullptr ? FaultOfItem(*target, index, value) : QString();
+  };
+  TStrings values(SplitCommaText(condition.GetValue(index)));
+  const QString caption = ToQString(condition.GetValueName(index));
+  const TTitles titles = FPanel->Titles();
+  if (!tolvi::EditValueList(this, values, caption, titles, check) || !self) return;
+  if (auto* target = static_cast<TFilterCond*>(RowBySerial(serial))) {
+    Edit(*target, [&] { target->SetValue(index, values.GetCommaText()); });
+  }
 }
 
 }  // namespace tolvi

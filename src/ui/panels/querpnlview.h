@@ -144,6 +144,7 @@ class TJQueryPanelView : public QAbstractScrollArea {
   void FetchItems(TDSSQLEditor& editor, const std::function<void(const QString& fault)>& done);
   void EditCustom(TFilterCond& condition, int index);
   void EditSubQuery(TFilterCond& condition, int index);
+  void EditValueList(TFilterCond& condition, int index);
   void OpenRowMenu(TQPRow& row, const QPoint& globalPos);
   void OpenValueMenu(TQPRow& row, int index, const QPoint& globalPos);
   void OpenAddMenu();
@@ -186,7 +187,7 @@ class TJQueryPanelView : public QAbstractScrollArea {
   TFilterRow* TargetRow() const;
   int TargetValue() const;
   void UpdateActions();
-  bool RunViewCommand(TPanelCommand command);
+  bool RunViewCommand(TPanelCommand command, int argument);
   bool GoToRow(TPanelCommand command);
   bool GoToPart(bool next, bool beyond);
   bool LeaveByTab(bool next);

@@ -172,7 +172,7 @@ bool TJQueryPanelView::GoToRow(TPanelCommand command) {
   return true;
 }
 
-bool TJQueryPanelView::RunViewCommand(TPanelCommand command) {
+bool TJQueryPanelView::RunViewCommand(TPanelCommand command, int argument) {
   TQPRow* focused = FocusedRow();
   TFilterRow* current = TargetRow();
   TQPRow* row = focused == nullptr && current != nullptr ? RowWidget(*current) : focused;
@@ -192,6 +192,9 @@ bool TJQueryPanelView::RunViewCommand(TPanelCommand command) {
       return true;
     case pcAddMenu:
       OpenAddMenu();
+      return true;
+    case pcValueList:
+      EditValueList(static_cast<TFilterCond&>(*current), argument);
       return true;
     case pcAddCustomCond: {
       const TPanelMenu menu = AddMenu(*FEditor, FCommandTitles);
@@ -217,8 +220,7 @@ void TJQueryPanelView::UpdateActions() {
   TFilterRow* row = TargetRow();
   const int value = row != nullptr && row->GetRowType() != frtBracket ? TargetValue() : -1;
   for (const TPanelCommandInfo& info : PanelCommands()) {
-    const bool isOfValue = info.Command >= pcConstant && info.Command <= pcSubQuery;
-    const int argument = isOfValue ? value : -1;
+    const int argument = IsValueCommand(info.Command) ? value : -1;
     // The clipboard is looked at when it is needed.
     const bool isPossible =
         FEditor && (info.Command == pcPaste ? FEditor->IsActive() : CanRun(*FEditor, info.Command, row, argument));
@@ -234,7 +236,7 @@ bool TJQueryPanelView::RunCommand(TPanelCommand command, int argument) {
   ShowChanges();
   if (command >= pcPrevRow && command <= pcLastRow) return GoToRow(command);
   TFilterRow* row = TargetRow();
-  if (argument < 0 && command >= pcConstant && command <= pcSubQuery) argument = TargetValue();
+  if (argument < 0 && IsValueCommand(command)) argument = TargetValue();
   if (!CanRun(*FEditor, command, row, argument)) return false;
   const QPointer<TJQueryPanelView> self(this);
   bool done = false;
@@ -247,7 +249,7 @@ bool TJQueryPanelView::RunCommand(TPanelCommand command, int argument) {
     return false;
   }
   if (!self) return done;
-  return done || RunViewCommand(command);
+  return done || RunViewCommand(command, argument);
 }
 
 // Keys

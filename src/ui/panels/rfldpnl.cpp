@@ -168,10 +168,10 @@ void TJResultFieldsPanel::Refresh() {
   update();
 }
 
-bool TJResultFieldsPanel::EditFields(const TTitles& titles, TRFHelpEvent onHelp) {
+bool TJResultFieldsPanel::EditFields() {
   if (FResultFields == nullptr) throw ERFPanelError(SDBStructureNotSpecified, {});
   const QPointer<TJResultFieldsPanel> alive(this);
-  const QPointer<T_dlgRFieldEdit> dialog = new T_dlgRFieldEdit(*FResultFields, titles, std::move(onHelp), this);
+  const QPointer<T_dlgRFieldEdit> dialog = new T_dlgRFieldEdit(*FResultFields, FEditorTitles, OnEditorHelp, this);
   const bool accepted = dialog->exec() == QDialog::Accepted;
   if (!dialog) return false;
   // The host may have given the panel another model meanwhile.

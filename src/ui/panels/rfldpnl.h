@@ -98,9 +98,14 @@ class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   bool GetRefreshing() const { return FRefreshing; }
 
   /// Lets the user edit the columns in a dialog; whether OK was chosen. Then the rows are made anew and `OnChange` is
-  /// fired once. The texts are those of "[Result Fields Editor]", the help button is shown only with a handler. Raises
-  /// `ERFPanelError` "DBStructure is not specified" without a model.
-  bool EditFields(const TTitles& titles = {}, TRFHelpEvent onHelp = {});
+  /// fired once. Raises `ERFPanelError` "DBStructure is not specified" without a model. Users get there with Ctrl+E,
+  /// and by the menu that the right mouse button opens below the rows.
+  bool EditFields();
+  /// The texts of the dialog are those of "[Result Fields Editor]". Default: English.
+  const TTitles& GetEditorTitles() const { return FEditorTitles; }
+  void SetEditorTitles(const TTitles& titles) { FEditorTitles = titles; }
+  /// The dialog's help button is clicked; without a handler there is none.
+  TRFHelpEvent OnEditorHelp;
 
   /// Makes the rows anew from the columns.
   void Refresh();
@@ -130,6 +135,7 @@ class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   // For the rows.
   void Changed();
   void RowEdited(TResultFieldRow& row, TRFRowPart part);
+  void OpenPanelMenu(const QPoint& globalPos);
   void RowButtonClick(TResultFieldRow& row);
   void PutAt(QWidget& widget, TRFPoint place, int width, int height);
   const std::vector<TDropDownItem>& FieldItems();
@@ -160,6 +166,7 @@ class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   TRef<TJCustomDBStructure> FDBStruct;
   std::unique_ptr<TRFieldList> FResultFields;
   std::unique_ptr<TRFPAppearance> FAppearance;
+  TTitles FEditorTitles;
   TStrings FTitles;
   TResultFieldRows FRows;
   TResultFieldRow* FCurrentRow = nullptr;

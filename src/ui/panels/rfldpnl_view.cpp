@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPointer>
 #include <algorithm>
 
@@ -209,6 +210,11 @@ bool TJResultFieldsPanel::EditByKey(const QKeyEvent& event) {
 
 void TJResultFieldsPanel::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+  if (FActive && modifiers == Qt::ControlModifier && event->key() == Qt::Key_E) {
+    event->accept();
+    EditFields();
+    return;
+  }
   if (FActive && (EditByKey(*event) || (modifiers == Qt::NoModifier && MoveFocus(event->key())))) {
     event->accept();
     return;
@@ -226,7 +232,26 @@ void TJResultFieldsPanel::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
     return RowButtonClick(row);
   }
-  QScrollArea::contextMenuEvent(event);
+  if (!FActive) return QScrollArea::contextMenuEvent(event);
+  event->accept();
+  const QPoint below = FAddRowLabel->mapToGlobal(QPoint(0, FAddRowLabel->height()));
+  OpenPanelMenu(byKey ? below : event->globalPos());
+}
+
+// What can be done besides the rows.
+void TJResultFieldsPanel::OpenPanelMenu(const QPoint& globalPos) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  QAction* add = menu->addAction(GetTitle("ttlClickToAdd"));
+  QAction* edit = menu->addAction(ToQString(FEditorTitles.GetTitle("ttlRFETitle")) + QStringLiteral("..."));
+  // The menu must be gone before a handler can destroy the panel.
+  connect(add, &QAction::triggered, FAddRowLabel, &QAbstractButton::click, Qt::QueuedConnection);
+  connect(
+      edit, &QAction::triggered, this, [this] { EditFields(); }, Qt::QueuedConnection);
+  edit->setObjectName(QStringLiteral("editFields"));
+  edit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
+  edit->setShortcutVisibleInContextMenu(true);
+  menu->popup(isRightToLeft() ? globalPos - QPoint(menu->sizeHint().width(), 0) : globalPos);
 }
 
 }  // namespace tolvi
