@@ -22,6 +22,7 @@ MAY_INCLUDE = {
     "panel": ["foundation", "schema", "sqlimport", "model", "query"],
     "connect": ["foundation", "schema", "sqlimport", "model", "query", "store"],
     "ui": ["foundation", "schema", "sqlimport", "model", "query", "store", "panel"],
+    "xml": ["foundation", "schema", "sqlimport", "model"],
 }
 
 # The core uses these and nothing else from outside.
@@ -159,6 +160,9 @@ SELF_TESTS = [
       "src/connect/a.cpp:2: #include <tolvi/ui/panel.h>: connect must not see ui"]),
     ("src/ui/a.cpp", "#include <tolvi/connect/store.h>\n",
      ["src/ui/a.cpp:1: #include <tolvi/connect/store.h>: ui must not see connect"]),
+    ("src/xml/a.cpp", "#include <QString>\n#include <tolvi/query/rows.h>\n#include <tolvi/connect/store.h>\n",
+     ["src/xml/a.cpp:2: #include <tolvi/query/rows.h>: xml must not see query",
+      "src/xml/a.cpp:3: #include <tolvi/connect/store.h>: xml must not see connect"]),
     ("src/ui/a.cpp", '#include "b.h"\n', [f'src/ui/a.cpp:1: #include "b.h": {ONLY_TOLVI}']),
     ("src/model/a.h", "#include <tolvi/table.h>\n#include <tolvi/tables/table.h>\n#include <model/table.h>\n",
      ["src/model/a.h:1: #include <tolvi/table.h>: src has no such folder",

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds programs that are not part of Tolvi against it: one with find_package from an install tree (and those that
-# use databases and panels, if the build has these parts), one with add_subdirectory. Says nothing when both work.
+# use databases, panels and XML, if the build has these parts), one with add_subdirectory. Says nothing when both work.
 #
 #   check_package.sh [BUILD-DIR]     the build to install; default: build/release, which `./run build` makes
 set -eu
@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 root=$PWD
 build=${1:-build/release}
 work=$root/build/package
-rm -rf "$work/installed" "$work/embed" "$work/connect" "$work/widgets" "$work/wrong" # the host's build stays: it compiles the core once more
+rm -rf "$work/installed" "$work/embed" "$work/connect" "$work/widgets" "$work/wrong" "$work/xml" # the host's build stays: it compiles the core once more
 mkdir -p "$work/host" "$work/wrong"
 
 # expect_success / expect_failure COMMAND...: the output is in $work/log, and shown when the outcome is the other one.
@@ -39,6 +39,28 @@ if [ -n "$(find "$work/installed" -name TolviWidgetsTargets.cmake)" ]; then
     samples/shop/queries/03-customers-who-never-ordered.qry --sql
   grep -q '^not exists (select 1 from Orders x where x.CustomerID = Customers.CustomerID)$' "$work/log" ||
     { cat "$work/log" && echo "the window shows another statement" && exit 1; }
+fi
+
+if [ -n "$(find "$work/installed" -name TolviXmlTargets.cmake)" ]; then
+  mkdir -p "$work/xml"
+  cat >"$work/xml/CMakeLists.txt" <<'TEXT'
+cmake_minimum_required(VERSION 3.25)
+project(xml LANGUAGES CXX)
+find_package(Tolvi REQUIRED COMPONENTS Xml)
+add_executable(xml main.cpp)
+target_link_libraries(xml PRIVATE Tolvi::Xml)
+TEXT
+  cat >"$work/xml/main.cpp" <<'TEXT'
+#include <tolvi/xml/modelxml.h>
+int main() {
+  tolvi::TJDBStructure model;
+  tolvi::LoadModelFromXml(model, tolvi::ModelToXml(model));
+  return model.GetOperatCount() == 15 ? 0 : 1;
+}
+TEXT
+  expect_success cmake -G Ninja -S "$work/xml" -B "$work/xml/build" -D CMAKE_PREFIX_PATH="$work/installed"
+  expect_success cmake --build "$work/xml/build"
+  expect_success "$work/xml/build/xml"
 fi
 
 cat >"$work/host/CMakeLists.txt" <<TEXT

@@ -9,6 +9,7 @@
 #include <tolvi/foundation/text.h>
 #include <tolvi/query/explain.h>
 #include <tolvi/query/querycheck.h>
+#include <tolvi/xml/modelxml.h>
 
 namespace tolvi {
 namespace {
@@ -145,7 +146,8 @@ int RunPath(TSession& session) {
 
 int RunModel(TSession& session) {
   session.LoadModel(session.Arguments.Operands[0]);
-  session.Print(WithLineFeeds(session.Model.GetStructString()));
+  const bool xml = session.Arguments.Value("to") == "xml";
+  session.Print(xml ? ModelToXml(session.Model) : WithLineFeeds(session.Model.GetStructString()));
   return 0;
 }
 
@@ -180,7 +182,8 @@ int RunCheck(TSession& session) {
     }
   };
   session.ModelSource = ReadSource(std::string(session.Arguments.Value("model")), session.Streams.In);
-  if (!checked(session.ModelSource, [&] { session.Model.SetStructString(session.ModelSource.Text); })) return status;
+  if (!checked(session.ModelSource, [&] { LoadModelFromAnyText(session.Model, session.ModelSource.Text); }))
+    return status;
   PrintFindings(session, session.ModelSource, CheckModel(session.Model), status);
   session.Panel.SetDBStruct(&session.Model);
   session.Panel.SetAllowSQLFragments(session.Arguments.Has("fragments"));

@@ -8,9 +8,17 @@
 namespace tolvi {
 namespace {
 
-constexpr std::string_view StandardInput = "-", LinePrefix = "Line ";
+constexpr std::string_view StandardInput = "-", LinePrefix = "Line ", ColumnPrefix = ", column ";
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+/// Takes the prefix and the number behind it off a message. Returns the number; empty, and the message as it was, when
+/// it does not begin so.
+std::string_view TakeNumber(std::string_view& message, std::string_view prefix) {
+  if (!message.starts_with(prefix)) return {};
+  const std::string_view rest = message.substr(prefix.size());
+  const std::string_view number = rest.substr(0, rest.find_first_not_of("0123456789"));
+  if (!number.empty()) message = rest.substr(number.size());
+  return number;
+}
 
 bool AnyHeader(std::string_view) { return true; }
 
@@ -25,14 +33,16 @@ std::string TPlaces::Of(std::string_view section) const {
 }
 
 std::string TSource::Located(std::string_view message, std::string_view kind) const {
-  if (message.starts_with(LinePrefix)) {
-    std::size_t end = LinePrefix.size();
-    while (end < message.size() && IsDigit(message[end])) ++end;
-    const std::string_view number = message.substr(LinePrefix.size(), end - LinePrefix.size());
-    const std::string_view rest = message.substr(end);
-    if (!number.empty() && (rest.starts_with(", ") || rest.starts_with(": "))) {
-      return Name + ":" + std::string(number) + ": " + std::string(kind) + std::string(rest.substr(2));
-    }
+  std::string place = Name;
+  std::string_view rest = message;
+  const std::string_view line = TakeNumber(rest, LinePrefix);
+  if (!line.empty()) {
+    place.append(":").append(line);
+    const std::string_view column = TakeNumber(rest, ColumnPrefix);
+    if (!column.empty()) place.append(":").append(column);
+  }
+  if (!line.empty() && (rest.starts_with(", ") || rest.starts_with(": "))) {
+    return place + ": " + std::string(kind) + std::string(rest.substr(2));
   }
   return Name + ": " + std::string(kind) + std::string(message);
 }

@@ -22,8 +22,9 @@ class EInputError : public std::runtime_error {
 struct TSource {
   std::string Name, Text;
 
-  /// "FILE:LINE: message" for the library's messages that begin with their line ("Line 12, section ..."), else
-  /// "FILE: message"; `kind` ("error: ") stands before the message.
+  /// "FILE:LINE: message" for the library's messages that begin with their line ("Line 12, section ..."),
+  /// "FILE:LINE:COLUMN: message" for those that name the column, too ("Line 12, column 5: ..."), else "FILE: message";
+  /// `kind` ("error: ") stands before the message.
   std::string Located(std::string_view message, std::string_view kind = {}) const;
 };
 

@@ -15,6 +15,7 @@ constexpr TOptionInfo OptionTable[] = {
     {"sql", "FILE", "the SELECT statement", "", false},
     {"db", "DB", "the database, which is only read: an SQLite file, postgresql://... or mysql://...", "", false},
     {"store", "STORE", "where the queries are: a folder, or the URL of a database", "", false},
+    {"to", "FORMAT", "how the model is written: text (default) or xml", "xml|text", false},
     {"merge", "FILE", "the data model to add to; what is in it stays as it is", "", false},
     {"table", "NAME", "only this table or view; may be repeated", "", true},
     {"no-views", "", "no views", "", false},
@@ -60,8 +61,10 @@ constexpr TCommandInfo CommandTable[] = {
      R"help(  tolvi path --model shop.model Customers Products
       prints the aliases of the shortest chain, both ends included, with a blank between them.
 )help"},
-    {"model", "MODEL", "print a data model in the current version of the format", 1, 1, true, "", "",
+    {"model", "MODEL", "print a data model in the current version of the format", 1, 1, true, "", "to",
      R"help(  tolvi model old.model >new.model
+  tolvi model --to xml shop.model >shop.xml
+      prints the model as XML, which all commands read as they read the text.
 )help"},
     {"query", "QUERY", "print a query in the current version of the format", 1, 1, true, "model", "",
      R"help(  tolvi query --model shop.model old.qry >new.qry

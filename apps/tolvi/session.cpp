@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 
+#include <tolvi/xml/modelxml.h>
+
 namespace tolvi {
 namespace {
 
@@ -23,7 +25,7 @@ TSQLSyntax SyntaxOf(std::string_view name) {
 
 void TSession::LoadModel(const std::string& file) {
   ModelSource = ReadSource(file, Streams.In);
-  Reading(ModelSource, [this] { Model.SetStructString(ModelSource.Text); });
+  Reading(ModelSource, [this] { LoadModelFromAnyText(Model, ModelSource.Text); });
   Panel.SetDBStruct(&Model);
 }
 

@@ -62,7 +62,7 @@ void TJCustomDBStructure::ClearStructure() {
   TakeContent(nothing);
 }
 
-/// Exchanges everything that a model text holds. What was here goes with `source`.
+// What was here goes with `source`.
 void TJCustomDBStructure::TakeContent(TJCustomDBStructure& source) {
   Tell([](TDSListener& listener) { listener.StructureClearing(); });
   std::swap(FVersion, source.FVersion);

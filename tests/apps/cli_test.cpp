@@ -53,6 +53,9 @@ TEST_F(CommandLine, TellsFaultsOfTheInputWithFileAndLine) {
   const std::pair<std::string, std::string_view> cases[] = {
       {"model DIR/none.model", "Cannot read the file DIR/none.model: No such file or directory"},
       {"model " + badModel, "DIR/bad.model:7: section \"Main\", key \"FieldGroups\": 'x' is not a valid integer value"},
+      {"path a b --model " + Write("bad.xml", "<DataModel formatVersion='1'>\n <table/></DataModel>"),
+       "DIR/bad.xml:2:2: <DataModel> has no element <table>. Its elements: <sqlFormats>, <dmOptions>, <operators>, "
+       "<tables>, <links>, <entities>, <conditions>, <specInfo>"},
       {"model " + noText, "DIR/no.text: the text is no UTF-8"},
       {"query --model MODEL " + badQuery,
        "DIR/bad.qry:61: section \"RField6\", key \"Sorting\": 'down' is not a valid integer value"},
@@ -112,6 +115,9 @@ ORDER BY 2 ASC, 5 ASC, 1 ASC
 
 TEST_F(CommandLine, WritesTextsInTheCurrentFormat) {
   EXPECT_EQ(Run("model MODEL").out, Shop("shop.model"));
+  const std::string xml = Run("model --to xml MODEL").out;
+  EXPECT_EQ(Run("model --to=text -", xml).out, Shop("shop.model"));
+  EXPECT_EQ(Run("check --model -", xml).out, "");
   const std::string late = Shop("queries/01-late-to-these-cities.qry");
   EXPECT_EQ(Run("query --model MODEL -", "\xEF\xBB\xBF" + late).out, late);
   const TOutcome lost = Run("query --model MODEL -", ReplaceStr(late, "FieldID=41", "FieldID=4100"));
