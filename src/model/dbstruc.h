@@ -234,8 +234,8 @@ class TJCustomDBStructure : public TComponent {
   void SetStructString(std::string_view text);
   /// Replaces the content of `target` by a copy of this model, as by saving and loading.
   void AssignTo(TJCustomDBStructure& target) const;
-  /// Exchanges everything that a model text holds, settings are copied: for readers of other formats, which fill a model
-  /// of their own. Fires `OnChange` once.
+  /// Exchanges everything that a model text holds, settings are copied: for readers of other formats, which fill a
+  /// model of their own. Fires `OnChange` once.
   void TakeContent(TJCustomDBStructure& source);
   /// The version of the text last read; that of the current format for a new model.
   double GetVersion() const { return FVersion; }

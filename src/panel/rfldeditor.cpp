@@ -1,31 +1,14 @@
 #include <algorithm>
 #include <limits>
 
-#include <tolvi/foundation/errors.h>
-#include <tolvi/foundation/format.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/panel/rfldeditor.h>
 #include <tolvi/panel/rfldrows.h>
-#include <tolvi/query/querpnl.h>
-#include <tolvi/query/sqlfragment.h>
 
 namespace tolvi {
 namespace {
 
 constexpr std::size_t MostSteps = 200;
-
-bool HasAggregate(std::span<TDSField* const> fields) {
-  return std::any_of(fields.begin(), fields.end(), [](const TDSField* field) { return field->GetIsAggregate(); });
-}
-
-/// With the fields' SQL; the formula alone where the model lacks one of them.
-std::string SQLOf(const TResultField& column) {
-  try {
-    return column.GetSQLExpr();
-  } catch (const EJQueryPanelError&) {
-    return column.GetFormula();
-  }
-}
 
 }  // namespace
 
@@ -37,6 +20,9 @@ TRFieldEditor::TRFieldEditor(const TRFieldList& fields, TTitles titles)
   FState.Fields->Assign(fields);
   FState.Typed.resize(fields.Count());
   if (!fields.Empty()) FState.Current = 0;
+  for (const TResultField& field : fields) {
+    if (!Trim(field.GetFormula()).empty()) FGiven.insert(field.GetFormula());
+  }
   Renumber(Sorted());
   FState.Fields->RegenerateAliases();
 }
@@ -68,6 +54,7 @@ void TRFieldEditor::ModelChanged() {
     FUndo.clear();
     FRedo.clear();
   }
+  CheckTypedAnew();
   Finish();
 }
 
@@ -81,8 +68,7 @@ void TRFieldEditor::ModelDestroyed() {
 // History
 
 std::unique_ptr<TRFieldList> TRFieldEditor::EmptyList() const {
-  auto list = std::make_unique<TRFieldList>(GetModel(), Fields().GetQueryPanel());
-  return list;
+  return std::make_unique<TRFieldList>(GetModel(), Fields().GetQueryPanel());
 }
 
 TRFieldEditor::TState TRFieldEditor::Copy() const {
@@ -209,132 +195,12 @@ std::string TRFieldEditor::MadeCaption(const TResultField& column) const {
 bool TRFieldEditor::HasMadeCaption(const TResultField& column) const {
   const std::string& caption = column.GetCaption();
   const std::string made = MadeCaption(column);
-  if (caption.empty() || caption == made) return true;
-  return caption.starts_with(made + " ") &&
-         caption.find_first_not_of("0123456789", made.size() + 1) == std::string::npos;
+  return caption.empty() || caption == made || caption == Fields().GetUniqCaption(made, &column);
 }
 
 void TRFieldEditor::SetCaption(std::string_view caption) {
   if (!FState.Current) return;
   Change("caption", [&] { Column().SetCaption(Trim(caption).empty() ? MadeCaption(Column()) : std::string(caption)); });
-}
-
-// Formulas
-
-void TRFieldEditor::ChangeFormula(std::string_view step, const std::function<void()>& change) {
-  Change(step, [&] {
-    TResultField& column = Column();
-    const bool follows = HasMadeCaption(column);
-    change();
-    if (follows) column.SetCaption(MadeCaption(column));
-  });
-}
-
-std::string TRFieldEditor::FormulaFaultOf(const TResultField& column) const {
-  if (Trim(column.GetFormula()).empty()) return "The expression is empty.";
-  const TJQueryPanel* panel = Fields().GetQueryPanel();
-  const std::string fault = FormulaFault(column.GetFormula(), FormatsOf(GetModel()).GetQuoteSymbol1(),
-                                         panel != nullptr && panel->GetAllowSQLFragments());
-  return fault.empty() ? std::string() : Format("This is no expression: %s.", {fault});
-}
-
-TRFieldEditor::TTyped TRFieldEditor::Checked(std::string_view text) const {
-  const auto list = EmptyList();
-  TResultField& copy = list->New();
-  copy.Assign(Column());
-  try {
-    copy.ProcessExpression(text);
-    return {std::string(text), FormulaFaultOf(copy)};
-  } catch (const EJQueryPanelError& error) {
-    return {std::string(text), error.Message() + "."};
-  }
-}
-
-void TRFieldEditor::SetExpression(std::string_view text) {
-  if (!FState.Current || text == GetExpression(*FState.Current)) return;
-  TTyped typed = Checked(text);
-  ChangeFormula("expression", [&] {
-    std::optional<TTyped>& kept = FState.Typed[*FState.Current];
-    kept.reset();
-    if (typed.Fault.empty()) {
-      Column().ProcessExpression(text);
-    } else {
-      kept = std::move(typed);
-    }
-  });
-}
-
-std::string TRFieldEditor::GetExpression(std::size_t index) const {
-  return FState.Typed[index] ? FState.Typed[index]->Text : Fields()[index].GetExpression();
-}
-
-std::string TRFieldEditor::GetFault(std::size_t index) const {
-  return FState.Typed[index] ? FState.Typed[index]->Fault : FormulaFaultOf(Fields()[index]);
-}
-
-std::optional<std::size_t> TRFieldEditor::FirstFault() const {
-  for (std::size_t i = 0; i < Fields().Count(); ++i) {
-    if (!GetFault(i).empty()) return i;
-  }
-  return std::nullopt;
-}
-
-std::string TRFieldEditor::ReferenceTo(TDSField& field) const { return EmptyList()->Add(field).GetExpression(); }
-
-std::string TRFieldEditor::JoinFault() const {
-  if (!FState.Current) return "There is no result field to join a field to.";
-  return FState.Typed[*FState.Current] ? "The expression must be mended first." : std::string();
-}
-
-std::string TRFieldEditor::Join(TRFOperation operation, std::span<TDSField* const> fields) {
-  if (std::string fault = JoinFault(); !fault.empty() || fields.empty()) return fault;
-  const TSQLFormats& formats = FormatsOf(GetModel());
-  const auto list = EmptyList();
-  TResultField& joined = list->New();
-  joined.Assign(Column());
-  const TRFAggregated parts = SplitAggregate(joined.GetFormula(), formats);
-  const bool isInside = parts.Aggregate != agAsIs && parts.Inner != "*" && !HasAggregate(fields);
-  if (isInside) joined.SetFormula(parts.Inner);
-  try {
-    for (TDSField* field : fields) {
-      const std::string reference = ReferenceTo(*field);
-      const std::string expression = Trim(joined.GetFormula()).empty()
-                                         ? reference
-                                         : Joined(operation, joined.GetExpression(), BindingOf(SQLOf(joined)),
-                                                  reference, BindingOf(field->GetSQLExpr()));
-      joined.ProcessExpression(expression);
-    }
-  } catch (const EJQueryPanelError& error) {
-    return error.Message() + ".";
-  }
-  if (isInside) joined.SetFormula(WithAggregate(parts.Aggregate, joined.GetFormula(), formats));
-  const std::string expression = joined.GetExpression();
-  ChangeFormula({}, [&] { Column().ProcessExpression(expression); });
-  return {};
-}
-
-TRFAggregate TRFieldEditor::GetAggregate() const {
-  if (!FState.Current) return agAsIs;
-  return SplitAggregate(Column().GetFormula(), FormatsOf(GetModel())).Aggregate;
-}
-
-std::string TRFieldEditor::AggregateFault(TRFAggregate aggregate) const {
-  if (!FState.Current) return "There is no result field.";
-  if (!GetFault(*FState.Current).empty()) return "The expression must be mended first.";
-  const TSQLFormats& formats = FormatsOf(GetModel());
-  const TRFAggregated parts = SplitAggregate(Column().GetFormula(), formats);
-  if (aggregate == parts.Aggregate) return {};
-  if (parts.Inner == "*") return "All rows are counted: there is no value to take.";
-  if (parts.Aggregate == agAsIs && Column().GetAgregate()) return "The expression is an aggregate already.";
-  if (AggregatePattern(aggregate, formats).empty()) return "This database has no function that lists values.";
-  return {};
-}
-
-void TRFieldEditor::SetAggregate(TRFAggregate aggregate) {
-  if (!AggregateFault(aggregate).empty() || aggregate == GetAggregate()) return;
-  const TSQLFormats& formats = FormatsOf(GetModel());
-  const std::string inner = SplitAggregate(Column().GetFormula(), formats).Inner;
-  ChangeFormula({}, [&] { Column().SetFormula(WithAggregate(aggregate, inner, formats)); });
 }
 
 // Sorting

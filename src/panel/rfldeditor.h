@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -69,8 +70,13 @@ class TRFieldEditor final : private TDSListener {
 
   /// With field names in braces; as typed while that is wrong.
   std::string GetExpression(std::size_t index) const;
-  /// What is wrong with it, as a sentence; empty when nothing is.
+  /// What is wrong with it, as a sentence; empty when nothing is. An expression that was given is no fault.
   std::string GetFault(std::size_t index) const;
+  /// What keeps a statement from being built, though the column may stay as it is: a field that the model lacks, or
+  /// what is wrong with a given expression.
+  std::string GetWarning(std::size_t index) const;
+  /// The fault, else the warning.
+  std::string GetProblem(std::size_t index) const;
   void SetExpression(std::string_view text);
   /// The first column with a fault.
   std::optional<std::size_t> FirstFault() const;
@@ -121,8 +127,11 @@ class TRFieldEditor final : private TDSListener {
   void Finish();
   void Step(std::vector<TState>& from, std::vector<TState>& to);
   void Insert(std::unique_ptr<TResultField> column);
-  std::string FormulaFaultOf(const TResultField& column) const;
-  TTyped Checked(std::string_view text) const;
+  bool IsGiven(const TResultField& column) const { return FGiven.contains(column.GetFormula()); }
+  std::string FormulaFaultOf(const TResultField& column, bool allowSelects) const;
+  bool AllowsSelects() const;
+  TTyped Checked(const TResultField& column, std::string_view text) const;
+  void CheckTypedAnew();
   std::string MadeCaption(const TResultField& column) const;
   bool HasMadeCaption(const TResultField& column) const;
   void Renumber(const std::vector<std::size_t>& sorted);
@@ -132,6 +141,8 @@ class TRFieldEditor final : private TDSListener {
   TState FState;
   std::vector<TState> FUndo, FRedo;
   std::string FLastStep;
+  // The formulas of the columns that were given; the query may allow what this editor cannot know of.
+  std::set<std::string> FGiven;
   bool FModelChanges = false;
 };
 

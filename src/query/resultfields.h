@@ -54,8 +54,9 @@ class TResultField final {
   /// too, its display name or SQL); "}" in a name is doubled, and so is "{" outside names.
   std::string GetExpression() const;
   /// Makes formula and fields from an expression with field names in braces (full name, else display name, else SQL).
-  /// Raises `EJQueryPanelError` "Unrecognized field "%s"", one that says which brace is open, or one for a tenth field;
-  /// nothing changes then. Names of fields that the model lacks and the column has already are taken as they are.
+  /// Raises `EJQueryPanelError` "Unrecognized field "%s"", one that says which brace is open or that "@1" to "@9"
+  /// stand outside braces, or one for a tenth field; nothing changes then. Names of fields that the model lacks and the
+  /// column has already are taken as they are.
   void ProcessExpression(std::string_view expression);
   /// The same from SQL: an expression that is the SQL of one field becomes that field; otherwise qualified names that
   /// are fields of the model become placeholders, the rest stays as it is.

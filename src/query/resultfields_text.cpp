@@ -156,6 +156,12 @@ TResultField::TContent TResultField::ParseExpression(const TJCustomDBStructure* 
   TContent content;
   for (std::size_t pos = 0; pos < expression.size(); ++pos) {
     if (expression[pos] != '{') {
+      // It would be taken for a placeholder, inside quotes, too.
+      const char next = pos + 1 < expression.size() ? expression[pos + 1] : '\0';
+      if (expression[pos] == '@' && next >= '1' && next <= '9') {
+        throw EJQueryPanelError(0, "The expression \"%s\" has \"@%s\" in column %d: fields are written in braces",
+                                {expression, std::string(1, next), pos + 1});
+      }
       content.Formula += expression[pos];
       continue;
     }

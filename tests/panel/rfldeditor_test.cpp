@@ -224,6 +224,14 @@ TEST_F(RFieldEditor, ChecksExpressionsAsTheyAreTypedAndKeepsWhatIsWrong) {
   TRFieldEditor own(panel.RFields(), TTitles());
   own.SetExpression("(select 1)");
   EXPECT_EQ(own.GetFault(0), "") << "where the query may hold SQL";
+
+  Given.New().SetFormula("(select 2)");
+  TRFieldEditor given(Given, TTitles());
+  EXPECT_EQ(given.GetProblem(0), "") << "the query has it already";
+  given.SetExpression("(select 3)");
+  EXPECT_EQ(given.FirstFault(), 0u);
+  given.SetExpression("(select 2)");
+  EXPECT_EQ(given.FirstFault(), std::nullopt);
 }
 
 TEST_F(RFieldEditor, CaptionsFollowTheFieldsUntilTheUserNamesThem) {
@@ -239,6 +247,10 @@ TEST_F(RFieldEditor, CaptionsFollowTheFieldsUntilTheUserNamesThem) {
   Editor->SetCaption("Mean");
   Editor->SetAggregate(agSum);
   EXPECT_EQ(Editor->Fields()[1].GetCaption(), "Mean");
+  Editor->SetCaption("Total 2025");
+  Editor->SetAggregate(agMax);
+  EXPECT_EQ(Editor->Fields()[1].GetCaption(), "Total 2025");
+  for (int step = 0; step < 2; ++step) Editor->Undo();
   Editor->Undo();
   Editor->Undo();
   EXPECT_EQ(Editor->Fields()[1].GetCaption(), "Total 2") << "typing is one step";
@@ -278,6 +290,11 @@ TEST_F(RFieldEditor, SurvivesWhatHappensToTheModel) {
   Model->DelField(10);
   EXPECT_EQ(Columns(), "Total: {11}; [City: {Customers.City}]");
   EXPECT_FALSE(Editor->CanUndo()) << "the history holds the field";
+  EXPECT_EQ(Editor->GetWarning(0) + Editor->GetWarning(1), "Unrecognized field \"11\".");
+  EXPECT_EQ(Editor->FirstFault(), std::nullopt);
+  Editor->SetExpression("{Now}");
+  Model->AddField(jfkVirtual, "now()", "Now", nullptr);
+  EXPECT_EQ(Fault(), "") << "the model has got the field";
   Editor->SetCaption("Town");
   Model.reset();
   EXPECT_EQ(Columns(), "");

@@ -203,6 +203,8 @@ TEST_F(TResultFields, BadExpressionsChangeNothing) {
       {"1 + {Orders.Nothing}", "Unrecognized field \"Orders.Nothing\""},
       {"{}", "Unrecognized field \"\""},
       {"1 + {Orders.Total", "The expression \"1 + {Orders.Total\" has no \"}\" for the \"{\" in column 5"},
+      {"{Orders.Total} || '%@1und1.de'",
+       "The expression \"{Orders.Total} || '%@1und1.de'\" has \"@1\" in column 21: fields are written in braces"},
       {tenFields, "An expression can refer to 9 fields at most"},
   };
   for (const auto& [expression, message] : cases) {

@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
+#include <QWheelEvent>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -324,6 +325,32 @@ TEST_F(ResultFieldsDialog, SortsOnAPageOfItsOwn) {
   EXPECT_TRUE(Dialog->GetFields().GetJustSorting());
 }
 
+TEST_F(ResultFieldsDialog, MarksWhatCannotBeBuiltAndSaysWhy) {
+  const TDSField& region = *Model.FieldByName(fnFullName, "Countries.Region");
+  Query.RFields().Add(*Model.FieldByName(fnFullName, "Customers.City"));
+  Query.RFields().Add(*Model.FieldByName(fnFullName, "Countries.Region"));
+  const QString unknown = u"Unrecognized field \"%1\"."_s.arg(region.GetID());
+  Open();
+  const QImage sound = List().viewport()->grab(List().visualItemRect(List().item(1))).toImage();
+  const QString caption = List().item(1)->text();
+  std::size_t index = 0;
+  while (&Model.GetField(index) != &region) ++index;
+  Model.DelField(index);
+  Dialog->Editor().SetCurrent(1);
+  EXPECT_EQ(Told(), unknown);
+  EXPECT_TRUE(List().item(1)->data(Qt::AccessibleTextRole).toString().endsWith(unknown));
+  Dialog->Editor().SetCurrent(0);
+  List().item(1)->setForeground(QBrush());
+  EXPECT_EQ(List().item(1)->text(), caption);
+  EXPECT_NE(List().viewport()->grab(List().visualItemRect(List().item(1))).toImage(), sound) << "more than a colour";
+  Tree().clearSelection();
+  Tree().setCurrentIndex(QModelIndex());
+  EXPECT_EQ(Named<QToolButton>(u"Multiply by result field"_s).toolTip(), u"Select a field first."_s);
+  EXPECT_EQ(Named<QPushButton>(u"as is"_s).width(), Named<QPushButton>(u"Sum"_s).width()) << "in equal columns";
+  Click(*Only<QDialogButtonBox>().button(QDialogButtonBox::Ok));
+  EXPECT_FALSE(Dialog->isVisible());
+}
+
 TEST_F(ResultFieldsDialog, HelpIsShownWithAHandlerWhichMayCloseIt) {
   Open();
   EXPECT_EQ(Only<QDialogButtonBox>().button(QDialogButtonBox::Help), nullptr);
@@ -374,6 +401,98 @@ TEST_F(ResultFieldsDialog, OnlyOKChangesTheColumns) {
   auto* parent = new QWidget(&window);
   QTimer::singleShot(0, &window, [parent] { delete parent; });
   EXPECT_FALSE(EditResultFields(parent, Query.RFields(), TTitles()));
+}
+
+TEST_F(ResultFieldsDialog, SortingBoxesChangeTheirOwnColumnOnly) {
+  for (const char* name : {"Customers.City", "Customers.Company", "Countries.Region"}) {
+    Query.RFields().Add(*Model.FieldByName(fnFullName, name)).SetSorting(stAscending);
+  }
+  Open();
+  Only<QTabWidget>().setCurrentIndex(1);
+  const auto box = [this](int row) { return Table().cellWidget(row, 2); };
+  user::Settle();
+  for (const int turn : {120, -120}) {
+    const QPointF at = box(0)->mapTo(Dialog.get(), box(0)->rect().center());
+    QWheelEvent event(at, Dialog->mapToGlobal(at), {}, QPoint(0, turn), {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(Dialog->windowHandle(), &event);
+  }
+  EXPECT_FALSE(box(0)->hasFocus());
+  box(1)->setFocus();
+  Repeat(Qt::Key_Up, 2);
+  EXPECT_TRUE(box(0)->hasFocus());
+  Press(Qt::Key_Down);
+  EXPECT_EQ(Sorted(), QStringList({u"City Ascending"_s, u"Company Ascending"_s, u"Region Ascending"_s}));
+  Press(Qt::Key_N);  // "Not Sorted"
+  Press(Qt::Key_D);
+  EXPECT_EQ(Sorted(), QStringList({u"City Ascending"_s, u"Region Ascending"_s})) << "the next box takes no key";
+  EXPECT_EQ(Table().currentRow(), 1);
+  Repeat(Qt::Key_Delete, 2);
+  EXPECT_EQ(Table().rowCount(), 0);
+}
+
+TEST_F(ResultFieldsDialog, KeysGoWhereTheUserIs) {
+  Open();
+  auto& search = Named<QLineEdit>(u"Find a field"_s);
+  EXPECT_EQ(Dialog->focusWidget(), &search);
+  Press(Qt::Key_Tab);
+  EXPECT_TRUE(Tree().hasFocus());
+  Press(Qt::Key_Tab);
+  EXPECT_TRUE(Named<QToolButton>(u"Create result field"_s).hasFocus());
+  Press(Qt::Key_N, Qt::ControlModifier);
+  Type(u"1"_s);
+  for (const int columns : {1, 0}) {
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(List().count(), columns);
+    EXPECT_EQ(Expression().text(), QString());
+  }
+  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  Press(Qt::Key_Y, Qt::ControlModifier);
+  Expression().setFocus();
+  EXPECT_EQ(Expression().text(), u"1"_s);
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {}, {});
+  QApplication::sendEvent(&Expression(), &asked);
+  ASSERT_NE(Popup(), nullptr);
+  Popup()->actions()[0]->trigger();
+  Popup()->close();
+  Dialog->activateWindow();  // the offscreen platform leaves that to others
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog.get()));
+  EXPECT_EQ(Expression().text(), QString());
+  Find(u"city"_s);
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(search.text(), QString());
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    EXPECT_TRUE(Dialog->isVisible());
+    Press(Qt::Key_Escape);
+    ASSERT_NE(Dialog->findChild<QMessageBox*>(), nullptr) << "work is not lost by a key";
+    Dialog->findChild<QMessageBox*>()->button(answer)->click();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Dialog->activateWindow();
+  }
+  EXPECT_FALSE(Dialog->isVisible());
+}
+
+TEST_F(ResultFieldsDialog, NamesTakeThePlaceOfTheWholeReference) {
+  Query.RFields().Add(*Model.FieldByName(fnFullName, "Countries.Region"));
+  Open();
+  Expression().setFocus();
+  Expression().setCursorPosition(5);
+  Press(Qt::Key_Backspace);
+  ASSERT_NE(Popup(), nullptr);
+  Press(Qt::Key_Tab);
+  EXPECT_TRUE(Expression().hasFocus());
+  EXPECT_EQ(Expression().text().count(u'{') + Expression().text().count(u'}'), 2) << Expression().text().toStdString();
+  EXPECT_EQ(Told(), QString());
+}
+
+TEST_F(ResultFieldsDialog, OKTellsWhetherAnythingHasChanged) {
+  for (const bool changes : {false, true}) {
+    Open();
+    if (changes) Dialog->Editor().Create(std::vector{&Model.GetField(0)});
+    Press(Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_FALSE(Dialog->isVisible());
+    EXPECT_EQ(Dialog->result(), int{QDialog::Accepted});
+    EXPECT_EQ(Dialog->HasChanged(), changes);
+  }
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
 #include <QStyle>
 #include <QToolTip>
@@ -13,6 +12,7 @@
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/controls/ddlabel.h>
 #include <tolvi/ui/controls/ddlabelaccess.h>
+#include <tolvi/ui/controls/wave.h>
 
 namespace tolvi {
 
@@ -23,13 +23,6 @@ constexpr double outlineContrast = 3;  // enough for lines, which are no text
 
 int HorizontalMargin(const QFontMetrics& metrics) { return std::max(2, metrics.averageCharWidth() / 2); }
 int VerticalMargin(const QFontMetrics& metrics) { return std::max(1, metrics.height() / 10); }
-
-void DrawWave(QPainter& painter, double left, double right, double middle, double height) {
-  QPainterPath path(QPointF(left, middle));
-  for (double x = left, side = 1; x < right; x += 2 * height, side = -side)
-    path.quadTo(x + height, middle + side * height, std::min(x + 2 * height, right), middle);
-  painter.drawPath(path);
-}
 
 bool IsPlain(const QKeyEvent& key) { return !(key.modifiers() & ~Qt::KeypadModifier); }
 

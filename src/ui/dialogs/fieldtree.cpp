@@ -75,7 +75,6 @@ TFieldTree::TFieldTree(QWidget* parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(FSearch);
   layout->addWidget(FTree);
-  setFocusProxy(FTree);
   for (QWidget* widget : {static_cast<QWidget*>(FSearch), static_cast<QWidget*>(FTree)}) {
     widget->installEventFilter(this);
   }
@@ -159,6 +158,10 @@ bool TFieldTree::eventFilter(QObject* watched, QEvent* event) {
     } else {
       FTree->setExpanded(current, !FTree->isExpanded(current));
     }
+    return true;
+  }
+  if (key == Qt::Key_Escape && watched == FSearch && !FSearch->text().isEmpty()) {
+    FSearch->clear();
     return true;
   }
   if (watched == FSearch &&

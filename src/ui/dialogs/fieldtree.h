@@ -17,7 +17,7 @@ class TJCustomDBStructure;
 /// The fields of a model that columns may show, by groups, with a line in which one types what is sought in the names
 /// of fields or groups, ignoring case and accents.
 ///
-/// Keys: Up and Down in the line go through the tree, Enter takes the selected fields.
+/// Keys: Up and Down in the line go through the tree, Enter takes the selected fields, Escape empties the line.
 class TFieldTree final : public QWidget {
   Q_OBJECT
 

@@ -1,5 +1,7 @@
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <algorithm>
@@ -16,6 +18,7 @@ TFormulaEdit::TFormulaEdit(QWidget* parent) : QLineEdit(parent), FCompleter(new 
   FCompleter->setCaseSensitivity(Qt::CaseInsensitive);
   FCompleter->setFilterMode(Qt::MatchContains);
   FCompleter->setMaxVisibleItems(12);
+  FCompleter->popup()->installEventFilter(this);
   connect(FCompleter, qOverload<const QModelIndex&>(&QCompleter::activated), this,
           [this](const QModelIndex& index) { Take(index.data(Qt::UserRole).toString()); });
   connect(this, &QLineEdit::textEdited, this, &TFormulaEdit::Offer);
@@ -35,6 +38,16 @@ int TFormulaEdit::OpenBrace() const {
     }
   }
   return open;
+}
+
+int TFormulaEdit::EndOfName() const {
+  const QString all = text();
+  for (int at = cursorPosition(); at < all.size() && all[at] != u'{'; ++at) {
+    if (all[at] != u'}') continue;
+    if (at + 1 == all.size() || all[at + 1] != u'}') return at + 1;
+    ++at;
+  }
+  return cursorPosition();
 }
 
 void TFormulaEdit::Offer() {
@@ -64,10 +77,18 @@ void TFormulaEdit::Offer() {
 void TFormulaEdit::Take(const QString& reference) {
   const int open = OpenBrace();
   if (open < 0) return;
-  int end = cursorPosition();
-  if (end < text().size() && text()[end] == u'}') ++end;
-  setSelection(open, end - open);
+  setSelection(open, EndOfName() - open);
   insert(reference);
+}
+
+// In the list of names, Tab takes one as Enter does.
+bool TFormulaEdit::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent&>(*event).key() != Qt::Key_Tab) {
+    return QLineEdit::eventFilter(watched, event);
+  }
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QCoreApplication::sendEvent(watched, &enter);
+  return true;
 }
 
 }  // namespace tolvi

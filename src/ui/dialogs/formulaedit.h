@@ -13,7 +13,7 @@ struct TFormulaName {
   QString Text, Reference;
 };
 
-/// A line for an expression with names in braces. Typing "{" offers the names.
+/// A line for an expression with names in braces. Typing "{" offers the names; Enter or Tab takes one.
 class TFormulaEdit final : public QLineEdit {
   Q_OBJECT
 
@@ -24,9 +24,14 @@ class TFormulaEdit final : public QLineEdit {
   std::function<std::vector<TFormulaName>()> OnNames;
   void ForgetNames() { FNamesKnown = false; }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   /// The place of the brace that is open at the cursor; -1 for none.
   int OpenBrace() const;
+  /// Behind the name at the cursor, and its closing brace if it has one.
+  int EndOfName() const;
   void Offer();
   void Take(const QString& reference);
 

@@ -6,18 +6,19 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QProxyStyle>
 #include <QPushButton>
-#include <QStyleOption>
+#include <QScreen>
 #include <QToolButton>
 #include <QTreeView>
+#include <algorithm>
 #include <utility>
 
 #include <tolvi/panel/rfldeditor.h>
 #include <tolvi/panel/rfldrows.h>
 #include <tolvi/ui/controls/contrast.h>
-#include <tolvi/ui/controls/drawing.h>
 #include <tolvi/ui/controls/rowdrag.h>
+#include <tolvi/ui/dialogs/checkstyle.h>
+#include <tolvi/ui/dialogs/faultdelegate.h>
 #include <tolvi/ui/dialogs/fieldtree.h>
 #include <tolvi/ui/dialogs/formulaedit.h>
 #include <tolvi/ui/dialogs/rfldcolumns.h>
@@ -26,38 +27,7 @@
 namespace tolvi {
 namespace {
 
-constexpr int FunctionsInRow = 4;
-
-/// Check boxes of the size of the text, which can be seen in any palette.
-class TCheckStyle final : public QProxyStyle {
- public:
-  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-    const bool isBox = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
-    return isBox && widget != nullptr ? CheckBoxSide(widget->fontMetrics())
-                                      : QProxyStyle::pixelMetric(metric, option, widget);
-  }
-
-  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override {
-    if (element != PE_IndicatorItemViewItemCheck) {
-      return QProxyStyle::drawPrimitive(element, option, painter, widget);
-    }
-    const QColor text = option->palette.color(QPalette::WindowText), face = option->palette.color(QPalette::Base);
-    DrawCheckBox(*painter, option->rect, option->state & State_On ? Qt::Checked : Qt::Unchecked,
-                 {ReadableColor(text, face), MixedColor(text, face, 0.6), face});
-  }
-};
-
-QToolButton* MakeButton(QAction& action, QWidget& page) {
-  auto* button = new QToolButton(&page);
-  button->setDefaultAction(&action);
-  button->setAutoRaise(true);
-  button->setFocusPolicy(Qt::TabFocus);
-  button->setAccessibleName(action.text());
-  const int side = page.fontMetrics().height();
-  button->setIconSize(QSize(side, side));
-  return button;
-}
+constexpr int MostFunctionsInRow = 4, LeastFunctionsInRow = 2;
 
 QLabel* MakeLabel(const QString& text, QWidget& buddy) {
   auto* label = new QLabel(text, buddy.parentWidget());
@@ -91,7 +61,7 @@ TRFColumnsPage::TRFColumnsPage(TRFieldEditor& editor, QWidget* parent)
   layout->addLayout(columns, 3);
   FTree->OnChoose = [this] { Run(cmCreate); };
   FTree->OnSelect = [this] { RefreshActions(); };
-  FTree->Search().setFocus();
+  ChainTabs();
   Refresh();
 }
 
@@ -189,12 +159,14 @@ void TRFColumnsPage::EditExpression() {
 // Parts
 
 void TRFColumnsPage::AddButton(QBoxLayout& layout, TCommand command) {
-  layout.addWidget(MakeButton(*FActions[command], *this));
+  layout.addWidget(MakeSignButton(*FActions[command], *this));
 }
 
 QBoxLayout* TRFColumnsPage::BuildFields() {
   auto* layout = new QVBoxLayout;
-  layout->addWidget(MakeLabel(Title("ttlFields"), FTree->Tree()));
+  QLabel* label = MakeLabel(Title("ttlFields"), FTree->Tree());
+  label->setBuddy(&FTree->Search());
+  layout->addWidget(label);
   layout->addWidget(FTree);
   return layout;
 }
@@ -216,6 +188,7 @@ QBoxLayout* TRFColumnsPage::BuildColumns() {
   auto* style = new TCheckStyle;
   style->setParent(FList);
   FList->setStyle(style);
+  FList->setItemDelegate(new TFaultDelegate(FList));
   const int side = fontMetrics().height();
   FList->setIconSize(QSize(side, side));
   FList->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -288,12 +261,37 @@ QGridLayout* TRFColumnsPage::BuildFunctions() {
     button->setCheckable(true);
     button->setAutoDefault(false);
     FFunctions->addButton(button, aggregate);
-    layout->addWidget(button, aggregate / FunctionsInRow, aggregate % FunctionsInRow);
+  }
+  // As many in a row as the wider part of a screen takes.
+  int width = 0;
+  for (const QAbstractButton* button : FFunctions->buttons()) width = std::max(width, button->sizeHint().width());
+  int inRow = MostFunctionsInRow;
+  while (inRow > LeastFunctionsInRow && inRow * width > screen()->availableSize().width() / 2) inRow /= 2;
+  for (const TRFAggregate aggregate : AllAggregates) {
+    layout->addWidget(FFunctions->button(aggregate), aggregate / inRow, aggregate % inRow);
+    layout->setColumnMinimumWidth(aggregate % inRow, width);
+    layout->setColumnStretch(aggregate % inRow, 1);
   }
   connect(FFunctions, &QButtonGroup::idClicked, this,
           [this](int id) { FEditor.SetAggregate(static_cast<TRFAggregate>(id)); });
   return layout;
 }
+
+// As one reads: the fields, the buttons between, the columns and what they hold.
+void TRFColumnsPage::ChainTabs() {
+  QList<QWidget*> chain{&FTree->Search(), &FTree->Tree()};
+  for (const TCommand command :
+       {cmCreate, cmAdd, cmSubtract, cmMultiply, cmDivide, cmNew, cmDelete, cmSort, cmUp, cmDown}) {
+    for (QObject* object : FActions[command]->associatedObjects()) {
+      if (auto* button = qobject_cast<QToolButton*>(object)) chain << button;
+    }
+  }
+  chain << FList << FCaption << FExpression;
+  for (QAbstractButton* button : FFunctions->buttons()) chain << button;
+  for (qsizetype i = 1; i < chain.size(); ++i) setTabOrder(chain[i - 1], chain[i]);
+}
+
+void TRFColumnsPage::StartSearch() { FTree->Search().setFocus(); }
 
 // What is shown
 
@@ -319,13 +317,14 @@ void TRFColumnsPage::RefreshList() {
     const auto index = static_cast<std::size_t>(row);
     const TResultField& column = FEditor.Fields()[index];
     QListWidgetItem& item = *FList->item(row);
-    const QString wrong = ToQString(FEditor.GetFault(index)), expression = ToQString(FEditor.GetExpression(index));
+    const QString wrong = ToQString(FEditor.GetProblem(index)), expression = ToQString(FEditor.GetExpression(index));
     const QString sorting = Title(sortTitles[column.GetSorting()]);
     item.setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemNeverHasChildren);
     item.setText(ToQString(column.GetCaption()));
     item.setIcon(SignIcon(sorts[column.GetSorting()], *FList));
     item.setCheckState(column.GetHidden() ? Qt::Unchecked : Qt::Checked);
     item.setForeground(wrong.isEmpty() ? QBrush() : QBrush(fault));
+    item.setData(TFaultDelegate::WrongRole, !wrong.isEmpty());
     const QString shown = column.GetHidden() ? tr("not shown") : tr("shown");
     item.setToolTip(QString(expression + QStringLiteral(" (") + shown + u')').toHtmlEscaped());
     QString text = item.text() + QStringLiteral(", ") + expression + QStringLiteral(", ") + sorting;
@@ -347,7 +346,7 @@ void TRFColumnsPage::RefreshForm() {
     if (!line->hasFocus()) line->home(false);
   }
   FAlias->setText(current ? ToQString(FEditor.GetAlias(*current)) : QString());
-  TellFault(current ? ToQString(FEditor.GetFault(*current)) : QString());
+  TellFault(current ? ToQString(FEditor.GetProblem(*current)) : QString());
 }
 
 void TRFColumnsPage::TellFault(const QString& fault) {
@@ -380,10 +379,16 @@ void TRFColumnsPage::RefreshFunctions() {
 void TRFColumnsPage::RefreshActions() {
   constexpr TSign sorts[] = {sgNotSorted, sgAscending, sgDescending};
   const std::optional<std::size_t> current = FEditor.GetCurrent();
-  const bool hasFields = !FTree->SelectedFields().empty(), canJoin = hasFields && FEditor.JoinFault().empty();
+  const bool hasFields = !FTree->SelectedFields().empty();
+  const QString fault = hasFields ? ToQString(FEditor.JoinFault()) : tr("Select a field first.");
   FActions[cmCreate]->setEnabled(hasFields);
   FActions[cmNew]->setEnabled(FEditor.GetModel() != nullptr);
-  for (const TCommand command : {cmAdd, cmSubtract, cmMultiply, cmDivide}) FActions[command]->setEnabled(canJoin);
+  for (const TCommand command : {cmAdd, cmSubtract, cmMultiply, cmDivide}) {
+    QAction& action = *FActions[command];
+    action.setEnabled(fault.isEmpty());
+    const QString key = action.shortcut().toString(QKeySequence::NativeText);
+    action.setToolTip(fault.isEmpty() ? action.text() + QStringLiteral(" (") + key + u')' : fault);
+  }
   for (const TCommand command : {cmDelete, cmSort}) FActions[command]->setEnabled(current.has_value());
   FActions[cmUp]->setEnabled(current && *current > 0);
   FActions[cmDown]->setEnabled(current && *current + 1 < FEditor.Fields().Count());

@@ -33,6 +33,8 @@ class TRFColumnsPage final : public QWidget {
   void Refresh();
   /// Takes the user to the expression of the current column.
   void EditExpression();
+  /// Takes the user to the line that finds fields.
+  void StartSearch();
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -59,6 +61,7 @@ class TRFColumnsPage final : public QWidget {
   QBoxLayout* BuildColumns();
   QGridLayout* BuildForm();
   QGridLayout* BuildFunctions();
+  void ChainTabs();
   void Run(TCommand command);
   void Delete();
   void Sort();

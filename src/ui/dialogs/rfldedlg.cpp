@@ -1,6 +1,9 @@
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -32,7 +35,12 @@ T_dlgRFieldEdit::T_dlgRFieldEdit(const TRFieldList& fields, const TTitles& title
   layout->addWidget(FPages);
   BuildButtons(std::move(onHelp));
   BuildHistory();
-  AddShortcut(Qt::CTRL | Qt::Key_Return, [this] { accept(); });
+  for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) AddShortcut(Qt::CTRL | enter, [this] { accept(); });
+  // The lines for caption and expression; the one that finds fields has a history of its own.
+  for (QLineEdit* line : FColumns->findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)) {
+    line->installEventFilter(this);
+  }
+  if (FHasModel) FRevision = FEditor->GetModel()->GetRevision();
   FEditor->OnChange = [this] { Refresh(); };
   const QSize wanted(120 * fontMetrics().averageCharWidth(), 32 * fontMetrics().height());
   resize(wanted.expandedTo(sizeHint()).boundedTo(screen()->availableSize() * 0.95));
@@ -54,13 +62,7 @@ void T_dlgRFieldEdit::BuildHistory() {
     action->setShortcuts(keys);
     action->setToolTip(text + QStringLiteral(" (") + keys.front().toString(QKeySequence::NativeText) + u')');
     connect(action, &QAction::triggered, this, operation);
-    auto* button = new QToolButton(corner);
-    button->setDefaultAction(action);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::TabFocus);
-    const int side = fontMetrics().height();
-    button->setIconSize(QSize(side, side));
-    row->addWidget(button);
+    row->addWidget(MakeSignButton(*action, *corner));
     return action;
   };
   FUndo = add(tr("Undo"), sgUndo, {Qt::CTRL | Qt::Key_Z}, [this] { FEditor->Undo(); });
@@ -106,7 +108,13 @@ void T_dlgRFieldEdit::Refresh() {
   FColumns->Refresh();
   FSorting->Refresh();
   RefreshHistory();
+  FChanged = FChanged || FEditor->CanUndo();
   if (FHasModel && FEditor->GetModel() == nullptr) reject();
+}
+
+// By the user, or with the model.
+bool T_dlgRFieldEdit::HasChanged() const {
+  return FChanged || (FHasModel && FEditor->GetModel() != nullptr && FEditor->GetModel()->GetRevision() != FRevision);
 }
 
 void T_dlgRFieldEdit::accept() {
@@ -121,7 +129,49 @@ void T_dlgRFieldEdit::keyPressEvent(QKeyEvent* event) {
   // Enter ends a text; it chooses no button.
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && qobject_cast<QPushButton*>(focusWidget()) == nullptr) return;
+  if (event->matches(QKeySequence::Cancel) && FEditor->CanUndo()) return AskToReject();
   QDialog::keyPressEvent(event);
+}
+
+void T_dlgRFieldEdit::AskToReject() {
+  auto* box = new QMessageBox(QMessageBox::Question, windowTitle(), tr("Discard the changes?"),
+                              QMessageBox::Yes | QMessageBox::No, this);
+  box->setDefaultButton(QMessageBox::No);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  connect(box, &QDialog::finished, this, [this](int answer) {
+    if (answer == QMessageBox::Yes && isVisible()) reject();
+  });
+  box->open();
+}
+
+void T_dlgRFieldEdit::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!event->spontaneous()) FColumns->StartSearch();
+}
+
+// What is typed is part of the dialog's history: the lines leave undoing to it.
+bool T_dlgRFieldEdit::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto& pressed = static_cast<QKeyEvent&>(*event);
+    if (pressed.matches(QKeySequence::Undo) || pressed.matches(QKeySequence::Redo)) {
+      event->ignore();
+      return true;
+    }
+  }
+  if (event->type() == QEvent::ContextMenu) {
+    ShowTextMenu(static_cast<QLineEdit&>(*watched), static_cast<QContextMenuEvent&>(*event).globalPos());
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+// The line's own menu, but for its first actions, which undo and redo.
+void T_dlgRFieldEdit::ShowTextMenu(QLineEdit& line, const QPoint& at) {
+  QMenu* menu = line.createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  while (!menu->actions().isEmpty() && !menu->actions().front()->isSeparator()) delete menu->actions().front();
+  menu->insertActions(menu->actions().value(0), {FUndo, FRedo});
+  menu->popup(at);
 }
 
 bool EditResultFields(QWidget* parent, TRFieldList& fields, const TTitles& titles, TRFHelpEvent onHelp) {
@@ -129,7 +179,7 @@ bool EditResultFields(QWidget* parent, TRFieldList& fields, const TTitles& title
   const QPointer<T_dlgRFieldEdit> dialog = new T_dlgRFieldEdit(fields, titles, std::move(onHelp), parent);
   const bool accepted = dialog->exec() == QDialog::Accepted;
   if (!dialog) return false;
-  if (accepted) fields.Assign(dialog->GetFields());
+  if (accepted && dialog->HasChanged()) fields.Assign(dialog->GetFields());
   delete dialog;
   return accepted;
 }

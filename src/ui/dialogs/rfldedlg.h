@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QDialog>
+#include <cstdint>
 #include <functional>
 #include <memory>
 
 #include <tolvi/query/titles.h>
 
 class QAction;
+class QLineEdit;
 class QTabWidget;
 
 namespace tolvi {
@@ -24,7 +26,8 @@ using TRFHelpEvent = std::function<void(QWidget& dialog)>;
 ///
 /// Keys: Enter in the tree of fields creates a column, Ctrl with +, -, * or / joins the selected fields to the current
 /// one; Ctrl+N new, Delete, Ctrl+T sorts, Alt+Up and Alt+Down move; Ctrl+Z and Ctrl+Y undo and redo, Ctrl+Tab
-/// goes to the other page, Ctrl+Enter is OK, F1 Help. A model that is destroyed meanwhile closes the dialog.
+/// goes to the other page, Ctrl+Enter is OK, F1 Help. Escape asks before changes are lost. A model that is destroyed
+/// meanwhile closes the dialog.
 class T_dlgRFieldEdit final : public QDialog {
   Q_OBJECT
 
@@ -37,12 +40,16 @@ class T_dlgRFieldEdit final : public QDialog {
   /// The columns as they stand in the dialog.
   const TRFieldList& GetFields() const;
   TRFieldEditor& Editor() const { return *FEditor; }
+  /// Whether they may be others than those that were given.
+  bool HasChanged() const;
 
   /// Goes to the first wrong expression if there is one, else closes the dialog.
   void accept() override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BuildHistory();
@@ -50,6 +57,8 @@ class T_dlgRFieldEdit final : public QDialog {
   void BuildButtons(TRFHelpEvent onHelp);
   void AddShortcut(const QKeySequence& key, const std::function<void()>& operation);
   void Refresh();
+  void AskToReject();
+  void ShowTextMenu(QLineEdit& line, const QPoint& at);
 
   std::unique_ptr<TRFieldEditor> FEditor;
   const bool FHasModel;
@@ -57,10 +66,12 @@ class T_dlgRFieldEdit final : public QDialog {
   TRFColumnsPage* FColumns;
   TRFSortingPage* FSorting;
   QAction *FUndo = nullptr, *FRedo = nullptr;
+  bool FChanged = false;
+  std::uint64_t FRevision = 0;
 };
 
-/// Lets the user edit the columns. Whether OK was chosen; `fields` then holds them, in one change, else it stays. It
-/// must live until the dialog is closed, be it by the destruction of `parent`.
+/// Lets the user edit the columns. Whether OK was chosen; `fields` then holds them, in one change if they are others,
+/// else it stays. It must live until the dialog is closed, be it by the destruction of `parent`.
 bool EditResultFields(QWidget* parent, TRFieldList& fields, const TTitles& titles, TRFHelpEvent onHelp = {});
 
 }  // namespace tolvi

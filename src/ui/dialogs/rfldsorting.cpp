@@ -12,6 +12,7 @@
 #include <tolvi/panel/rfldeditor.h>
 #include <tolvi/ui/controls/flatcheckbox.h>
 #include <tolvi/ui/controls/rowdrag.h>
+#include <tolvi/ui/dialogs/faultdelegate.h>
 #include <tolvi/ui/dialogs/rfldsorting.h>
 #include <tolvi/ui/dialogs/signicon.h>
 #include <tolvi/ui/qtext.h>
@@ -68,6 +69,7 @@ void TRFSortingPage::BuildTable() {
   header.setSectionResizeMode(ColExpression, QHeaderView::Stretch);
   header.setSectionResizeMode(ColSorting, QHeaderView::ResizeToContents);
   FTable->setColumnWidth(ColName, 24 * fontMetrics().averageCharWidth());
+  FTable->setItemDelegate(new TFaultDelegate(FTable));
   FTable->installEventFilter(this);
   auto* drag = new TRowDrag(*FTable);
   drag->OnMove = [this](int from, int to) { Move(from, to); };
@@ -114,6 +116,7 @@ void TRFSortingPage::ShowRow(int row, std::size_t column) {
     if (FTable->item(row, col) == nullptr) FTable->setItem(row, col, new QTableWidgetItem);
     FTable->item(row, col)->setText(texts[col]);
     FTable->item(row, col)->setToolTip(texts[col].toHtmlEscaped());
+    FTable->item(row, col)->setData(TFaultDelegate::WrongRole, !FEditor.GetProblem(column).empty());
   }
   if (FTable->cellWidget(row, ColSorting) == nullptr) MakeSortingBox(row);
   auto& box = *static_cast<QComboBox*>(FTable->cellWidget(row, ColSorting));
@@ -130,17 +133,34 @@ void TRFSortingPage::MakeSortingBox(int row) {
   for (const char* key : {"ttlNotSorted", "ttlAscending", "ttlDescending"}) {
     box->addItem(SignIcon(signs[box->count()], *FTable), Title(key));
   }
-  // The row may go with it: later.
-  connect(
-      box, &QComboBox::activated, this, [this, row](int sorting) { Choose(row, sorting); }, Qt::QueuedConnection);
+  box->installEventFilter(this);
+  connect(box, &QComboBox::activated, this, [this, box](int sorting) { Choose(RowOf(*box), sorting); });
   FTable->setCellWidget(row, ColSorting, box);
   FTable->setRowHeight(row, std::max(FTable->rowHeight(row), box->sizeHint().height()));
 }
 
+int TRFSortingPage::RowOf(const QObject& box) const {
+  int row = FTable->rowCount() - 1;
+  while (row >= 0 && FTable->cellWidget(row, ColSorting) != &box) --row;
+  return row;
+}
+
+void TRFSortingPage::GoTo(int row, bool toBox) {
+  FTable->setCurrentCell(row, ColName);
+  QWidget* box = FTable->cellWidget(row, ColSorting);
+  if (toBox && box != nullptr) box->setFocus();
+}
+
 void TRFSortingPage::Choose(int row, int sorting) {
-  const std::vector<std::size_t> sorted = FEditor.Sorted();
   const auto index = static_cast<std::size_t>(row);
-  if (index < sorted.size()) FEditor.SetSorting(sorted[index], static_cast<TSortingType>(sorting));
+  std::vector<std::size_t> sorted = FEditor.Sorted();
+  if (index >= sorted.size()) return;
+  FEditor.SetSorting(sorted[index], static_cast<TSortingType>(sorting));
+  if (sorting != stNoSort) return;
+  // The row that takes the place is current, but its box does not take the keys meant for the one that has gone.
+  FTable->setFocus();
+  sorted = FEditor.Sorted();
+  if (!sorted.empty()) FEditor.SetCurrent(sorted[std::min(index, sorted.size() - 1)]);
 }
 
 void TRFSortingPage::Move(int from, int to) {
@@ -150,26 +170,43 @@ void TRFSortingPage::Move(int from, int to) {
   FEditor.SetCurrent(moved);
 }
 
+bool TRFSortingPage::HandleKey(const QKeyEvent& pressed, QWidget& sender) {
+  const bool isBox = &sender != FTable;
+  const int key = pressed.key(), row = isBox ? RowOf(sender) : FTable->currentRow();
+  if (pressed.modifiers() == Qt::AltModifier && (key == Qt::Key_Up || key == Qt::Key_Down)) {
+    Move(row, key == Qt::Key_Up ? row - 1 : row + 1);
+    if (isBox) GoTo(FTable->currentRow(), true);
+    return true;
+  }
+  if (key == Qt::Key_Delete && row >= 0) {
+    Choose(row, stNoSort);
+    return true;
+  }
+  const int last = FTable->rowCount() - 1;
+  const std::pair<int, int> ways[] = {{Qt::Key_Up, row - 1}, {Qt::Key_Down, row + 1}, {Qt::Key_PageUp, 0},
+                                      {Qt::Key_Home, 0},     {Qt::Key_End, last},     {Qt::Key_PageDown, last}};
+  for (const auto& [way, to] : ways) {
+    if (!isBox || key != way) continue;
+    GoTo(std::clamp(to, 0, last), true);
+    return true;
+  }
+  auto* box = static_cast<QComboBox*>(FTable->cellWidget(row, ColSorting));
+  if (box == nullptr || (pressed.modifiers() & Qt::ControlModifier)) return false;
+  if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_F2 && key != Qt::Key_Space) return false;
+  box->setFocus();
+  box->showPopup();
+  return true;
+}
+
 bool TRFSortingPage::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    const auto& pressed = static_cast<QKeyEvent&>(*event);
-    const int key = pressed.key(), row = FTable->currentRow();
-    if (pressed.modifiers() == Qt::AltModifier && (key == Qt::Key_Up || key == Qt::Key_Down)) {
-      Move(row, key == Qt::Key_Up ? row - 1 : row + 1);
-      return true;
-    }
-    if (key == Qt::Key_Delete && row >= 0) {
-      Choose(row, stNoSort);
-      return true;
-    }
-    auto* box = static_cast<QComboBox*>(FTable->cellWidget(row, ColSorting));
-    if (box != nullptr &&
-        (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2 || key == Qt::Key_Space) &&
-        !(pressed.modifiers() & Qt::ControlModifier)) {
-      box->setFocus();
-      box->showPopup();
-      return true;
-    }
+  // The wheel scrolls the table.
+  if (event->type() == QEvent::Wheel && watched != FTable) {
+    event->ignore();
+    return true;
+  }
+  if (event->type() == QEvent::KeyPress &&
+      HandleKey(static_cast<QKeyEvent&>(*event), static_cast<QWidget&>(*watched))) {
+    return true;
   }
   return QWidget::eventFilter(watched, event);
 }

@@ -1,8 +1,10 @@
+#include <QAction>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
+#include <QToolButton>
 #include <QWidget>
 #include <utility>
 
@@ -136,5 +138,16 @@ class TSignEngine final : public QIconEngine {
 }  // namespace
 
 QIcon SignIcon(TSign sign, const QWidget& owner) { return QIcon(new TSignEngine(sign, owner)); }
+
+QToolButton* MakeSignButton(QAction& action, QWidget& parent) {
+  auto* button = new QToolButton(&parent);
+  button->setDefaultAction(&action);
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setAccessibleName(action.text());
+  const int side = parent.fontMetrics().height();
+  button->setIconSize(QSize(side, side));
+  return button;
+}
 
 }  // namespace tolvi

@@ -3,6 +3,8 @@
 
 #include <QIcon>
 #include <cstdint>
+class QAction;
+class QToolButton;
 class QWidget;
 
 namespace tolvi {
@@ -27,5 +29,8 @@ enum TSign : std::uint8_t {
 
 /// The sign in the colours of `owner`, and mirrored with it; `owner` may go before the icon.
 QIcon SignIcon(TSign sign, const QWidget& owner);
+
+/// A flat button of the action, owned by `parent`, its sign as high as the text.
+QToolButton* MakeSignButton(QAction& action, QWidget& parent);
 
 }  // namespace tolvi

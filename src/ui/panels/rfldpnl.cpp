@@ -177,9 +177,10 @@ bool TJResultFieldsPanel::EditFields() {
   // The host may have given the panel another model meanwhile.
   const bool fits =
       accepted && FResultFields != nullptr && FResultFields->GetDBStruct() == dialog->GetFields().GetDBStruct();
-  if (fits) FResultFields->Assign(dialog->GetFields());
+  const bool changed = fits && dialog->HasChanged();
+  if (changed) FResultFields->Assign(dialog->GetFields());
   delete dialog;
-  if (!fits || !alive) return fits;
+  if (!changed || !alive) return fits;
   RefreshFieldsList();
   Changed();
   return true;

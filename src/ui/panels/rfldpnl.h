@@ -97,9 +97,9 @@ class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   /// Whether the rows are being made anew from the columns.
   bool GetRefreshing() const { return FRefreshing; }
 
-  /// Lets the user edit the columns in a dialog; whether OK was chosen. Then the rows are made anew and `OnChange` is
-  /// fired once. Raises `ERFPanelError` "DBStructure is not specified" without a model. Users get there with Ctrl+E,
-  /// and by the menu that the right mouse button opens below the rows.
+  /// Lets the user edit the columns in a dialog; whether OK was chosen. After a change the rows are made anew and
+  /// `OnChange` is fired once. Raises `ERFPanelError` "DBStructure is not specified" without a model. Users get there
+  /// with Ctrl+E, and by the menu that the right mouse button opens below the rows.
   bool EditFields();
   /// The texts of the dialog are those of "[Result Fields Editor]". Default: English.
   const TTitles& GetEditorTitles() const { return FEditorTitles; }

@@ -1,0 +1,26 @@
+#include <QStyleOption>
+#include <QWidget>
+
+#include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/controls/drawing.h>
+#include <tolvi/ui/dialogs/checkstyle.h>
+
+namespace tolvi {
+
+int TCheckStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  const bool isBox = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
+  return isBox && widget != nullptr ? CheckBoxSide(widget->fontMetrics())
+                                    : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+void TCheckStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  if (element != PE_IndicatorItemViewItemCheck) {
+    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+  const QColor text = option->palette.color(QPalette::WindowText), face = option->palette.color(QPalette::Base);
+  DrawCheckBox(*painter, option->rect, option->state & State_On ? Qt::Checked : Qt::Unchecked,
+               {ReadableColor(text, face), MixedColor(text, face, 0.6), face});
+}
+
+}  // namespace tolvi
