@@ -54,7 +54,7 @@ TEST(StructureLayout, PutsAChainInOneLineAndAStarRoundItsMiddle) {
   const TPlaces star = LayOutTables(boxes, TLinks{{2, 0}, {2, 1}, {2, 3}, {2, 4}});
   EXPECT_TRUE(AreApart(boxes, star));
   int left = 0, right = 0;
-  for (const std::size_t leaf : {0, 1, 3, 4}) (star[leaf].X < star[2].X ? left : right) += 1;
+  for (const std::size_t leaf : {0U, 1U, 3U, 4U}) (star[leaf].X < star[2].X ? left : right) += 1;
   EXPECT_GT(left, 0);
   EXPECT_GT(right, 0);
 }
