@@ -1,12 +1,11 @@
 #include "apps/designer/widgeticons.h"
 
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <algorithm>
 
 #include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/controls/drawnicon.h>
 
 namespace tolvi {
 namespace {
@@ -34,34 +33,21 @@ void Paint(QPainter& painter, const TIconShape& shape, const QColor& color) {
   }
 }
 
-class TShapeEngine final : public QIconEngine {
+class TShapeEngine final : public TDrawnIconEngine {
  public:
-  explicit TShapeEngine(std::span<const TIconShape> shapes) : FShapes(shapes) {}
+  explicit TShapeEngine(std::span<const TIconShape> shapes) : TDrawnIconEngine(FieldSize), FShapes(shapes) {}
 
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+  QIconEngine* clone() const override { return new TShapeEngine(*this); }
+
+ protected:
+  void Draw(QPainter& painter, QIcon::Mode mode) const override {
     const QPalette palette = QGuiApplication::palette();
     const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     const QColor ink = palette.color(group, QPalette::WindowText), paper = palette.color(group, QPalette::Window);
     const QColor link = ReadableColor(palette.color(group, QPalette::Link), paper, 3);
     const QColor tones[] = {ink, mode == QIcon::Disabled ? ink : link, MixedColor(ink, paper, 0.45)};
-    const double side = std::min(rect.width(), rect.height());
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->translate(QRectF(rect).center() - QPointF(side / 2, side / 2));
-    painter->scale(side / FieldSize, side / FieldSize);
-    for (const TIconShape& shape : FShapes) Paint(*painter, shape, tones[shape.Tone]);
-    painter->restore();
+    for (const TIconShape& shape : FShapes) Paint(painter, shape, tones[shape.Tone]);
   }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, QRect(QPoint(), size), mode, state);
-    return pixmap;
-  }
-
-  QIconEngine* clone() const override { return new TShapeEngine(*this); }
 
  private:
   std::span<const TIconShape> FShapes;

@@ -1,6 +1,5 @@
 #include <QAction>
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
@@ -8,6 +7,7 @@
 #include <QWidget>
 #include <utility>
 
+#include <tolvi/ui/controls/drawnicon.h>
 #include <tolvi/ui/dialogs/signicon.h>
 
 namespace tolvi {
@@ -100,35 +100,24 @@ QPainterPath PathOf(TSign sign) {
   return path;
 }
 
-class TSignEngine final : public QIconEngine {
+class TSignEngine final : public TDrawnIconEngine {
  public:
-  TSignEngine(TSign sign, const QWidget& owner) : FSign(sign), FOwner(&owner) {}
-
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    const QPalette palette = FOwner ? FOwner->palette() : QGuiApplication::palette();
-    const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-    const bool isMirrored = FSign == sgRedo || (FSign == sgForward && FOwner && FOwner->isRightToLeft());
-    const double unit = qMin(rect.width(), rect.height()) / 16.0;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->translate(QRectF(rect).center());
-    painter->scale(isMirrored ? -unit : unit, unit);
-    painter->translate(-8, -8);
-    const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
-    painter->setPen(QPen(palette.color(group, role), 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter->drawPath(PathOf(FSign));
-    painter->restore();
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, QRect(QPoint(), size), mode, state);
-    return pixmap;
-  }
+  TSignEngine(TSign sign, const QWidget& owner) : TDrawnIconEngine(16), FSign(sign), FOwner(&owner) {}
 
   QIconEngine* clone() const override { return new TSignEngine(*this); }
+
+ protected:
+  void Draw(QPainter& painter, QIcon::Mode mode) const override {
+    const QPalette palette = FOwner ? FOwner->palette() : QGuiApplication::palette();
+    const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
+    painter.setPen(QPen(palette.color(group, role), 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(PathOf(FSign));
+  }
+
+  bool IsMirrored() const override {
+    return FSign == sgRedo || (FSign == sgForward && FOwner && FOwner->isRightToLeft());
+  }
 
  private:
   const TSign FSign;
