@@ -9,7 +9,6 @@ namespace {
 
 constexpr std::string_view LinkTypeNames[] = {"Inner", "Left", "Right", "Full"};
 constexpr std::string_view ColumnPrefix = "fld:";
-constexpr std::string_view ConstantPrefix = "val:";
 constexpr std::string_view OuterMark = " (+)";
 constexpr std::string_view FullJoinWithMarks =
     "The full outer join of tables \"%s\" and \"%s\" cannot be written with \"(+)\": choose another SQL syntax, or a "
@@ -25,11 +24,12 @@ struct TSide {
   bool marked;
 
   void Append(std::string& out, std::string_view entry) const {
-    if (entry.starts_with(ConstantPrefix)) {
-      out += entry.substr(ConstantPrefix.size());
+    const bool constant = IsLinkConstant(entry);
+    entry = LinkEntryText(entry);
+    if (constant) {
+      out += entry;
       return;
     }
-    if (entry.starts_with(ColumnPrefix)) entry.remove_prefix(ColumnPrefix.size());
     if (table) {
       table->AppendWhereExpr(out);
       out += '.';
@@ -47,9 +47,19 @@ struct TSide {
 
 std::string_view LinkTypeToStr(TDSLinkType linkType) { return LinkTypeNames[linkType]; }
 
+bool IsLinkConstant(std::string_view entry) { return entry.starts_with(LinkConstantPrefix); }
+
+std::string_view LinkEntryText(std::string_view entry) {
+  for (const std::string_view prefix : {ColumnPrefix, LinkConstantPrefix}) {
+    if (entry.starts_with(prefix)) return entry.substr(prefix.size());
+  }
+  return entry;
+}
+
 void TDSLink::SetTables(TDSTable& table1, TDSTable& table2) {
   FTable1 = &table1;
   FTable2 = &table2;
+  Modified();
 }
 
 void TDSLink::SetFields1(const TStrings& fields) {
@@ -105,7 +115,9 @@ std::string TDSLink::GetSQLExpr(TLinkExprMode mode) const {
   if (marks && FLinkType == ltOuterFull) {
     throw EJQueryPanelError(0, FullJoinWithMarks, {NameOf(FTable1), NameOf(FTable2)});
   }
-  const TSQLFormats* quotes = FQuoteFields ? &FormatsOf(FDBStruct) : nullptr;
+  // One that is not yet in the model of its tables is written like those that are.
+  const TJCustomDBStructure* model = FDBStruct == nullptr && FTable1 ? FTable1->GetDBStruct() : FDBStruct;
+  const TSQLFormats* quotes = FQuoteFields ? &FormatsOf(model) : nullptr;
   const TSide left{FTable1, quotes, marks && FLinkType == ltOuterRight};
   const TSide right{FTable2, quotes, marks && FLinkType == ltOuterLeft};
 

@@ -21,6 +21,12 @@ std::string_view LinkTypeToStr(TDSLinkType linkType);
 /// the side whose rows may be missing.
 enum TLinkExprMode : std::uint8_t { lemPlain = 1, lemOuterMarks = 2 };
 
+/// Before an entry of a link's columns that is a constant.
+inline constexpr std::string_view LinkConstantPrefix = "val:";
+/// Whether an entry is a constant; the entry without its prefix.
+bool IsLinkConstant(std::string_view entry);
+std::string_view LinkEntryText(std::string_view entry);
+
 /// A join between two tables: pairs of columns with a comparison each. The model owns it and both tables know it.
 /// Every setter tells the model, which fires `OnChange`.
 class TDSLink final {
@@ -33,7 +39,7 @@ class TDSLink final {
 
   TDSTable* GetTable1() const { return FTable1; }
   TDSTable* GetTable2() const { return FTable2; }
-  /// For a link that is not yet in a model.
+  /// For a link that is not yet in a model; for one that is, only to let its two tables change places.
   void SetTables(TDSTable& table1, TDSTable& table2);
   /// The other end as seen from `table`: the second table when `table` is the first, else the first.
   TDSTable* OtherTable(const TDSTable& table) const { return &table == FTable1 ? FTable2 : FTable1; }

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <bitset>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -7,27 +6,14 @@
 #include <tolvi/foundation/format.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/model/linkcheck.h>
 #include <tolvi/model/modelcheck.h>
+#include <tolvi/model/modelcheck_texts.h>
 
 namespace tolvi {
 namespace {
 
-/// Conditions hold two values.
-constexpr std::size_t MaxValues = 2;
-constexpr std::string_view LinkSymbols[] = {"=", "<>", "!=", "<", ">", "<=", ">="};
-
 using TNames = std::unordered_set<std::string_view, TFoldedHash, TFoldedEqual>;
-
-/// The numbers of the placeholders "@1" to "@9" of a template.
-std::bitset<10> Placeholders(std::string_view text) {
-  std::bitset<10> numbers;
-  for (std::size_t at = text.find('@'); at != std::string_view::npos; at = text.find('@', at + 1)) {
-    if (at + 1 < text.size() && text[at + 1] >= '1' && text[at + 1] <= '9') {
-      numbers.set(static_cast<std::size_t>(text[at + 1] - '0'));
-    }
-  }
-  return numbers;
-}
 
 std::string Numbered(std::string_view kind, std::size_t index) {
   return std::string(kind) + ":" + std::to_string(index + 1);
@@ -64,6 +50,11 @@ class TModelChecker {
   void Add(TCheckSeverity severity, std::string_view text, std::initializer_list<TFormatArg> args = {}) {
     FFindings.push_back({severity, FSection, FPlace, Format(text, args)});
   }
+  void Add(TTextFindings findings) {
+    for (TTextFinding& finding : findings) {
+      FFindings.push_back({finding.Severity, FSection, FPlace, std::move(finding.Text)});
+    }
+  }
   void ErrorIf(bool wrong, std::string_view text, std::initializer_list<TFormatArg> args = {}) {
     if (wrong) Add(csError, text, args);
   }
@@ -80,31 +71,18 @@ class TModelChecker {
             "the default main table \"%s\" is no alias of a table", {mainTable});
   }
 
-  /// What holds for every template; whether "@1", "@2" are `valueCount` is the caller's matter.
-  void CheckTemplate(std::string_view sql) {
-    ErrorIf(Trim(sql).empty(), "the SQL template is empty");
-    const std::bitset<10> numbers = Placeholders(sql);
-    const std::size_t values = TemplateParamCount(sql);
-    for (std::size_t number = values + 1; number < numbers.size(); ++number) {
-      ErrorIf(numbers[number], "the template has \"@%d\" but no \"@%d\": the value is never filled in",
-              {number, values + 1});
-    }
-    ErrorIf(values > MaxValues, "the template has %d values; conditions have at most %d", {values, MaxValues});
-  }
-
   void CheckOperators() {
     TNames names;
     std::size_t index = 0;
     for (const TDSOperator& op : FModel.Operators()) {
       At(Numbered("Operator", index), OrNameless("Operator", op.GetName(), index));
       ++index;
-      ErrorIf(op.GetName().empty(), "the name is empty");
-      ErrorIf(!names.insert(op.GetName()).second, "another operator has the same name");
-      WarnIf(op.GetDisplayName().empty(), "the display name is empty");
-      CheckTemplate(op.GetSQLExpr());
-      WarnIf(op.GetSQLExpr().find("@f") == std::string::npos, "the template does not mention the field (\"@f\")");
-      WarnIf(op.GetValueKind() != vkScalar && op.GetParamCount() == 0, "the template has no place for the %s (\"@1\")",
-             {op.GetValueKind() == vkList ? "list" : "sub-query"});
+      ErrorIf(op.GetName().empty(), checks::NoName);
+      ErrorIf(!names.insert(op.GetName()).second, checks::SameOperator);
+      WarnIf(op.GetDisplayName().empty(), checks::NoDisplayName);
+      TTextFindings findings;
+      checks::AddOperatorTemplate(findings, op.GetValueKind(), op.GetSQLExpr());
+      Add(std::move(findings));
     }
   }
 
@@ -114,10 +92,10 @@ class TModelChecker {
     for (const TDSTable& table : FModel.Tables()) {
       At(Numbered("Table", index), OrNameless("Table", table.GetTableAlias(), index));
       ++index;
-      ErrorIf(table.GetTableName().empty(), "the table name is empty");
-      ErrorIf(table.GetTableAlias().empty(), "the alias is empty: nothing can refer to the table");
-      ErrorIf(!aliases.insert(table.GetTableAlias()).second, "another table has the same alias");
-      WarnIf(table.GetDisplayName().empty(), "the display name is empty");
+      ErrorIf(table.GetTableName().empty(), checks::NoTableName);
+      ErrorIf(table.GetTableAlias().empty(), checks::NoAlias);
+      ErrorIf(!aliases.insert(table.GetTableAlias()).second, checks::SameAlias);
+      WarnIf(table.GetDisplayName().empty(), checks::NoDisplayName);
       std::unordered_set<const TDSTable*> linked;
       for (const TDSLink* link : table.Links()) {
         const bool first = linked.insert(link->OtherTable(table)).second;
@@ -130,22 +108,10 @@ class TModelChecker {
     const std::string& alias1 = link.GetTable1()->GetTableAlias();
     const std::string& alias2 = link.GetTable2()->GetTableAlias();
     At("Link:" + alias1 + "-" + alias2, "Link " + Quoted(alias1 + " - " + alias2));
-    const TStrings &fields1 = link.GetFields1(), &fields2 = link.GetFields2(), &symbols = link.GetOperators();
-    const std::size_t count = fields1.Count();
-    ErrorIf(count == 0 && fields2.Empty(), "the link has no columns");
-    ErrorIf(fields2.Count() != count, "the link has %d columns on the first side and %d on the second",
-            {count, fields2.Count()});
-    ErrorIf(symbols.Count() != std::max(count, fields2.Count()), "the link has %d comparison symbols for %d columns",
-            {symbols.Count(), std::max(count, fields2.Count())});
-    const auto isEmpty = [](const std::string& text) { return Trim(text).empty(); };
-    ErrorIf(
-        std::any_of(fields1.begin(), fields1.end(), isEmpty) || std::any_of(fields2.begin(), fields2.end(), isEmpty),
-        "a column name is empty");
-    for (const std::string& symbol : symbols) {
-      WarnIf(std::find(std::begin(LinkSymbols), std::end(LinkSymbols), Trim(symbol)) == std::end(LinkSymbols),
-             "\"%s\" is no comparison symbol", {symbol});
+    for (const TLinkFinding& finding : CheckLinkPairs(link.GetFields1(), link.GetOperators(), link.GetFields2())) {
+      Add(TTextFindings{{finding.Severity, finding.Text}});
     }
-    WarnIf(!first, "the two tables have a link before this one: joins always use that");
+    WarnIf(!first, LinkComesTooLate);
   }
 
   /// Tables that no chain of links joins with the main table (the first one where there is none).
@@ -190,34 +156,21 @@ class TModelChecker {
       At(Numbered("Field", index), OrNameless("Field", field.GetDisplayName(), index));
       ++index;
       ErrorIf(!ids.insert(field.GetID()).second, "another field has the same ID, %d", {field.GetID()});
-      WarnIf(field.GetDisplayName().empty(), "the display name is empty");
-      WarnIf(!names[field.GetGroup()].insert(field.GetDisplayName()).second,
-             "another field of its group has the same display name");
-      ErrorIf(Trim(field.GetFieldExpr()).empty(), "the %s is empty",
-              {field.GetFieldKind() == jfkData ? "column name" : "SQL expression"});
-      if (field.GetFieldKind() == jfkData) {
-        ErrorIf(!field.GetTable(), "the field has no table");
-      } else {
-        WarnIf(field.Tables().Empty(), "the SQL expression mentions no table of the model");
-        CheckAggregate(field);
+      WarnIf(field.GetDisplayName().empty(), checks::NoDisplayName);
+      WarnIf(!names[field.GetGroup()].insert(field.GetDisplayName()).second, checks::SameFieldInGroup);
+      TTextFindings findings;
+      checks::AddEmptyExpr(findings, field.GetFieldKind(), field.GetFieldExpr());
+      if (field.GetFieldKind() == jfkVirtual) {
+        checks::AddVirtualExpr(findings, !field.Tables().Empty(), field.GetIsAggregate(), field.GetFieldExpr());
       }
+      Add(std::move(findings));
+      ErrorIf(field.GetFieldKind() == jfkData && !field.GetTable(), "the field has no table");
       WarnIf(field.GetUseInConditions() && field.Operators().empty(),
              "conditions may use the field, but it offers no operator");
       const std::unordered_set<const TDSOperator*> operators(field.Operators().begin(), field.Operators().end());
       WarnIf(operators.size() != field.Operators().size(), "it offers an operator twice");
       CheckEditor(field);
     }
-  }
-
-  void CheckAggregate(const TDSField& field) {
-    const bool calls = TJCustomDBStructure::CheckIfAggregate(field.GetFieldExpr());
-    // A sub-select may well call an aggregate function without the field being one.
-    const bool subSelect = CXPos("select", field.GetFieldExpr(), 0, true) != std::string::npos;
-    WarnIf(calls && !subSelect && !field.GetIsAggregate(),
-           "the SQL expression calls an aggregate function, but the field is not marked as an aggregate: conditions on "
-           "it go to WHERE");
-    WarnIf(!calls && field.GetIsAggregate(),
-           "the field is marked as an aggregate, but the SQL expression calls no aggregate function");
   }
 
   void CheckEditor(const TDSField& field) {
@@ -236,8 +189,8 @@ class TModelChecker {
     for (const TDSFieldGroup& group : FModel.FieldGroups()) {
       At("FieldGroup" + std::to_string(index + 1), OrNameless("Field group", group.GetGroupName(), index));
       ++index;
-      WarnIf(group.GetGroupName().empty(), "the name is empty");
-      WarnIf(!names.insert(group.GetGroupName()).second, "another group has the same name");
+      WarnIf(group.GetGroupName().empty(), checks::NoName);
+      WarnIf(!names.insert(group.GetGroupName()).second, checks::SameGroup);
       WarnIf(group.Empty(), "the group has no fields");
     }
   }
@@ -249,14 +202,17 @@ class TModelChecker {
       At(Numbered("Cond", index), OrNameless("Condition", condition.GetDisplayFormat(), index));
       ++index;
       ErrorIf(!ids.insert(condition.GetID()).second, "another condition has the same ID, %d", {condition.GetID()});
-      WarnIf(condition.GetDisplayFormat().empty(), "the display format is empty");
-      CheckTemplate(condition.GetSQLExpr());
+      WarnIf(condition.GetDisplayFormat().empty(), checks::NoDisplayFormat);
       const std::size_t values = condition.Values().Count();
-      const std::size_t places = CharCount(condition.GetDisplayFormat(), '@');
-      ErrorIf(places != values, "the display format has %d places (\"@\") for %d values", {places, values});
+      TTextFindings findings;
+      checks::AddTemplate(findings, condition.GetSQLExpr());
+      checks::AddPlaces(findings, condition.GetDisplayFormat(), values);
+      Add(std::move(findings));
       const std::size_t inSQL = TemplateParamCount(condition.GetSQLExpr());
       ErrorIf(inSQL != values, "the SQL has %d places (\"@1\", \"@2\") for %d values", {inSQL, values});
-      WarnIf(condition.Tables().Empty(), "the SQL mentions no table of the model: it brings none into the statement");
+      findings.clear();
+      checks::AddConditionTables(findings, !condition.Tables().Empty());
+      Add(std::move(findings));
     }
   }
 

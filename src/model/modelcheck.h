@@ -2,10 +2,18 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include <tolvi/foundation/global.h>
+#include <tolvi/model/operators.h>
 
 namespace tolvi {
 
+class TDSCondition;
+class TDSField;
+class TDSFieldGroup;
+class TDSTable;
 class TJCustomDBStructure;
 
 /// An error makes statements wrong or impossible; a warning tells of what is legal but hardly meant.
@@ -25,5 +33,27 @@ struct TCheckFinding {
 /// or stand twice, templates with gaps in their placeholders, links that join nothing, fields that nobody can use,
 /// tables that no link reaches. Reads the model only; time linear in its size.
 std::vector<TCheckFinding> CheckModel(const TJCustomDBStructure& model);
+
+// Texts as they are typed: what would be wrong if they stood in the model. `self` is the part that they belong to; null
+// for a new one.
+
+struct TTextFinding {
+  TCheckSeverity Severity = csError;
+  std::string Text;
+  bool operator==(const TTextFinding&) const = default;
+};
+using TTextFindings = std::vector<TTextFinding>;
+
+TTextFindings CheckTableName(std::string_view name);
+TTextFindings CheckTableAlias(const TJCustomDBStructure& model, const TDSTable* self, std::string_view alias);
+TTextFindings CheckFieldDisplayName(const TDSField& self, std::string_view name);
+/// The column name of a data field, else the expression.
+TTextFindings CheckFieldExpr(const TJCustomDBStructure& model, TJFieldKind kind, bool isAggregate,
+                             std::string_view expr);
+TTextFindings CheckGroupName(const TJCustomDBStructure& model, const TDSFieldGroup* self, std::string_view name);
+TTextFindings CheckOperatorName(const TJCustomDBStructure& model, const TDSOperator* self, std::string_view name);
+TTextFindings CheckOperatorTemplate(TValueKind kind, std::string_view sql);
+TTextFindings CheckConditionFormat(std::string_view sql, std::string_view displayFormat);
+TTextFindings CheckConditionSQL(const TJCustomDBStructure& model, std::string_view sql);
 
 }  // namespace tolvi

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -114,6 +115,42 @@ class TModelFiller final {
 
 }  // namespace
 
+bool TFillPlan::Empty() const {
+  const bool noTables = std::all_of(Tables.begin(), Tables.end(), [](const auto& table) { return table.Existing; });
+  return noTables && Fields.empty() && Links.empty() && Types.empty() && !AddOperators;
+}
+
+std::string TFillPlan::LinkText(const TPlannedLink& link) const {
+  std::string text;
+  for (std::size_t index = 0; index < link.Fields1.Count(); ++index) {
+    if (!text.empty()) text += " and ";
+    text.append(Tables[link.Table1].Alias).append(".").append(link.Fields1[index]).append(" = ");
+    text.append(Tables[link.Table2].Alias).append(".").append(link.Fields2[index]);
+  }
+  return text;
+}
+
+TFillReport TFillPlan::Report() const {
+  TFillReport report = Found;
+  for (const TPlannedTable& table : Tables) {
+    if (!table.Existing) report.AddedTables.Add(table.Alias);
+  }
+  for (const TPlannedGroup& group : Groups) {
+    if (!group.Existing) report.AddedGroups.Add(group.Name);
+  }
+  for (const TPlannedField& field : Fields) {
+    const std::string name = Tables[field.Table].Alias + "." + field.Column;
+    report.AddedFields.Add(name);
+    if (!field.ListSQL.empty()) report.AddedLists.Add(name);
+  }
+  for (const TPlannedLink& link : Links) report.AddedLinks.Add(LinkText(link));
+  report.Notes.Clear();
+  if (AddOperators) report.Notes.Add("The model had no operators: it gets the default ones");
+  if (QualifyTables) report.Notes.Add("Statements name the tables with their schema: MultiDB is switched on");
+  report.Notes.AddStrings(Found.Notes);
+  return report;
+}
+
 bool TFillReport::Empty() const { return *this == TFillReport(); }
 
 TStrings TFillReport::ToStrings() const {
@@ -124,18 +161,21 @@ TStrings TFillReport::ToStrings() const {
   return lines;
 }
 
-TFillReport FillModel(TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options) {
-  const std::uint64_t revision = model.GetRevision();
-  TFillPlan plan = PlanFill(model, info, options);
-  if (model.GetRevision() != revision) {
-    throw EJDBStructError(0, "The model was changed while its catalogue was read: fill it again");
+void ApplyFillPlan(TJCustomDBStructure& model, const TFillPlan& plan) {
+  if (model.GetRevision() != plan.Revision) {
+    throw EJDBStructError(0, "The model has changed since its catalogue was read: fill it again");
   }
   model.AsOneChange([&] { TModelFiller(model, plan).Run(); });
-  return std::move(plan.Report);
+}
+
+TFillReport FillModel(TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options) {
+  const TFillPlan plan = PlanFill(model, info, options);
+  ApplyFillPlan(model, plan);
+  return plan.Report();
 }
 
 TFillReport PreviewFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options) {
-  return PlanFill(model, info, options).Report;
+  return PlanFill(model, info, options).Report();
 }
 
 }  // namespace tolvi

@@ -108,12 +108,18 @@ class TCatalogueReader final {
     return std::move(FCat);
   }
 
+  TCatalogue ReadNames() {
+    ReadTables();
+    return std::move(FCat);
+  }
+
  private:
   using TNames = std::unordered_set<std::string, TFoldedHash, TFoldedEqual>;
 
   void Note(std::string_view text, std::initializer_list<TFormatArg> args) { FCat.Notes.Add(Format(text, args)); }
 
   void ReadTables() {
+    FCat.Schemas.insert(FInfo.GetCurrentDBName());
     TStrings names, views;
     FInfo.GetTableNames(names);
     FInfo.GetViewNames(views);
@@ -146,6 +152,7 @@ class TCatalogueReader final {
     const auto [bare, first] = FCat.FBareNames.try_emplace(table.Name, number);
     if (!first) bare->second = Ambiguous;
     table.Used = (wanted.empty() || wanted.contains(name)) && (!view || FOptions.Views || FIsKnown(table));
+    FCat.Schemas.insert(table.Schema);
     FCat.Tables.push_back(std::move(table));
   }
 
@@ -290,6 +297,12 @@ class TCatalogueReader final {
 TCatalogue ReadCatalogue(TJDBInfo& info, const TFillOptions& options,
                          const std::function<bool(const TCatTable&)>& isKnown) {
   return TCatalogueReader(info, options, isKnown).Read();
+}
+
+TCatalogue ReadCatalogueTables(TJDBInfo& info) {
+  const TFillOptions all;
+  const std::function<bool(const TCatTable&)> isKnown;
+  return TCatalogueReader(info, all, isKnown).ReadNames();
 }
 
 }  // namespace tolvi

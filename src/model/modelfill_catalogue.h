@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -66,6 +67,8 @@ class TCatalogue final {
  public:
   std::vector<TCatTable> Tables;
   std::vector<TCatLink> Links;
+  /// Those whose tables are asked for.
+  std::unordered_set<std::string, TFoldedHash, TFoldedEqual> Schemas;
   TStrings Notes;
   /// Without a connection there is nothing in it.
   bool Connected = true;
@@ -82,5 +85,8 @@ class TCatalogue final {
 /// are read if `isKnown` says so of their schema and name. What handlers raise goes through.
 TCatalogue ReadCatalogue(TJDBInfo& info, const TFillOptions& options,
                          const std::function<bool(const TCatTable&)>& isKnown);
+
+/// Asks for the names of tables and views alone. The source must be connected.
+TCatalogue ReadCatalogueTables(TJDBInfo& info);
 
 }  // namespace tolvi

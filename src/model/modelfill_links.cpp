@@ -10,8 +10,6 @@
 namespace tolvi {
 namespace {
 
-constexpr std::string_view ColumnPrefix = "fld:", ConstantPrefix = "val:";
-
 /// Two tables, in either order.
 std::uint64_t PairOf(std::size_t a, std::size_t b) {
   return (static_cast<std::uint64_t>(std::min(a, b)) << 32U) + std::max(a, b);
@@ -35,8 +33,8 @@ class TLinkPlanner final {
  private:
   /// The number of a link's column; `None` for a constant, `gone` becomes true when the catalogue lacks the column.
   std::size_t ColumnOf(std::string_view entry, const TCatTable& table, bool& gone) const {
-    if (entry.starts_with(ConstantPrefix)) return None;
-    if (entry.starts_with(ColumnPrefix)) entry.remove_prefix(ColumnPrefix.size());
+    if (IsLinkConstant(entry)) return None;
+    entry = LinkEntryText(entry);
     std::size_t column = table.ColumnByName(entry);
     if (column == None) column = table.ColumnByName(PlainName(entry));
     if (column == None) gone = true;
@@ -66,7 +64,7 @@ class TLinkPlanner final {
       const bool equal = index >= link.GetOperators().Count() || Trim(link.GetOperators()[index]) == "=";
       if (column1 != None && column2 != None && equal) pairs.insert(Ordered(from, to, column1, column2));
     }
-    if (gone) FPlan.Report.VanishedLinks.Add(link.GetSQLExpr());
+    if (gone) FPlan.Found.VanishedLinks.Add(link.GetSQLExpr());
     FJoined[PairOf(from, to)].push_back(std::move(pairs));
   }
 
@@ -121,7 +119,6 @@ class TLinkPlanner final {
     link.Table1 = table1;
     link.Table2 = table2;
     link.LinkType = from.From == from.To ? ltOuterLeft : FOptions.LinkType;
-    std::string text;
     for (const auto& [column1, column2] : from.Columns) {
       const std::string& name1 = FCat.Tables[from.From].Columns[column1].Name;
       const std::string& name2 = FCat.Tables[from.To].Columns[column2].Name;
@@ -130,11 +127,7 @@ class TLinkPlanner final {
       for (const std::string& name : {name1, name2}) {
         if (NeedsQuotes(name, FOptions.QuoteMixedCase)) link.QuoteFields = true;
       }
-      if (!text.empty()) text += " and ";
-      text.append(FPlan.Tables[table1].Alias).append(".").append(name1).append(" = ");
-      text.append(FPlan.Tables[table2].Alias).append(".").append(name2);
     }
-    FPlan.Report.AddedLinks.Add(text);
     FPlan.Links.push_back(std::move(link));
   }
 

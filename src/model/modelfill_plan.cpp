@@ -36,12 +36,6 @@ std::string QuotedIfNeeded(const TSQLFormats& formats, std::string_view name, bo
   return result;
 }
 
-std::string TypeText(TFieldType type, int size) {
-  std::string text(FldTypeToStr(type));
-  if (size != 0) text.append("(").append(std::to_string(size)).append(")");
-  return text;
-}
-
 /// Writes the queries of lists of values, and asks how many rows they would have.
 class TListPlanner final {
  public:
@@ -122,7 +116,7 @@ class TFieldPlanner final {
         FOptions(options),
         FTables(tables),
         FPlan(plan),
-        FLists(model.SQLFormats(), catalogue, options, info, plan.Report) {}
+        FLists(model.SQLFormats(), catalogue, options, info, plan.Found) {}
 
   void Run() {
     FPresent.resize(FCat.Tables.size());
@@ -148,7 +142,7 @@ class TFieldPlanner final {
     std::size_t column = source.ColumnByName(name);
     if (column == None) column = source.ColumnByName(PlainName(name));
     if (column == None) {
-      FPlan.Report.VanishedFields.Add(table->GetTableAlias() + "." + name);
+      FPlan.Found.VanishedFields.Add(table->GetTableAlias() + "." + name);
       return;
     }
     const std::size_t index = FTables.SourceOf(number);
@@ -162,7 +156,7 @@ class TFieldPlanner final {
     const int size = column.Size == 0 && column.Type == field.GetFieldType() ? field.GetFieldSize() : column.Size;
     const bool same = column.Type == field.GetFieldType() && size == field.GetFieldSize();
     if (same || column.Type == ftUnknown) return;
-    FPlan.Report.ChangedTypes.Add(
+    FPlan.Found.ChangedTypes.Add(
         Format("%s.%s: %s is %s in the catalogue",
                {field.GetTable()->GetTableAlias(), field.GetFieldName(),
                 TypeText(field.GetFieldType(), field.GetFieldSize()), TypeText(column.Type, size)}));
@@ -207,9 +201,6 @@ class TFieldPlanner final {
     field.UseInConditions = FSuited.Contains(column.Type);
     field.UseInResult = ShownTypes.Contains(column.Type) && !(column.InKey && HiddenKeyTypes.Contains(column.Type));
     if (field.UseInConditions) field.ListSQL = FLists.ListOf(column);
-    const std::string name = FPlan.Tables[table].Alias + "." + column.Name;
-    FPlan.Report.AddedFields.Add(name);
-    if (!field.ListSQL.empty()) FPlan.Report.AddedLists.Add(name);
     FPlan.Fields.push_back(std::move(field));
   }
 
@@ -228,11 +219,8 @@ class TFieldPlanner final {
     planned = FPlan.Groups.size();
     FPlan.Groups.push_back({group, group ? std::string() : name});
     TNamePool& names = FDisplayNames.emplace_back();
-    if (group) {
-      for (const TDSField* field : *group) names.Reserve(field->GetDisplayName());
-    } else {
-      FPlan.Report.AddedGroups.Add(name);
-    }
+    if (!group) return planned;
+    for (const TDSField* field : *group) names.Reserve(field->GetDisplayName());
     return planned;
   }
 
@@ -264,7 +252,25 @@ void CheckFieldIDs(const TJCustomDBStructure& model, const TFillPlan& plan) {
 
 }  // namespace
 
+std::string TypeText(TFieldType type, int size) {
+  std::string text(FldTypeToStr(type));
+  if (size != 0) text.append("(").append(std::to_string(size)).append(")");
+  return text;
+}
+
+std::vector<TFillTable> TablesForFill(const TJCustomDBStructure& model, TJDBInfo& info) {
+  const TCatalogue catalogue = ReadCatalogueTables(info);
+  std::vector<TFillTable> tables;
+  for (const TCatTable& table : catalogue.Tables) tables.push_back({table.FullName, table.View, false});
+  for (const TDSTable& table : model.Tables()) {
+    if (const std::size_t source = TableOfModel(catalogue, table); source != None) tables[source].Known = true;
+  }
+  return tables;
+}
+
 TFillPlan PlanFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options) {
+  TFillPlan plan;
+  plan.Revision = model.GetRevision();
   std::unordered_set<std::string, TFoldedHash, TFoldedEqual> known;
   for (const TDSTable& table : model.Tables()) {
     for (std::string& name : CatalogueNames(table)) known.insert(std::move(name));
@@ -272,13 +278,9 @@ TFillPlan PlanFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFill
   const TCatalogue catalogue = ReadCatalogue(info, options, [&known](const TCatTable& table) {
     return known.contains(table.PlainName()) || known.contains(table.Name);
   });
-  TFillPlan plan;
-  plan.Report.Notes = catalogue.Notes;
+  plan.Found.Notes = catalogue.Notes;
   if (!catalogue.Connected) return plan;
-  if (model.Operators().Empty()) {
-    plan.AddOperators = true;
-    plan.Report.Notes.Add("The model had no operators: it gets the default ones");
-  }
+  plan.AddOperators = model.Operators().Empty();
   TPlannedTables tables(model, catalogue, plan);
   tables.AddMissing(options);
   PlanLinks(model, catalogue, options, tables, plan);

@@ -15,7 +15,23 @@ bool IsDefaultTemplate(const TJCustomDBStructure& model) {
   return model.SQLFormats().GetFullTableName() == TSQLFormats().GetFullTableName();
 }
 
+/// Whether the catalogue knows tables of that schema. Those of other databases are not asked for.
+bool IsListed(const TCatalogue& catalogue, const TDSTable& table) {
+  const std::vector<std::string> names = CatalogueNames(table);
+  return std::any_of(names.begin(), names.end(), [&catalogue](const std::string& name) {
+    const std::vector<std::string> parts = NameParts(name);
+    return catalogue.Schemas.contains(WithDots(parts, parts.size() - 1));
+  });
+}
+
 }  // namespace
+
+std::size_t TableOfModel(const TCatalogue& catalogue, const TDSTable& table) {
+  for (const std::string& name : CatalogueNames(table)) {
+    if (const std::size_t source = catalogue.TableByName(name); source != None) return source;
+  }
+  return None;
+}
 
 std::vector<std::string> CatalogueNames(const TDSTable& table) {
   std::vector<std::string> names{PlainName(table.GetCompoundName()), PlainName(table.GetFullName())};
@@ -32,12 +48,9 @@ TPlannedTables::TPlannedTables(const TJCustomDBStructure& model, const TCatalogu
     FAliases.Reserve(table.GetTableAlias());
     FNames.Reserve(table.GetTableName());
     FDisplayNames.Reserve(table.GetDisplayName());
-    std::size_t source = None;
-    for (const std::string& name : CatalogueNames(table)) {
-      if (source == None) source = catalogue.TableByName(name);
-    }
+    const std::size_t source = TableOfModel(catalogue, table);
     if (source == None) {
-      plan.Report.VanishedTables.Add(table.GetTableAlias());
+      if (IsListed(catalogue, table)) plan.Found.VanishedTables.Add(table.GetTableAlias());
       continue;
     }
     TPlannedTable known;
@@ -58,7 +71,6 @@ TPlannedTables::TPlannedTables(const TJCustomDBStructure& model, const TCatalogu
 
 std::size_t TPlannedTables::Add(std::size_t source, TPlannedTable table) {
   const std::size_t number = FPlan.Tables.size();
-  if (!table.Existing) FPlan.Report.AddedTables.Add(table.Alias);
   FPlan.Tables.push_back(std::move(table));
   FSources.push_back(source);
   FRoleTaken.push_back(false);
@@ -92,14 +104,12 @@ void TPlannedTables::Qualify() {
   const auto& tables = FModel.Tables();
   const bool changes =
       std::any_of(tables.begin(), tables.end(), [](const TDSTable& table) { return !table.GetDatabaseName().empty(); });
-  TStrings& notes = FPlan.Report.Notes;
   if (changes) {
-    notes.Add("Statements name the new tables without their schema: MultiDB is off");
+    FPlan.Found.Notes.Add("Statements name the new tables without their schema: MultiDB is off");
     return;
   }
   FPlan.QualifyTables = true;
   if (IsDefaultTemplate(FModel) && FModel.DMOptions().GetDefaultDBOwner().empty()) FPlan.FullTableName = QualifiedName;
-  notes.Add("Statements name the tables with their schema: MultiDB is switched on");
 }
 
 std::size_t TPlannedTables::AddRole(std::size_t from, const TCatColumn& column, std::size_t target,
@@ -118,6 +128,7 @@ std::size_t TPlannedTables::AddRole(std::size_t from, const TCatColumn& column, 
   table.Quoted = main.Existing ? main.Existing->GetQuoted() : NeedsQuotes(source.Name, quoteMixedCase);
   table.Alias = TakeAlias({alias, longAlias}, {});
   table.DisplayName = TakeDisplayName(ReadableName(role), FPlan.Tables[from].DisplayName);
+  table.Role = true;
   const std::size_t number = Add(target, std::move(table));
   FRoleTaken[number] = true;
   return number;

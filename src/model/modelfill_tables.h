@@ -16,6 +16,8 @@ namespace tolvi {
 
 /// The names by which a catalogue may know a table of the model.
 std::vector<std::string> CatalogueNames(const TDSTable& table);
+/// The table of the catalogue that a table of the model is; `None`.
+std::size_t TableOfModel(const TCatalogue& catalogue, const TDSTable& table);
 
 /// Keeps `plan.Tables`, where each table of a catalogue may stand several times, with other aliases.
 class TPlannedTables final {

@@ -101,11 +101,11 @@ std::string TModelEditor::UndoName() { return CanUndo() ? FSteps[FDone - 1].Name
 std::string TModelEditor::RedoName() { return CanRedo() ? FSteps[FDone].Name : std::string(); }
 
 void TModelEditor::Undo() {
-  if (CanUndo()) Go(false);
+  if (FDepth == 0 && CanUndo()) Go(false);
 }
 
 void TModelEditor::Redo() {
-  if (CanRedo()) Go(true);
+  if (FDepth == 0 && CanRedo()) Go(true);
 }
 
 void TModelEditor::ForgetSteps() {
@@ -153,9 +153,20 @@ void TModelEditor::TakeForeignChange() {
   if (FDepth == 0) Take({});
 }
 
+/// What listeners ask of the history meanwhile must not find a change of its own.
 void TModelEditor::Restore(const std::string& text) {
-  ReadState(text, FModel);
-  FRevision = FModel.GetRevision();
+  const auto restored = [this] {
+    FRevision = FModel.GetRevision();
+    FDepth = 0;
+  };
+  FDepth = 1;
+  try {
+    ReadState(text, FModel);
+  } catch (...) {
+    restored();
+    throw;
+  }
+  restored();
 }
 
 void TModelEditor::Go(bool forward) {

@@ -44,7 +44,7 @@ class TModelEditor final {
   /// What would be undone, redone; empty when there is nothing, or it has no name.
   std::string UndoName();
   std::string RedoName();
-  /// Nothing happens when there is nothing to undo, redo.
+  /// Nothing happens when there is nothing to undo, redo, and in the midst of an edit.
   void Undo();
   void Redo();
   /// After the model has been replaced by another one.

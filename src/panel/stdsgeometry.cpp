@@ -3,13 +3,13 @@
 #include <cstdlib>
 
 #include <tolvi/foundation/text.h>
+#include <tolvi/model/link.h>
 #include <tolvi/panel/stdsgeometry.h>
 
 namespace tolvi {
 namespace {
 
 constexpr int StubLength = 8, HitDistance = 4, BelowTop = 10, AboveBottom = 5;
-constexpr std::string_view ConstantPrefix = "val:", ColumnPrefix = "fld:";
 
 /// The value at `at` on the line through (from, start) and (to, end), cut toward zero; from and to differ.
 std::int64_t OnLine(int from, int start, int to, int end, int at) {
@@ -84,8 +84,8 @@ std::vector<TLinkNode> LinkNodes(const TStrings& fields, const TTableBox& box, c
   const bool toRight = other.Left > right;
   std::vector<TLinkNode> nodes;
   for (std::string_view name : fields) {
-    if (name.starts_with(ConstantPrefix)) continue;
-    if (name.starts_with(ColumnPrefix)) name.remove_prefix(ColumnPrefix.size());
+    if (IsLinkConstant(name)) continue;
+    name = LinkEntryText(name);
     const bool isKnown =
         std::any_of(nodes.begin(), nodes.end(), [&](const TLinkNode& node) { return SameText(node.FieldName, name); });
     if (isKnown) continue;

@@ -124,5 +124,52 @@ TEST(ModelCheck, FindsFaultsOfFieldsAndGroups) {
   });
 }
 
+std::string Lines(const TTextFindings& findings) {
+  std::string lines;
+  for (const TTextFinding& finding : findings) {
+    lines += (finding.Severity == csError ? "error " : "warning ") + finding.Text + "\n";
+  }
+  return lines;
+}
+
+TEST(ModelCheck, ChecksNamesAgainstTheOthers) {
+  const auto model = OrdersModel();
+  model->FieldGroups().AddGroup("Dates");
+  const TDSTable* orders = model->TableByName(tnAlias, "Orders");
+  EXPECT_EQ(Lines(CheckTableAlias(*model, orders, "ORDERS")), "");
+  EXPECT_EQ(Lines(CheckTableAlias(*model, nullptr, "order details")), "error another table has the same alias\n");
+  EXPECT_EQ(Lines(CheckTableAlias(*model, orders, "")), "error the alias is empty: nothing can refer to the table\n");
+  EXPECT_EQ(Lines(CheckOperatorName(*model, nullptr, "equal")), "error another operator has the same name\n");
+  EXPECT_EQ(Lines(CheckOperatorName(*model, &OperatorOf(*model, "Equal"), "equal")), "");
+  EXPECT_EQ(Lines(CheckGroupName(*model, nullptr, "dates")), "warning another group has the same name\n");
+  EXPECT_EQ(Lines(CheckFieldDisplayName(FieldOf(*model, "Customers.City"), "company")),
+            "warning another field of its group has the same display name\n");
+}
+
+TEST(ModelCheck, ChecksTypedSQL) {
+  const auto model = OrdersModel();
+  const auto expr = [&model](std::string_view sql) { return Lines(CheckFieldExpr(*model, jfkVirtual, false, sql)); };
+  const auto condition = [&model](std::string_view sql) { return Lines(CheckConditionSQL(*model, sql)); };
+  EXPECT_EQ(Lines(CheckOperatorTemplate(vkScalar, "@f like '%@1%' escape '@' or @x@x@0")),
+            "warning \"@'\" is no placeholder: those are \"@f\", \"@1\" and \"@2\"\n"
+            "warning \"@x\" is no placeholder: those are \"@f\", \"@1\" and \"@2\"\n"
+            "warning \"@0\" is no placeholder: those are \"@f\", \"@1\" and \"@2\"\n");
+  EXPECT_EQ(Lines(CheckOperatorTemplate(vkList, "exists (@2) @")),
+            "error the template has \"@2\" but no \"@1\": the value is never filled in\n"
+            "warning the template does not mention the field (\"@f\")\n"
+            "warning the template has no place for the list (\"@1\")\n"
+            "warning nothing follows the \"@\" at the end\n");
+  EXPECT_EQ(expr("upper(Orders.OrderNo) || 'Customers.Nobody' || \"Order_Details\".\"Qty\""), "");
+  EXPECT_EQ(expr("Orders.Weight + Ordrs.OrderNo + util.f(Orders.Total)"),
+            "warning the model has no field for the column \"Weight\" of table \"Orders\"\n"
+            "warning the model has no table \"Ordrs\"\n");
+  EXPECT_EQ(expr("(select max(o.Total) from Orders o where o.CustNo = Customers.CustNo)"), "");
+  EXPECT_EQ(condition("Orders.Total > @1 and Orders.Total < @f"),
+            "warning \"@f\" is no placeholder: those are \"@1\" and \"@2\"\n");
+  EXPECT_EQ(condition(" "), "error the SQL template is empty\n");
+  EXPECT_EQ(Lines(CheckConditionFormat("Orders.Total > @1", "more than @ and @")),
+            "error the display format has 2 places (\"@\") for 1 values\n");
+}
+
 }  // namespace
 }  // namespace tolvi
