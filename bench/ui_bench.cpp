@@ -315,6 +315,12 @@ constexpr TRatio Ratios[] = {
     {"open a list of 20,000 items : a plain list", "ListOpened", "PlainListOpened", 5},
     {"find an item by 10 letters : filter a plain list", "ItemFound", "PlainListFiltered", 1},
     {"open 200 result columns : 200 buttons and 400 labels", "ColumnsOpened", "WidgetsOpened", 5},
+    {"open a diagram of 500 tables : a scene of plain items", "DiagramOpened/500", "PlainSceneOpened/500", 2},
+    {"open a diagram of 2,500 tables : a scene of plain items", "DiagramOpened/2500", "PlainSceneOpened/2500", 2},
+    {"drag a box among 500 : a plain item, all painted", "BoxDragged/500", "PlainItemDragged/500", 4},
+    {"drag a box among 2,500 : a plain item, all painted", "BoxDragged/2500", "PlainItemDragged/2500", 6},
+    {"zoom a diagram of 500 tables : a scene of plain items", "DiagramZoomed/500", "PlainSceneZoomed/500", 2},
+    {"zoom a diagram of 2,500 tables : a scene of plain items", "DiagramZoomed/2500", "PlainSceneZoomed/2500", 2},
 };
 
 }  // namespace

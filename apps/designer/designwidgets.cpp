@@ -9,6 +9,7 @@
 #include "apps/designer/panelexamples.h"
 #include <tolvi/panel/panelcommands.h>
 #include <tolvi/panel/rfldrows.h>
+#include <tolvi/panel/stdshints.h>
 #include <tolvi/ui/controls/dddate.h>
 #include <tolvi/ui/controls/ddedit.h>
 #include <tolvi/ui/controls/ddlist.h>
@@ -17,6 +18,7 @@
 #include <tolvi/ui/panels/linklabel.h>
 #include <tolvi/ui/panels/querpnlview.h>
 #include <tolvi/ui/panels/rfldpnl.h>
+#include <tolvi/ui/panels/stdspnl.h>
 
 namespace tolvi {
 namespace {
@@ -32,6 +34,10 @@ constexpr TIconShape ColumnsIcon[] = {{isBox, itFaint, 1, 1, 20, 20}, {isDisc, i
                                       {isBar, itLink, 9, 5, 5, 1.5},  {isArrow, itInk, 15.5, 4.5, 3.5, 2.5},
                                       {isDisc, itInk, 4, 9.5, 3, 3},  {isBar, itLink, 9, 10.5, 9, 1.5},
                                       {isDisc, itInk, 4, 15, 3, 3},   {isBar, itLink, 9, 16, 7, 1.5}};
+constexpr TIconShape DiagramIcon[] = {{isBox, itFaint, 1, 1, 9, 10},    {isBar, itInk, 1, 1, 9, 3},
+                                      {isBar, itInk, 3, 6.5, 5, 1.2},   {isBox, itFaint, 12, 10, 9, 10},
+                                      {isBar, itInk, 12, 10, 9, 3},     {isBar, itInk, 14, 15.5, 5, 1.2},
+                                      {isBar, itLink, 10, 6.3, 7, 1.4}, {isBar, itLink, 15.8, 6.3, 1.4, 4}};
 constexpr TIconShape EditIcon[] = {{isBar, itLink, 2, 14, 12, 1.5},
                                    {isBar, itLink, 3, 9, 9, 2},
                                    {isBar, itInk, 16.5, 5, 1.5, 12},
@@ -88,6 +94,11 @@ constexpr TDesignWidget Widgets[] = {
      "Columns of a query",
      "The columns of a query: users add, delete, move and sort them. Give it a data model with SetDBStruct().",
      ColumnsIcon, New<TJResultFieldsPanel>, ShowColumnsExample, "titles", DefaultRFPanelTitles},
+    {"tolvi::TJStructDesignPanel", "QFrame", "tolvi/ui/panels/stdspnl.h", "structDesignPanel", PanelSize,
+     "Diagram of a data model",
+     "The tables of a data model as boxes and its links as lines, for developers. Give it a data model with "
+     "SetDBStruct() and activate it.",
+     DiagramIcon, New<TJStructDesignPanel>, ShowDiagramExample, "actionHints", DefaultActionHints},
     {"tolvi::TDropDownEdit", "QWidget", "tolvi/ui/controls/ddedit.h", "dropDownEdit", Caption, "Words edited as a line",
      "A label like a link; a click makes it a line to type in.", EditIcon, New<TDropDownEdit>, nullptr, nullptr,
      nullptr},
@@ -126,6 +137,10 @@ constexpr struct {
     {"commandTitles", "Texts of the commands that are not the default ones, lines \"key=text\"."},
     {"titles", "Texts that are not the default ones, lines \"key=text\"."},
     {"allowLocking", "Whether users may lock rows."},
+    {"showActionHints", "Whether a line below the diagram says what a click does."},
+    {"showFullScreenButton", "Whether a button lets the diagram cover the screen."},
+    {"showMinimap", "Whether a small picture of the whole diagram is shown while not all of it is seen."},
+    {"actionHints", "Hints that are not the default ones, lines \"key=text\"."},
     {"nameSeparator", "Between the name of a group and that of a field."},
     {"linkColor", "Not set: the palette's colour of links. Made readable where it is not."},
     {"caption", "What is shown."},

@@ -6,6 +6,7 @@
 #include <tolvi/query/querpnl.h>
 #include <tolvi/ui/panels/querpnlview.h>
 #include <tolvi/ui/panels/rfldpnl.h>
+#include <tolvi/ui/panels/stdspnl.h>
 
 namespace tolvi {
 namespace {
@@ -62,6 +63,15 @@ void ShowColumnsExample(QWidget& widget) {
   panel.SetActive(true);
   panel.SetResultFields(columns);
   panel.GetAppearance().OnChange = [&panel] { panel.Refresh(); };
+}
+
+void ShowDiagramExample(QWidget& widget) {
+  auto& panel = static_cast<TJStructDesignPanel&>(widget);
+  auto* example = new TExample(&panel);
+  example->Model.AddTable("Customers", "Customers");
+  example->Model.AddLinkByExpr("Orders.CustNo = Customers.CustNo");
+  panel.SetDBStruct(&example->Model);
+  panel.SetActive(true);
 }
 
 }  // namespace tolvi

@@ -4,9 +4,10 @@ class QWidget;
 
 namespace tolvi {
 
-/// Let a new panel (`TJQueryPanelView`, `TJResultFieldsPanel`) show a small query, so that colours and spaces can be
-/// seen. The panel owns model and query.
+/// Let a new panel (`TJQueryPanelView`, `TJResultFieldsPanel`, `TJStructDesignPanel`) show a small query or model, so
+/// that colours and spaces can be seen. The panel owns them.
 void ShowQueryExample(QWidget& panel);
 void ShowColumnsExample(QWidget& panel);
+void ShowDiagramExample(QWidget& panel);
 
 }  // namespace tolvi

@@ -2,6 +2,7 @@
 #include <tolvi/connect/sqldbinfo.h>
 #include <tolvi/model/formatpresets.h>
 #include <tolvi/model/modelfill.h>
+#include <tolvi/panel/stdsplaces.h>
 
 // The command "init-model": a model made from what a database tells of itself.
 
@@ -53,7 +54,10 @@ int RunInitModel(TSession& session) {
   const TFillReport report = Using(connection.GetUrl().Shown(), [&] {
     TJSqlDBInfo info(connection.GetName());
     if (!merge) ApplyFormatPreset(session.Model.SQLFormats(), FormatPresetOf(connection.GetKind()));
-    return FillModel(session.Model, info, FillOptionsOf(session, connection.GetKind()));
+    const TFillReport filled = FillModel(session.Model, info, FillOptionsOf(session, connection.GetKind()));
+    // A model that has been arranged in the designer keeps its arrangement.
+    PlaceNewTables(session.Model);
+    return filled;
   });
   if (merge) {
     Tell(session, report);

@@ -138,7 +138,7 @@ TEST(Designer, OffersEveryWidgetWithAllThatItsBoxShows) {
   auto* collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
   ASSERT_NE(collection, nullptr) << plugin.errorString().toStdString();
   const auto widgets = collection->customWidgets();
-  EXPECT_EQ(widgets.size(), 11);
+  EXPECT_EQ(widgets.size(), 12);
   std::set<QString> toolTips;
   std::set<QByteArray> icons;
   for (QDesignerCustomWidgetInterface* offered : widgets) {

@@ -1,3 +1,5 @@
+#include <QCheckBox>
+#include <QListWidget>
 #include <QStyleOption>
 #include <QWidget>
 
@@ -19,8 +21,16 @@ void TCheckStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     return QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
   const QColor text = option->palette.color(QPalette::WindowText), face = option->palette.color(QPalette::Base);
-  DrawCheckBox(*painter, option->rect, option->state & State_On ? Qt::Checked : Qt::Unchecked,
+  const Qt::CheckState unset = option->state & State_NoChange ? Qt::PartiallyChecked : Qt::Unchecked;
+  DrawCheckBox(*painter, option->rect, option->state & State_On ? Qt::Checked : unset,
                {ReadableColor(text, face), MixedColor(text, face, 0.6), face});
+}
+
+void UseCheckStyle(QWidget& parent) {
+  auto* style = new TCheckStyle;
+  style->setParent(&parent);
+  for (QCheckBox* box : parent.findChildren<QCheckBox*>()) box->setStyle(style);
+  for (QListWidget* list : parent.findChildren<QListWidget*>()) list->setStyle(style);
 }
 
 }  // namespace tolvi

@@ -14,4 +14,7 @@ class TCheckStyle final : public QProxyStyle {
                      const QWidget* widget) const override;
 };
 
+/// Gives the style to all check boxes and lists in `parent`, which owns it.
+void UseCheckStyle(QWidget& parent);
+
 }  // namespace tolvi

@@ -5,7 +5,7 @@
 namespace tolvi {
 
 /// Draws a wavy line below the text of the items that are wrong.
-class TFaultDelegate final : public QStyledItemDelegate {
+class TFaultDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
  public:

@@ -42,6 +42,17 @@ void Turn(QPainterPath& path) {
   path.cubicTo(13, 5, 14.5, 9, 12, 13.5);
 }
 
+/// Of a square, in the distance of its edge; their legs lead to the middle or, when negative, away from it.
+void Corners(QPainterPath& path, double edge, double leg) {
+  for (const double x : {edge, 16 - edge}) {
+    for (const double y : {edge, 16 - edge}) {
+      path.moveTo(x < 8 ? x + leg : x - leg, y);
+      path.lineTo(x, y);
+      path.lineTo(x, y < 8 ? y + leg : y - leg);
+    }
+  }
+}
+
 QPainterPath PathOf(TSign sign) {
   QPainterPath path;
   switch (sign) {
@@ -93,6 +104,12 @@ QPainterPath PathOf(TSign sign) {
     case sgUndo:
     case sgRedo:
       Turn(path);
+      break;
+    case sgFullScreen:
+      Corners(path, 2.5, 3.5);
+      break;
+    case sgRestore:
+      Corners(path, 6, -3.5);
       break;
     case sgNone:
       break;

@@ -24,6 +24,8 @@ enum TSign : std::uint8_t {
   sgDown,
   sgUndo,
   sgRedo,
+  sgFullScreen,
+  sgRestore,
   sgNone,
 };
 
