@@ -49,7 +49,13 @@ TModelEditor::TModelEditor(TJCustomDBStructure& model)
 
 bool TModelEditor::Edit(std::string_view name, const std::function<void()>& edit) {
   if (FDepth > 0) {
-    edit();
+    const std::string before = StateText(FModel);
+    try {
+      FModel.AsOneChange(edit);
+    } catch (...) {
+      ReadState(before, FModel);
+      throw;
+    }
     return true;
   }
   Begin(name);
@@ -77,7 +83,7 @@ void TModelEditor::Begin(std::string_view name) {
 }
 
 void TModelEditor::End() {
-  if (--FDepth > 0) return;
+  if (FDepth == 0 || --FDepth > 0) return;
   if (Take(FName)) Tell();
 }
 

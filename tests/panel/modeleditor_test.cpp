@@ -105,6 +105,23 @@ TEST_F(ModelEditor, PutsTheModelBackWhenAnEditFails) {
   model.GetTable(0).SetDesignPositions({5, 6, 110, 160});
   editor.Cancel();
   EXPECT_EQ(Text(), before);
+
+  // Only the inner edit is put back; an end without a beginning does nothing.
+  editor.Begin("Add tables");
+  model.GetTable(0).SetDisplayName("Sales");
+  const std::string between = Text();
+  EXPECT_THROW(editor.Edit("Fail",
+                           [&] {
+                             model.DelTable(0);
+                             model.DelTable(7);
+                           }),
+               EJDBStructError);
+  EXPECT_EQ(Text(), between);
+  editor.End();
+  editor.End();
+  EXPECT_EQ(editor.UndoName(), "Add tables");
+  editor.Undo();
+  EXPECT_EQ(Text(), before);
 }
 
 TEST_F(ModelEditor, MakesOneStepOfALongEdit) {

@@ -18,8 +18,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/models.h"
-#include "uitest.h"
+#include "modeldialog.h"
 #include <tolvi/foundation/files.h>
 #include <tolvi/model/modeltext.h>
 #include <tolvi/panel/modeleditor.h>
@@ -32,97 +31,6 @@
 
 namespace tolvi {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
-
-class ModelDialog : public TUiTest {
- protected:
-  void SetUp() override {
-    TUiTest::SetUp();
-    // The user's own places stay as they are.
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
-  }
-
-  void Open(std::vector<TModelFormat> formats = {}) {
-    dialog = std::make_unique<T_dlgModelEdit>(*model, std::move(formats), &window);
-    dialog->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
-    user::Settle();
-  }
-  void GoTo(const QString& page) {
-    auto& pages = *dialog->findChild<QTabWidget*>(QString(), Qt::FindChildrenRecursively);
-    while (pages.currentWidget()->objectName() != page) user::Press(*dialog, Qt::Key_Tab, Qt::ControlModifier);
-  }
-  /// To whatever has the focus.
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    // As a window system does when a message box is closed.
-    if (QApplication::activeWindow() == nullptr) QApplication::setActiveWindow(dialog.get());
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    user::Settle();
-  }
-  void TypeAndEnter(const QString& text) {
-    Press(Qt::Key_A, Qt::ControlModifier);
-    Type(text);
-    Press(Qt::Key_Return);
-  }
-  /// Answers the next message box, whose text this returns.
-  std::shared_ptr<QString> Answer(QMessageBox::StandardButton button) {
-    auto told = std::make_shared<QString>();
-    QTimer::singleShot(0, &window, [this, told, button] { AnswerNow(told, button, 200); });
-    return told;
-  }
-  template <typename T>
-  T& Named(const QString& accessibleName) {
-    for (T* widget : dialog->findChildren<T*>()) {
-      if (widget->accessibleName() == accessibleName && widget->isVisible()) return *widget;
-    }
-    throw std::runtime_error("nothing is called " + accessibleName.toStdString());
-  }
-  template <typename T>
-  T& WithText(const QString& text) {
-    for (T* widget : dialog->findChildren<T*>()) {
-      if (widget->text() == text && widget->isVisible()) return *widget;
-    }
-    throw std::runtime_error("nothing has the text " + text.toStdString());
-  }
-  QTreeView& Tables() { return Named<QTreeView>(u"Tables"_s); }
-  QTreeView& Fields() { return Named<QTreeView>(u"Fields in groups"_s); }
-  TCheckedLine& Line(const QString& name) { return Named<TCheckedLine>(name); }
-  TJCustomDBStructure& Copy() { return dialog->Model(); }
-  std::string Aliases() {
-    TStrings aliases;
-    Copy().GetTableNames(tnAlias, aliases);
-    return aliases.Joined(" ");
-  }
-  /// Chooses the rows, of which the first columns hold these texts.
-  void Choose(QTreeView& tree, const QStringList& texts) {
-    tree.setFocus();
-    tree.clearSelection();
-    for (const QString& text : texts) {
-      const QModelIndexList found = tree.model()->match(tree.model()->index(0, 0), Qt::DisplayRole, text, 1,
-                                                        Qt::MatchExactly | Qt::MatchRecursive);
-      ASSERT_FALSE(found.isEmpty()) << text.toStdString();
-      tree.scrollTo(found[0]);
-      tree.selectionModel()->setCurrentIndex(found[0], QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
-    user::Settle();
-  }
-
-  std::unique_ptr<TJDBStructure> model = OrdersModel();
-  std::unique_ptr<T_dlgModelEdit> dialog;
-  QTemporaryDir folder;
-
- private:
-  void AnswerNow(const std::shared_ptr<QString>& told, QMessageBox::StandardButton button, int tries) {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) {
-      if (tries > 0) QTimer::singleShot(5, &window, [=, this] { AnswerNow(told, button, tries - 1); });
-      return;
-    }
-    *told = box->text() + u'|' + box->informativeText();
-    box->button(button)->click();
-  }
-};
 
 TEST_F(ModelDialog, TablesAreEditedByKeysEachChangeOneStep) {
   int changes = 0;
@@ -259,6 +167,21 @@ TEST_F(ModelDialog, FieldsAreDraggedToAPlaceOrAGroup) {
   const QModelIndex group = rows.index(0, 0);
   drop({rows.index(0, 0, rows.index(1, 0))}, -1, group);
   EXPECT_EQ(Copy().FieldGroups()[0].Count(), 1u);
+  const auto names = [this] {
+    std::string all;
+    for (const TDSFieldGroup& each : Copy().FieldGroups()) all += each.GetGroupName() + ' ';
+    return all;
+  };
+  dialog->Editor().Edit("x", [this] {
+    for (const char* name : {"B", "C"}) Copy().FieldGroups().AddGroup(name);
+  });
+  user::Settle();
+  drop({rows.index(0, 0)}, 2, {});
+  EXPECT_EQ(names(), "B New group C ") << "before the group whose gap it is";
+  drop({rows.index(0, 0)}, 3, {});
+  EXPECT_EQ(names(), "New group C B ") << "behind the last named one";
+  drop({rows.index(2, 0)}, -1, rows.index(0, 0));
+  EXPECT_EQ(names(), "B New group C ") << "in the place of the other";
 }
 
 TEST_F(ModelDialog, ClosingAsksBeforeChangesAreLost) {

@@ -159,7 +159,7 @@ TEST_F(ModelPages, AddMoveCopyAndDeleteOperators) {
   list.setFocus();
   Press(Qt::Key_Up, Qt::AltModifier);
   EXPECT_EQ(model->GetOperator(count - 1).GetName(), "Nearly");
-  Press(Qt::Key_D, Qt::ControlModifier);
+  Press(Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(model->GetOperator(count).GetName(), "Nearly2");
   Press(Qt::Key_Up, Qt::ShiftModifier);
   Answer(QMessageBox::No);

@@ -2,6 +2,7 @@
 #include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -43,6 +44,10 @@ T_dlgColumns::T_dlgColumns(const TJCustomDBStructure& model, std::size_t table, 
   rows->addRow(tr("&Other column:"), FTyped);
   rows->addRow(buttons);
   connect(FTable, &QComboBox::currentIndexChanged, this, &T_dlgColumns::ShowColumns);
+  // What is typed and names no table becomes the former one again.
+  connect(FTable->lineEdit(), &QLineEdit::editingFinished, this,
+          [this] { FTable->setEditText(FTable->itemText(FTable->currentIndex())); });
+  FTable->lineEdit()->installEventFilter(this);
   connect(FColumns, &QListWidget::itemActivated, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -60,6 +65,19 @@ TStrings T_dlgColumns::GetColumns() const {
   const QString typed = FTyped->text().trimmed();
   if (!typed.isEmpty()) columns.Add(FromQString(typed));
   return columns;
+}
+
+/// Enter goes from the table to its columns.
+bool T_dlgColumns::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == FTable->lineEdit() && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      Q_EMIT FTable->lineEdit()->editingFinished();
+      FColumns->setFocus();
+      return true;
+    }
+  }
+  return QDialog::eventFilter(watched, event);
 }
 
 void T_dlgColumns::ShowColumns() {

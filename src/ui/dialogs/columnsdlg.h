@@ -24,6 +24,9 @@ class T_dlgColumns final : public QDialog {
   std::size_t GetTable() const;
   TStrings GetColumns() const;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void ShowColumns();
 

@@ -9,6 +9,7 @@
 #include <tolvi/panel/modelentities.h>
 #include <tolvi/ui/controls/itemmodel.h>
 #include <tolvi/ui/dialogs/entitiesmodel.h>
+#include <tolvi/ui/dialogs/faultdelegate.h>
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
@@ -18,6 +19,13 @@ QString EntriesType() { return QStringLiteral("application/x-tolvi-entities"); }
 
 /// Groups have no parent row: their inner number.
 constexpr quintptr NoParent = ~quintptr(0);
+
+/// Fields have the row of their group in the inner number, with gaps: views keep thousands of indexes by it, and Qt's
+/// hash of an index is little more than the number.
+constexpr quintptr Gap = 193;
+
+quintptr NumberBelow(int row) { return static_cast<quintptr>(row) * Gap; }
+int RowAbove(const QModelIndex& index) { return static_cast<int>(index.internalId() / Gap); }
 
 }  // namespace
 
@@ -36,7 +44,8 @@ void TEntitiesModel::Read(const TJCustomDBStructure& model) {
                              {ToQString(field->GetDisplayName()), ToQString(field->GetSQLExpr()),
                               ToQString(FldTypeToStr(field->GetFieldType()).substr(2))},
                              isVirtual,
-                             !isUsed});
+                             !isUsed,
+                             field->GetFieldExpr().empty() || (!isVirtual && field->GetTable() == nullptr)});
     }
   }
   if (SameRows(groups)) {
@@ -94,14 +103,14 @@ void TEntitiesModel::BuildRows() {
 
 const TEntitiesModel::TField* TEntitiesModel::FieldOf(const QModelIndex& index) const {
   if (!index.isValid() || index.internalId() == NoParent) return nullptr;
-  const TGroup& group = GroupOfRow(static_cast<int>(index.internalId()));
+  const TGroup& group = GroupOfRow(RowAbove(index));
   return &group.Fields[group.Rows[static_cast<std::size_t>(index.row())]];
 }
 
 TEntitiesModel::TEntry TEntitiesModel::EntryOf(const QModelIndex& index) const {
   const TField* field = FieldOf(index);
   if (field == nullptr) return {GroupOfRow(index.row()).Number, std::nullopt};
-  return {GroupOfRow(static_cast<int>(index.internalId())).Number, field->ID};
+  return {GroupOfRow(RowAbove(index)).Number, field->ID};
 }
 
 QModelIndex TEntitiesModel::IndexOfGroup(std::size_t group) const {
@@ -123,19 +132,19 @@ QModelIndex TEntitiesModel::IndexOfField(std::int32_t id) const {
 
 std::size_t TEntitiesModel::PlaceOf(const QModelIndex& index) const {
   if (FieldOf(index) == nullptr) return GroupOfRow(index.row()).Fields.size();
-  return GroupOfRow(static_cast<int>(index.internalId())).Rows[static_cast<std::size_t>(index.row())];
+  return GroupOfRow(RowAbove(index)).Rows[static_cast<std::size_t>(index.row())];
 }
 
 // The item model
 
 QModelIndex TEntitiesModel::index(int row, int column, const QModelIndex& parent) const {
   if (!hasIndex(row, column, parent)) return {};
-  return createIndex(row, column, parent.isValid() ? static_cast<quintptr>(parent.row()) : NoParent);
+  return createIndex(row, column, parent.isValid() ? NumberBelow(parent.row()) : NoParent);
 }
 
 QModelIndex TEntitiesModel::parent(const QModelIndex& index) const {
   if (!index.isValid() || index.internalId() == NoParent) return {};
-  return createIndex(static_cast<int>(index.internalId()), 0, NoParent);
+  return createIndex(RowAbove(index), 0, NoParent);
 }
 
 int TEntitiesModel::rowCount(const QModelIndex& parent) const {
@@ -163,6 +172,8 @@ QVariant TEntitiesModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleDescriptionRole:
       if (field == nullptr) return tr("Group");
       return field->IsVirtual ? tr("Expression") : tr("Column");
+    case TFaultDelegate::WrongRole:
+      return field != nullptr && field->IsWrong && index.column() == ColSource;
     default:
       return {};
   }
@@ -220,8 +231,9 @@ bool TEntitiesModel::dropMimeData(const QMimeData* data, Qt::DropAction action, 
   }
   const QModelIndex target = parent.siblingAtColumn(0);
   if (!target.isValid()) {
+    const TGroup& group = GroupOfRow(row < 0 ? rowCount() - 1 : std::min(row, rowCount() - 1));
     const bool atEnd = row < 0 || row >= rowCount();
-    OnDrop(entries, GroupOfRow(atEnd ? rowCount() - 1 : row).Number, std::nullopt);
+    OnDrop(entries, group.Number, atEnd ? std::optional(group.Fields.size()) : std::nullopt);
   } else {
     const TGroup& group = GroupOfRow(target.row());
     const bool atEnd = row < 0 || row >= rowCount(target);

@@ -39,8 +39,8 @@ class TEntitiesModel final : public QAbstractItemModel {
   /// Where a field stands in its group; the number of its fields for the group itself.
   std::size_t PlaceOf(const QModelIndex& index) const;
 
-  /// Entries have been dropped on a group, before the field that is at `place`; on a gap between groups, that is before
-  /// `group`, and `place` is nothing.
+  /// Entries have been dropped on a group, before the field that is at `place`, at its end behind the last group; on a
+  /// gap between groups, that is before `group`, and `place` is nothing.
   std::function<void(const std::vector<TEntry>& entries, std::size_t group, std::optional<std::size_t> place)> OnDrop;
 
   QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -60,7 +60,7 @@ class TEntitiesModel final : public QAbstractItemModel {
   struct TField {
     std::int32_t ID;
     QString Texts[ColumnCount];
-    bool IsVirtual, IsHidden;
+    bool IsVirtual, IsHidden, IsWrong;
   };
   struct TGroup {
     std::size_t Number = 0;

@@ -235,7 +235,7 @@ void TFieldForm::ShowGroups() {
 // The columns of the table, or the tables that the expression mentions.
 void TFieldForm::ShowSource(const TDSField* only) {
   const bool isColumn = only != nullptr && only->GetFieldKind() == jfkData;
-  const QString label = isColumn ? tr("C&olumn:") : tr("E&xpression:");
+  const QString label = isColumn ? tr("Colu&mn:") : tr("E&xpression:");
   static_cast<QLabel*>(FRows->labelForField(FExpr))->setText(label);
   FExpr->setAccessibleName(QString(label).remove(u'&').remove(u':'));
   FExpr->setEnabled(only != nullptr);

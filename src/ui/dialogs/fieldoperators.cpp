@@ -83,7 +83,7 @@ QWidget* TFieldOperators::MakeMissing() {
   auto* box = new QWidget(this);
   FMissing = new QListWidget(box);
   FMissing->setAccessibleName(tr("Operators that are not offered"));
-  auto* label = new QLabel(tr("N&ot offered:"), box);
+  auto* label = new QLabel(tr("&Not offered:"), box);
   label->setBuddy(FMissing);
   auto* buttons = new QHBoxLayout;
   FOffer = AddListAction(*FMissing, *buttons, tr("Offer"), sgNew, Qt::Key_Insert,

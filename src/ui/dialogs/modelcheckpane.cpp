@@ -23,10 +23,12 @@ TModelCheckPane::TModelCheckPane(QWidget* parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(FSummary);
   layout->addWidget(FList);
-  connect(FList, &QAbstractItemView::activated, this, [this](const QModelIndex& index) {
-    const std::string section = FFindings[static_cast<std::size_t>(index.row())].Section;
-    if (OnActivate) OnActivate(section);
-  });
+  const auto activate = [this](const QModelIndex& index) {
+    if (!index.isValid() || !OnActivate) return;
+    const TCheckFinding finding = FFindings[static_cast<std::size_t>(index.row())];
+    OnActivate(finding);
+  };
+  connect(FList, &QAbstractItemView::activated, this, activate, Qt::QueuedConnection);
 }
 
 void TModelCheckPane::ShowFindings(std::vector<TCheckFinding> findings) {

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 #include <functional>
-#include <string_view>
 #include <vector>
 
 #include <tolvi/model/modelcheck.h>
@@ -21,8 +20,8 @@ class TModelCheckPane final : public QWidget {
   explicit TModelCheckPane(QWidget* parent);
 
   void ShowFindings(std::vector<TCheckFinding> findings);
-  /// By double click or Enter: the section of the model text in which the finding stands.
-  std::function<void(std::string_view section)> OnActivate;
+  /// By double click or Enter, when the click or key has been handled.
+  std::function<void(const TCheckFinding& finding)> OnActivate;
 
  private:
   QLabel* FSummary;

@@ -17,6 +17,7 @@
 #include <tolvi/ui/dialogs/checkedline.h>
 #include <tolvi/ui/dialogs/modelconds.h>
 #include <tolvi/ui/dialogs/partlist.h>
+#include <tolvi/ui/dialogs/scrolled.h>
 #include <tolvi/ui/dialogs/typecombo.h>
 #include <tolvi/ui/dialogs/valueeditorbox.h>
 #include <tolvi/ui/qtext.h>
@@ -46,12 +47,8 @@ TConditionsPage::TConditionsPage(TModelEditor& editor, QWidget* parent) : TModel
   FList->OnSelect = [this] { ShowCurrent(); };
   FList->AddAction(tr("New condition"), sgNew, Qt::CTRL | Qt::Key_N, false, [this] { Add(); });
   FList->AddAction(tr("Delete"), sgDelete, Qt::Key_Delete, true, [this] { Delete(); });
-  auto* right = new QScrollArea(splitter);
-  right->setFrameShape(QFrame::NoFrame);
-  right->setWidgetResizable(true);
-  right->setWidget(MakeForm());
   splitter->addWidget(FList);
-  splitter->addWidget(right);
+  splitter->addWidget(Scrolled(MakeForm(), splitter));
   // In proportion; the list has what it needs for its names.
   splitter->setSizes({2000, 3000});
   splitter->setStretchFactor(0, 2);
@@ -269,6 +266,7 @@ void TConditionsPage::ChangeValue(const QString& name, const std::function<void(
 }
 
 void TConditionsPage::Add() {
+  CommitEdits();
   std::size_t added = 0;
   if (!Edit(tr("Add condition"), [&] { added = AddNewCondition(Editor().Model()); })) return;
   Refresh();
@@ -278,6 +276,7 @@ void TConditionsPage::Add() {
 }
 
 void TConditionsPage::Delete() {
+  CommitEdits();
   const std::vector<std::size_t> selected = FList->Selected();
   if (selected.empty() || !Confirmed(SDeleteCondition)) return;
   if (Edit(tr("Delete condition"), [&] { DeleteConditions(Editor().Model(), selected); })) Refresh();

@@ -128,7 +128,7 @@ void T_dlgModelEdit::BuildPanes() {
   FTryPane->hide();
   FCheckPane = new TModelCheckPane(FRows);
   FCheckPane->hide();
-  FCheckPane->OnActivate = [this](std::string_view section) { GoTo(section); };
+  FCheckPane->OnActivate = [this](const TCheckFinding& finding) { GoTo(finding); };
   FColumns->setObjectName(QStringLiteral("Columns"));
   FRows->setObjectName(QStringLiteral("Rows"));
   FColumns->addWidget(FPages);
@@ -168,6 +168,7 @@ void T_dlgModelEdit::BuildActions() {
     connect(action, &QAction::triggered, this, [this, action] {
       CommitEdits();
       action == FUndo ? FEditor->Undo() : FEditor->Redo();
+      RefreshNow();
     });
   }
   FTools->addSeparator();
@@ -238,6 +239,10 @@ void T_dlgModelEdit::CommitEdits() {
 void T_dlgModelEdit::PageShown() {
   CommitEdits();
   FShownPage = CurrentPage();
+  RefreshNow();
+}
+
+void T_dlgModelEdit::RefreshNow() {
   FRefresh.stop();
   Refresh();
 }
@@ -263,12 +268,14 @@ void T_dlgModelEdit::RefreshHistory() {
   setWindowModified(FEditor->GetModified());
 }
 
-void T_dlgModelEdit::GoTo(std::string_view section) {
+void T_dlgModelEdit::GoTo(const TCheckFinding& finding) {
   CommitEdits();
+  // What is an error in the model as a whole is one of its settings.
+  if (finding.Section == "Main" && finding.Severity == csError) return EditSettings();
   for (int index = 0; index < FPages->count(); ++index) {
     auto& page = static_cast<TModelPage&>(*FPages->widget(index));
     page.Refresh();
-    if (!page.GoTo(section)) continue;
+    if (!page.GoTo(finding.Section)) continue;
     FPages->setCurrentIndex(index);
     page.setFocus();
     return;

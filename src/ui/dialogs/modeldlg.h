@@ -15,6 +15,7 @@ class QToolBar;
 
 namespace tolvi {
 
+struct TCheckFinding;
 class TModelCheckPane;
 class TModelEditor;
 class TModelPage;
@@ -72,8 +73,10 @@ class T_dlgModelEdit final : public QDialog {
   void CommitEdits();
   void PageShown();
   void Refresh();
+  /// Where parts of the model may have gone: a click that waits must not find them.
+  void RefreshNow();
   void RefreshHistory();
-  void GoTo(std::string_view section);
+  void GoTo(const TCheckFinding& finding);
   void RestorePlaces();
   void SavePlaces();
   void Close(int result);

@@ -57,6 +57,7 @@ const TModelFormat* T_dlgModelEdit::FormatOf(const QString& file) const {
 }
 
 bool T_dlgModelEdit::LoadFromFile(const QString& file) {
+  const QPointer<QWidget> alive(this);
   CommitEdits();
   const TModelFormat* format = FormatOf(file);
   const QString failure = tr("The file %1 cannot be opened. The model stays as it was.").arg(file);
@@ -69,13 +70,16 @@ bool T_dlgModelEdit::LoadFromFile(const QString& file) {
       }
     });
   });
+  if (!alive) return worked;
   if (worked) FFile = file;
+  RefreshNow();
   return worked;
 }
 
 bool T_dlgModelEdit::SaveToFile(const QString& file) {
   CommitEdits();
   const TModelFormat* format = FormatOf(file);
+  const QPointer<QWidget> alive(this);
   const bool worked = Try(tr("The model cannot be saved in the file %1.").arg(file), [&] {
     if (format != nullptr) {
       format->Save(file, FCopy);
@@ -83,7 +87,7 @@ bool T_dlgModelEdit::SaveToFile(const QString& file) {
       FCopy.SaveToFile(PathOf(file));
     }
   });
-  if (worked) FFile = file;
+  if (alive && worked) FFile = file;
   return worked;
 }
 
@@ -106,6 +110,11 @@ void T_dlgModelEdit::Save() {
       if (chosen.contains(QStringLiteral("*.") + format.Suffix)) suffix = format.Suffix;
     }
     file += u'.' + suffix;
+    // The file dialog has asked for the name without the ending.
+    const int answer = !QFileInfo::exists(file) ? QMessageBox::Yes
+                                                : Ask(*this, QMessageBox::Question, tr("Replace %1?").arg(file), {},
+                                                      QMessageBox::Yes | QMessageBox::No);
+    if (!alive || answer != QMessageBox::Yes) return;
   }
   SaveToFile(file);
 }
@@ -125,12 +134,14 @@ void T_dlgModelEdit::Connect() {
 
 void T_dlgModelEdit::Fill() {
   CommitEdits();
-  FillFromDatabase(this, *FEditor, TFillOptions());
+  const QPointer<QWidget> alive(this);
+  if (FillFromDatabase(this, *FEditor, TFillOptions()) && alive) RefreshNow();
 }
 
 void T_dlgModelEdit::EditSettings() {
   CommitEdits();
-  EditModelSettings(this, *FEditor);
+  const QPointer<QWidget> alive(this);
+  if (EditModelSettings(this, *FEditor) && alive) RefreshNow();
 }
 
 void T_dlgModelEdit::Help() {
@@ -149,10 +160,12 @@ void T_dlgModelEdit::Help() {
 
 void T_dlgModelEdit::Clear() {
   CommitEdits();
+  const QPointer<QWidget> alive(this);
   const int answer =
       Ask(*this, QMessageBox::Question, ToQString(SClearStructure.Text), {}, QMessageBox::Yes | QMessageBox::No);
-  if (answer != QMessageBox::Yes) return;
+  if (!alive || answer != QMessageBox::Yes) return;
   FEditor->Edit(FromQString(tr("Clear model")), [this] { FCopy.ClearStructure(); });
+  RefreshNow();
 }
 
 // Closing

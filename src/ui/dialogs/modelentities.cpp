@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTreeView>
@@ -10,10 +11,12 @@
 
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/panel/modeleditor.h>
+#include <tolvi/ui/dialogs/faultdelegate.h>
 #include <tolvi/ui/dialogs/fieldform.h>
 #include <tolvi/ui/dialogs/fieldoperators.h>
 #include <tolvi/ui/dialogs/listactions.h>
 #include <tolvi/ui/dialogs/modelentities.h>
+#include <tolvi/ui/dialogs/scrolled.h>
 #include <tolvi/ui/dialogs/valueeditorbox.h>
 #include <tolvi/ui/qtext.h>
 
@@ -22,6 +25,18 @@ namespace {
 
 /// So many fields are seen at a glance, and their groups shown open.
 constexpr std::size_t FewFields = 200;
+
+/// Qt looks up the place of each range of a selection; of thousands, the whole view is painted sooner.
+class TFieldsTree final : public QTreeView {
+ public:
+  using QTreeView::QTreeView;
+
+ protected:
+  QRegion visualRegionForSelection(const QItemSelection& selection) const override {
+    constexpr qsizetype mostRanges = 50;
+    return selection.size() > mostRanges ? QRegion(viewport()->rect()) : QTreeView::visualRegionForSelection(selection);
+  }
+};
 
 }  // namespace
 
@@ -48,8 +63,9 @@ QWidget* TEntitiesPage::MakeTree() {
   auto* box = new QWidget(this);
   FModel = new TEntitiesModel(this);
   FModel->OnDrop = [this](const auto& entries, std::size_t group, auto place) { Drop(entries, group, place); };
-  FTree = new QTreeView(box);
+  FTree = new TFieldsTree(box);
   FTree->setModel(FModel);
+  FTree->setItemDelegate(new TFaultDelegate(FTree));
   FTree->setAccessibleName(tr("Fields in groups"));
   FTree->setUniformRowHeights(true);
   FTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -91,9 +107,9 @@ QWidget* TEntitiesPage::MakeForms() {
   FValueEditor = new TValueEditorBox(Editor(), values);
   auto* column = new QVBoxLayout(values);
   column->addWidget(FValueEditor);
-  FForms->addTab(FGeneral, tr("General"));
+  FForms->addTab(Scrolled(FGeneral, FForms), tr("General"));
   FForms->addTab(FOperators, tr("Operators"));
-  FForms->addTab(values, tr("Value Editor"));
+  FForms->addTab(Scrolled(values, FForms), tr("Value Editor"));
   connect(FForms, &QTabWidget::currentChanged, this, [this] {
     CommitEdits();
     ShowCurrent();
@@ -134,8 +150,11 @@ TFieldIDs TEntitiesPage::SelectedFields() const {
   for (const TEntry& entry : Selected()) {
     if (!entry.Field) {
       whole = entry.Group;
-      if (entry.Group > Editor().Model().FieldGroups().Count()) continue;
-      for (const TDSField* field : GroupByNumber(Editor().Model(), entry.Group)) ids.push_back(field->GetID());
+      // While something is sought, a group stands for its fields that are shown.
+      const QModelIndex group = FModel->IndexOfGroup(entry.Group);
+      for (int row = 0; group.isValid() && row < FModel->rowCount(group); ++row) {
+        ids.push_back(FModel->EntryOf(FModel->index(row, 0, group)).Field.value());
+      }
     } else if (entry.Group != whole) {
       ids.push_back(*entry.Field);
     }
@@ -240,8 +259,9 @@ void TEntitiesPage::ShowCurrent() {
   const std::size_t group = isGroup ? selected.front().Group : 0;
   FGeneral->ShowFields(ids, group <= Editor().Model().FieldGroups().Count() ? group : 0);
   if (FForms->currentWidget() == FOperators) FOperators->ShowFields(ids);
-  if (FValueEditor->parentWidget() == FForms->currentWidget())
+  if (FForms->currentWidget()->isAncestorOf(FValueEditor)) {
     FValueEditor->ShowFields(FieldsByIDs(Editor().Model(), ids));
+  }
   const bool isRoot = isGroup && group == 0;
   for (QAction* action : {FDelete, FUp, FDown}) action->setEnabled(!selected.empty() && !isRoot);
   FAddColumns->setEnabled(Editor().Model().GetTableCount() > 0);
@@ -249,6 +269,8 @@ void TEntitiesPage::ShowCurrent() {
 
 bool TEntitiesPage::GoTo(std::string_view section) {
   const TJCustomDBStructure& model = Editor().Model();
+  // Of the whole model, a page of fields can mend but that there are none.
+  if (section == "Main") return model.Fields().Empty() && model.GetTableCount() > 0;
   std::optional<TEntry> found;
   for (std::size_t i = 0; i < model.Fields().Count() && !found; ++i) {
     if (section == "Field:" + std::to_string(i + 1)) found = TEntry{0, model.GetField(i).GetID()};

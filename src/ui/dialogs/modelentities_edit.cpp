@@ -70,7 +70,7 @@ void TEntitiesPage::AddExpression() {
   FSearch->clear();
   Refresh();
   SelectFields({added});
-  FForms->setCurrentWidget(FGeneral);
+  FForms->setCurrentIndex(0);
   FGeneral->Name().setFocus();
   FGeneral->Name().selectAll();
 }
@@ -83,18 +83,20 @@ void TEntitiesPage::AddGroup() {
   FSearch->clear();
   Refresh();
   Select({{added, std::nullopt}});
-  FForms->setCurrentWidget(FGeneral);
+  FForms->setCurrentIndex(0);
   FGeneral->GroupName().setFocus();
   FGeneral->GroupName().selectAll();
 }
 
 void TEntitiesPage::DeleteSelected() {
   CommitEdits();
-  const std::vector<std::size_t> groups = SelectedGroups();
+  std::vector<std::size_t> groups = SelectedGroups();
   TFieldIDs fields;
   for (const TEntry& entry : Selected()) {
     if (entry.Field) fields.push_back(*entry.Field);
   }
+  // Groups of what was found are not meant.
+  if (!fields.empty() && !FSearch->text().isEmpty()) groups.clear();
   const bool onlyGroups = fields.empty();
   if ((onlyGroups && groups.empty()) || !Confirmed(onlyGroups ? SDeleteGroup : SDeleteField)) return;
   const auto edit = [&] {
@@ -135,10 +137,13 @@ void TEntitiesPage::Drop(const std::vector<TEntry>& entries, std::size_t group, 
     }
   }
   // Groups of fields go where groups are, whatever is dropped with them.
-  if (!groups.empty()) {
-    if (groups.size() == 1) Edit(tr("Move group"), [&] { MoveGroup(model, groups.front(), group); });
-    return;
+  if (groups.size() == 1) {
+    // The root group stands before the others or behind them.
+    std::size_t to = group > 0 ? group : model.GetRootFieldsFirst() ? 1 : model.FieldGroups().Count();
+    if (group > 0 && !place && groups.front() < group) --to;
+    Edit(tr("Move group"), [&] { MoveGroup(model, groups.front(), to); });
   }
+  if (!groups.empty()) return;
   const std::size_t target = place.value_or(GroupByNumber(model, group).Count());
   Edit(tr("Move field"), [&] { MoveFields(model, fields, group, target); });
 }

@@ -20,6 +20,7 @@
 #include <tolvi/ui/dialogs/checkstyle.h>
 #include <tolvi/ui/dialogs/modelops.h>
 #include <tolvi/ui/dialogs/partlist.h>
+#include <tolvi/ui/dialogs/scrolled.h>
 #include <tolvi/ui/dialogs/typecombo.h>
 #include <tolvi/ui/qtext.h>
 
@@ -36,13 +37,13 @@ namespace {
 /// The lines of `Texts`.
 enum TLine : std::size_t { lnName, lnDisplayName, lnTemplate, lnFormat };
 
-constexpr const char* GroupCaptions[] = {QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "&In list"),
+constexpr const char* GroupCaptions[] = {QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "In &list"),
                                          QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "Bet&ween"),
                                          QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "&Starts with"),
-                                         QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "&Contains")};
+                                         QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "Conta&ins")};
 constexpr const char* TypeGroupCaptions[] = {QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "Te&xt"),
                                              QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "N&umber"),
-                                             QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "Da&te")};
+                                             QT_TRANSLATE_NOOP("tolvi::TOperatorsPage", "D&ate")};
 
 bool HasError(const TTextFindings& findings) {
   return std::any_of(findings.begin(), findings.end(),
@@ -70,12 +71,8 @@ TOperatorsPage::TOperatorsPage(TModelEditor& editor, QWidget* parent) : TModelPa
   column->setContentsMargins({});
   column->addWidget(MakeList(), 1);
   column->addWidget(MakeGroups());
-  auto* right = new QScrollArea(splitter);
-  right->setFrameShape(QFrame::NoFrame);
-  right->setWidgetResizable(true);
-  right->setWidget(MakeForm());
   splitter->addWidget(left);
-  splitter->addWidget(right);
+  splitter->addWidget(Scrolled(MakeForm(), splitter));
   // In proportion; the list has what it needs for its names.
   splitter->setSizes({2000, 3000});
   splitter->setStretchFactor(0, 2);
@@ -98,7 +95,7 @@ QWidget* TOperatorsPage::MakeList() {
   FList->AddAction(tr("New operator"), sgNew, Qt::CTRL | Qt::Key_N, false, [this] { Add(); });
   FDefaults = FList->AddAction(tr("Add defaults"), sgNone, {}, false, [this] { AddDefaults(); });
   FDefaults->setToolTip(tr("Adds the default operators that the model lacks"));
-  FList->AddAction(tr("Copy"), sgNone, Qt::CTRL | Qt::Key_D, true, [this] { Duplicate(); });
+  FList->AddAction(tr("Copy"), sgNone, Qt::CTRL | Qt::SHIFT | Qt::Key_D, true, [this] { Duplicate(); });
   FList->AddAction(tr("Delete"), sgDelete, Qt::Key_Delete, true, [this] { Delete(); });
   FDeleteAll = FList->AddAction(tr("Delete all"), sgNone, {}, false, [this] { DeleteAll(); });
   FList->AddAction(tr("Move up"), sgUp, Qt::ALT | Qt::Key_Up, true, [this] { Step(-1); });
@@ -164,7 +161,7 @@ QWidget* TOperatorsPage::MakeForm() {
   FType = MakeTypeCombo(tr("The type of the field"), FForm);
   connect(FType, &QComboBox::activated, this,
           [this] { Change(tr("Change value type"), [this](TDSOperator& op) { op.SetExprType(TypeOf(*FType)); }); });
-  FIgnoresCase = new QCheckBox(tr("Texts are compared without regard to c&ase"), FForm);
+  FIgnoresCase = new QCheckBox(tr("Texts are compared without re&gard to case"), FForm);
   connect(FIgnoresCase, &QCheckBox::clicked, this,
           [this](bool on) { Change(tr("Change letter case"), [on](TDSOperator& op) { op.SetCaseInsensative(on); }); });
   form->addRow(tr("&Kind of values:"), FKind);
@@ -231,7 +228,7 @@ QWidget* TOperatorsPage::MakeTypes() {
   groups->addStretch();
   FUse = new QLabel(box);
   FUse->setWordWrap(true);
-  FOffer = new QPushButton(tr("&Offer for all of them"), box);
+  FOffer = new QPushButton(tr("Offe&r for all of them"), box);
   FOffer->setToolTip(tr("All fields of these types offer the operator then"));
   FOffer->setAutoDefault(false);
   connect(FOffer, &QPushButton::clicked, this, &TOperatorsPage::Offer);
@@ -347,6 +344,7 @@ void TOperatorsPage::ChangeTypes(TFieldTypes types) {
 }
 
 void TOperatorsPage::Add() {
+  CommitEdits();
   std::size_t added = 0;
   if (!Edit(tr("Add operator"), [&] { added = AddNewOperator(Editor().Model()); })) return;
   Refresh();
@@ -356,10 +354,12 @@ void TOperatorsPage::Add() {
 }
 
 void TOperatorsPage::AddDefaults() {
+  CommitEdits();
   if (Edit(tr("Add default operators"), [this] { Editor().Model().AddDefOperators(true); })) Refresh();
 }
 
 void TOperatorsPage::Duplicate() {
+  CommitEdits();
   std::vector<std::size_t> copies;
   const auto selected = FList->Selected();
   if (!Edit(tr("Copy operator"), [&] { copies = DuplicateOperators(Editor().Model(), selected); })) return;
@@ -368,17 +368,20 @@ void TOperatorsPage::Duplicate() {
 }
 
 void TOperatorsPage::Delete() {
+  CommitEdits();
   const std::vector<std::size_t> selected = FList->Selected();
   if (selected.empty() || !Confirmed(SDeleteOperator)) return;
   if (Edit(tr("Delete operator"), [&] { DeleteOperators(Editor().Model(), selected); })) Refresh();
 }
 
 void TOperatorsPage::DeleteAll() {
+  CommitEdits();
   if (!Confirmed(SDeleteAllOperators)) return;
   if (Edit(tr("Delete all operators"), [this] { Editor().Model().ClearOperators(); })) Refresh();
 }
 
 void TOperatorsPage::Step(int step) {
+  CommitEdits();
   std::vector<std::size_t> places;
   const auto selected = FList->Selected();
   const bool moved = Edit(tr("Move operator"), [&] { places = StepModelOperators(Editor().Model(), selected, step); });

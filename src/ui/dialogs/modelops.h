@@ -20,7 +20,7 @@ class TPartList;
 
 /// The page of the model editor on which operators are made, and told to which fields they apply.
 ///
-/// Keys in the list: Ctrl+N adds one, Ctrl+D copies, Delete deletes, Alt+Up and Alt+Down move.
+/// Keys in the list: Ctrl+N adds one, Ctrl+Shift+D copies, Delete deletes, Alt+Up and Alt+Down move.
 class TOperatorsPage final : public TModelPage {
   Q_OBJECT
 

@@ -10,6 +10,8 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QRegularExpressionValidator>
+#include <QScreen>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <exception>
@@ -19,6 +21,7 @@
 #include <tolvi/panel/modeleditor.h>
 #include <tolvi/ui/dialogs/checkstyle.h>
 #include <tolvi/ui/dialogs/modelsettings.h>
+#include <tolvi/ui/dialogs/scrolled.h>
 #include <tolvi/ui/dialogs/sqltext.h>
 #include <tolvi/ui/qtext.h>
 
@@ -136,8 +139,8 @@ T_dlgModelSettings::T_dlgModelSettings(const TJCustomDBStructure& model, QWidget
     : QDialog(parent), FSample(new QPlainTextEdit(this)) {
   setWindowTitle(tr("Settings of the Model"));
   auto* tabs = new QTabWidget(this);
-  tabs->addTab(MakeFormats(), tr("S&QL"));
-  tabs->addTab(MakeModel(model), tr("&Model"));
+  tabs->addTab(Scrolled(MakeFormats(), tabs), tr("S&QL"));
+  tabs->addTab(Scrolled(MakeModel(model), tabs), tr("&Model"));
   tabs->addTab(MakeOperators(), tr("D&efault operators"));
   FSample->setReadOnly(true);
   MakeCodeText(*FSample);
@@ -173,6 +176,14 @@ T_dlgModelSettings::T_dlgModelSettings(const TJCustomDBStructure& model, QWidget
   }
   FShowing = false;
   Changed();
+  // A main table that is none is what there is to mend.
+  if (FMainTable->currentIndex() > 0 && model.TableByName(tnAlias, settings.MainTable) == nullptr) {
+    tabs->setCurrentIndex(1);
+    FMainTable->setFocus();
+  }
+  const QSize wanted =
+      sizeHint().expandedTo(QSize(110 * fontMetrics().averageCharWidth(), 34 * fontMetrics().height()));
+  resize(wanted.boundedTo(screen()->availableSize() * 0.9));
 }
 
 // Controls

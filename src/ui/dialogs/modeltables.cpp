@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -12,6 +13,7 @@
 
 #include <tolvi/foundation/consts.h>
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/model/linkcheck.h>
 #include <tolvi/panel/modeleditor.h>
 #include <tolvi/panel/modeltables.h>
 #include <tolvi/ui/dialogs/checkedline.h>
@@ -19,6 +21,7 @@
 #include <tolvi/ui/dialogs/joinicon.h>
 #include <tolvi/ui/dialogs/listactions.h>
 #include <tolvi/ui/dialogs/modeltables.h>
+#include <tolvi/ui/dialogs/scrolled.h>
 #include <tolvi/ui/dialogs/tablesmodel.h>
 #include <tolvi/ui/qtext.h>
 
@@ -30,6 +33,22 @@ namespace {
 constexpr const char* JoinNames[] = {
     QT_TRANSLATE_NOOP("tolvi::TTablesPage", "Inner"), QT_TRANSLATE_NOOP("tolvi::TTablesPage", "Left"),
     QT_TRANSLATE_NOOP("tolvi::TTablesPage", "Right"), QT_TRANSLATE_NOOP("tolvi::TTablesPage", "Full")};
+
+QStringList FindingsOf(const TDSLink& link) {
+  QStringList texts;
+  for (const TLinkFinding& finding : CheckLinkPairs(link.GetFields1(), link.GetOperators(), link.GetFields2())) {
+    texts << ToQString(finding.Text);
+  }
+  if (link.GetTable1()->LinkByTable(*link.GetTable2()) != &link) texts << ToQString(LinkComesTooLate);
+  return texts;
+}
+
+void MarkFindings(QTreeWidgetItem& item, const QStringList& texts) {
+  if (texts.isEmpty()) return;
+  for (const int column : {0, 2}) item.setData(column, TFaultDelegate::WrongRole, true);
+  for (int column = 0; column < item.columnCount(); ++column) item.setToolTip(column, texts.join(u'\n'));
+  item.setData(0, Qt::AccessibleDescriptionRole, texts.join(u'\n'));
+}
 
 }  // namespace
 
@@ -51,12 +70,12 @@ TTablesPage::TTablesPage(TModelEditor& editor, QWidget* parent) : TModelPage(edi
   splitter->setChildrenCollapsible(false);
   splitter->setHandleWidth(fontMetrics().averageCharWidth());
   splitter->addWidget(MakeList());
-  auto* right = new QWidget(splitter);
+  auto* right = new QWidget(this);
   auto* column = new QVBoxLayout(right);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(MakeForm());
   column->addWidget(MakeLinks(), 1);
-  splitter->addWidget(right);
+  splitter->addWidget(Scrolled(right, splitter));
   splitter->setStretchFactor(0, 1);
   splitter->setStretchFactor(1, 1);
   auto* layout = new QVBoxLayout(this);
@@ -141,6 +160,8 @@ QWidget* TTablesPage::MakeLinks() {
   FLinks->setAccessibleName(tr("Links of the table"));
   FLinks->setRootIsDecorated(false);
   FLinks->setUniformRowHeights(true);
+  FLinks->setItemDelegate(new TFaultDelegate(FLinks));
+  FLinks->setMinimumHeight(5 * fontMetrics().lineSpacing());
   FLinks->setSelectionMode(QAbstractItemView::ExtendedSelection);
   auto* label = new QLabel(tr("&Links:"), box);
   label->setBuddy(FLinks);
@@ -276,6 +297,7 @@ void TTablesPage::ShowLinks(const TDSTable* table) {
     item->setIcon(1, JoinIcon(link->GetLinkType(), *FLinks));
     item->setText(2, ToQString(link->GetSQLExpr()));
     item->setToolTip(2, item->text(2));
+    MarkFindings(*item, FindingsOf(*link));
     FLinkIndexes.push_back(static_cast<std::size_t>(model.Links().IndexOf(link)));
   }
   if (current >= 0 && FLinks->topLevelItemCount() > 0) {
@@ -299,6 +321,7 @@ void TTablesPage::ShowEnabled() {
 
 bool TTablesPage::GoTo(std::string_view section) {
   const TJCustomDBStructure& model = Editor().Model();
+  if (section == "Main") return model.GetTableCount() == 0;
   std::size_t number = 0;
   for (const TDSTable& table : model.Tables()) {
     bool found = section == "Table:" + std::to_string(number + 1);

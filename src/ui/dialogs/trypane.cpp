@@ -54,7 +54,7 @@ TTryPane::TTryPane(TModelEditor& editor, QWidget* parent)
   auto* splitter = new QSplitter(Qt::Vertical, this);
   splitter->setObjectName(QStringLiteral("TryPane"));
   splitter->setChildrenCollapsible(false);
-  splitter->addWidget(Captioned(tr("C&olumns:"), *FColumns, splitter));
+  splitter->addWidget(Captioned(tr("Col&umns:"), *FColumns, splitter));
   splitter->addWidget(Captioned(tr("Cond&itions:"), *FConditions, splitter));
   splitter->addWidget(MakeStatement());
   splitter->setSizes({1000, 1500, 1500});

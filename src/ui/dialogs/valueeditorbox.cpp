@@ -64,7 +64,7 @@ TValueEditorBox::TValueEditorBox(TModelEditor& editor, QWidget* parent)
   FPages->addWidget(nothing);
   FPages->addWidget(MakeTextPage());
   FPages->addWidget(MakeListPage());
-  FPages->addWidget(MakeLinesPage(FData, tr("&Data for the host:"), {}));
+  FPages->addWidget(MakeLinesPage(FData, tr("Data for the &host:"), {}));
   FPages->addWidget(MakeSQLPage());
   FPages->addWidget(MakeLinesPage(FQuery, tr("&Stored query:"), tr("A query text, as query panels save it.")));
 
@@ -75,7 +75,7 @@ TValueEditorBox::TValueEditorBox(TModelEditor& editor, QWidget* parent)
   }
   auto* form = new QFormLayout;
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  form->addRow(tr("Values are &entered by:"), FType);
+  form->addRow(tr("Values are entered &by:"), FType);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(FMany);

@@ -16,12 +16,14 @@ constexpr double ZoomStep = 1.2;
 /// Right of and below the boxes, in pixels of the content.
 constexpr double ContentAir = 24;
 constexpr QSize MinimapSize(150, 110);
-constexpr int MinimapAir = 6;
+constexpr int MinimapAir = 6, SeenAir = 8;
 
 }  // namespace
 
 TJDesignArea::TJDesignArea(QWidget* parent) : QGraphicsView(parent), FMinimap(new TDesignMinimap(*this)) {
   setScene(new QGraphicsScene(this));
+  // Not that of the first boxes: the view would begin there.
+  setSceneRect(0, 0, 1, 1);
   setFrameShape(QFrame::NoFrame);
   setAlignment(Qt::AlignLeft | Qt::AlignTop);
   setBackgroundRole(QPalette::Base);
@@ -44,9 +46,25 @@ void TJDesignArea::SetZoom(double zoom, QPoint stays) {
   FZoom = zoom;
   setTransform(QTransform::fromScale(zoom, zoom));
   const QPoint moved = mapFromScene(content) - stays;
-  horizontalScrollBar()->setValue(horizontalScrollBar()->value() + (isRightToLeft() ? -moved.x() : moved.x()));
-  verticalScrollBar()->setValue(verticalScrollBar()->value() + moved.y());
+  ScrollBy(moved.x(), moved.y());
   PlaceMinimap();
+}
+
+/// By pixels of the viewport, whichever side the scroll bar begins at.
+void TJDesignArea::ScrollBy(int dx, int dy) {
+  horizontalScrollBar()->setValue(horizontalScrollBar()->value() + (isRightToLeft() ? -dx : dx));
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + dy);
+}
+
+void TJDesignArea::BringIntoView(const QRectF& content) {
+  const QRect part = mapFromScene(content).boundingRect().adjusted(-SeenAir, -SeenAir, SeenAir, SeenAir);
+  const QRect room = viewport()->rect();
+  const auto way = [](int from, int to, int first, int last) {
+    if (from >= first && to <= last) return 0;
+    return from < first || to - from > last - first ? from - first : to - last;
+  };
+  ScrollBy(way(part.left(), part.right(), room.left(), room.right()),
+           way(part.top(), part.bottom(), room.top(), room.bottom()));
 }
 
 void TJDesignArea::ZoomToFit() {
@@ -57,10 +75,14 @@ void TJDesignArea::ZoomToFit() {
   centerOn(sceneRect().center());
 }
 
-void TJDesignArea::SetContent(const QRectF& boxes) {
-  const QRectF content(0, 0, boxes.right() + ContentAir, boxes.bottom() + ContentAir);
+void TJDesignArea::SetContent(const QRectF& boxes, bool mayShrink) {
+  QRectF content(0, 0, boxes.right() + ContentAir, boxes.bottom() + ContentAir);
+  if (!mayShrink) content |= sceneRect();
   if (content == sceneRect()) return;
+  // What is seen stays, also where the scroll bar begins at the right.
+  const QPointF corner = mapToScene(QPoint());
   setSceneRect(content);
+  if (isRightToLeft()) ScrollBy(mapFromScene(corner).x(), 0);
   PlaceMinimap();
 }
 
@@ -102,7 +124,7 @@ void TJDesignArea::mousePressEvent(QMouseEvent* event) {
 void TJDesignArea::mouseMoveEvent(QMouseEvent* event) {
   if (FPushing) {
     Push(event->pos());
-  } else if (OnMove && OnMove(*event)) {
+  } else if (!FSpace && OnMove && OnMove(*event)) {
     event->accept();
   }
 }
@@ -122,8 +144,7 @@ void TJDesignArea::mouseDoubleClickEvent(QMouseEvent* event) {
 void TJDesignArea::Push(QPoint to) {
   const QPoint by = to - FPushedFrom;
   FPushedFrom = to;
-  horizontalScrollBar()->setValue(horizontalScrollBar()->value() + (isRightToLeft() ? by.x() : -by.x()));
-  verticalScrollBar()->setValue(verticalScrollBar()->value() - by.y());
+  ScrollBy(-by.x(), -by.y());
 }
 
 void TJDesignArea::EndPush() {
@@ -188,13 +209,15 @@ void TJDesignArea::keyReleaseEvent(QKeyEvent* event) {
 }
 
 void TJDesignArea::focusOutEvent(QFocusEvent* event) {
-  FSpace = false;
-  if (FPushing) EndPush();
+  if (FSpace || FPushing) {
+    FSpace = false;
+    EndPush();
+  }
   QGraphicsView::focusOutEvent(event);
 }
 
 void TJDesignArea::contextMenuEvent(QContextMenuEvent* event) {
-  if (OnMenu) OnMenu(event->globalPos(), event->pos());
+  if (OnMenu) OnMenu(event->globalPos(), event->pos(), event->reason() == QContextMenuEvent::Keyboard);
   event->accept();
 }
 

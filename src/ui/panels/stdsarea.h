@@ -28,9 +28,11 @@ class TJDesignArea final : public QGraphicsView {
   /// So that all of the content is seen, at most at its own size.
   void ZoomToFit();
 
-  /// Makes the content begin at (0, 0) and hold the boxes, with some air.
-  void SetContent(const QRectF& boxes);
+  /// Makes the content begin at (0, 0) and hold the boxes, with some air; also what it held unless it may shrink.
+  void SetContent(const QRectF& boxes, bool mayShrink = true);
   TDesignPoint ToContent(QPoint inViewport) const;
+  /// Scrolls as far as needed to see the part of the content, or where it begins, with some air.
+  void BringIntoView(const QRectF& content);
   /// In pixels of the content.
   int ClientWidth() const;
 
@@ -45,7 +47,7 @@ class TJDesignArea final : public QGraphicsView {
   std::function<bool(QKeyEvent& event)> OnKey;
   /// Whether the key is one of the owner's, whatever short cuts the window has.
   std::function<bool(const QKeyEvent& event)> OwnsKey;
-  std::function<void(QPoint globalPos, QPoint inViewport)> OnMenu;
+  std::function<void(QPoint globalPos, QPoint inViewport, bool byKey)> OnMenu;
   std::function<void()> OnResize;
 
  protected:
@@ -64,6 +66,7 @@ class TJDesignArea final : public QGraphicsView {
   bool focusNextPrevChild(bool next) override;
 
  private:
+  void ScrollBy(int dx, int dy);
   void Push(QPoint to);
   void EndPush();
   void PlaceMinimap();

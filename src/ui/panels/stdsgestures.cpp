@@ -14,8 +14,8 @@
 namespace tolvi {
 namespace {
 
-/// How far an arrow key goes, in pixels; how long after the last one the next begins a new step, in milliseconds.
-constexpr int ArrowStep = 8, ArrowsTime = 600;
+/// How long after an arrow key the next one begins a new step, in milliseconds.
+constexpr int ArrowsTime = 600;
 /// Fields for one notch of the wheel.
 constexpr int WheelFields = 3;
 
@@ -26,12 +26,6 @@ Qt::CursorShape CursorOf(Qt::Edges edges) {
     return isFalling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
   }
   return sideways ? Qt::SizeHorCursor : Qt::SizeVerCursor;
-}
-
-/// They come before the key that they modify.
-bool IsModifier(int key) {
-  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta ||
-         key == Qt::Key_AltGr;
 }
 
 /// The place with the edges moved; the other edges stay, whatever the smallest size is.
@@ -65,6 +59,7 @@ TDesignGestures::TDesignGestures(TJStructDesignPanel& panel)
   FArrowsEnd.setSingleShot(true);
   FArrowsEnd.setInterval(ArrowsTime);
   connect(&FArrowsEnd, &QTimer::timeout, this, [this] { Stop(); });
+  area.installEventFilter(this);
 }
 
 TDesignGestures::~TDesignGestures() = default;
@@ -83,7 +78,7 @@ void TDesignGestures::Begin(TGesture gesture, const QString& stepName) {
   FGesture = gesture;
   FPanel.StopAnimation();
   FPanel.FMoving = true;
-  FPanel.FEditor->Begin(FromQString(stepName));
+  FPanel.BeginStep(stepName);
   FPanel.StorePlaces();
   FStartPlaces.clear();
   for (TTableRep* box : FPanel.ChosenBoxes()) FStartPlaces.emplace_back(box, box->GetPlace());
@@ -98,9 +93,11 @@ void TDesignGestures::Stop() {
   if (ended != gsMove && ended != gsResize && ended != gsArrows) return;
   FPanel.FMoving = false;
   FPanel.ContentChanged();
-  FPanel.FEditor->End();
   FPanel.RefreshActions();
+  FPanel.EndStep();
 }
+
+bool TDesignGestures::IsHere(const TTableRep* box) const { return FPanel.GetTablesRep().IndexOf(box) >= 0; }
 
 void TDesignGestures::Forget(const TTableRep& box) {
   if (FBox == &box) FBox = nullptr;
@@ -115,6 +112,8 @@ bool TDesignGestures::Press(const QMouseEvent& event) {
   FStartContent = FPanel.DesignArea().ToContent(FStart);
   if (TTableRep* box = BoxAt(FStartContent)) return PressBox(*box, event);
   if (FPanel.GetAddLinkStage() != alsIdle) return true;
+  // The mouse may not have moved since lines did.
+  FPanel.SetCurrentLink(IsOverSomeLink(FPanel.GetLinksRep(), FStartContent));
   if (TLinkRep* link = FPanel.GetCurrentLink()) {
     FPanel.SetActiveLink(link);
     return true;
@@ -129,7 +128,7 @@ bool TDesignGestures::PressBox(TTableRep& box, const QMouseEvent& event) {
       box.HitAt(QPointF(FStartContent.X - box.GetPlace().Left, FStartContent.Y - box.GetPlace().Top));
   const QPointer<TJStructDesignPanel> guard(&FPanel);
   FPanel.SetActiveTable(&box);
-  if (!guard || !FPanel.FindTblRepByDSTable(&box.GetTable())) return true;
+  if (!guard || !IsHere(&box)) return true;
   if (event.modifiers() & Qt::ControlModifier) {
     box.SetChosen(!box.GetChosen());
   } else if (!box.GetChosen()) {
@@ -147,12 +146,24 @@ bool TDesignGestures::PressBox(TTableRep& box, const QMouseEvent& event) {
     box.FieldsLB().SetTopIndex(box.TopIndexAt(FStartContent.Y - box.GetPlace().Top));
   } else if (!isAdding && hit.Part == TTableRep::bpEdge) {
     FEdges = hit.Edges;
-    Begin(gsResize, TJStructDesignPanel::tr("Resize table"));
-    FStartPlaces.assign(1, {&box, box.GetPlace()});
+    FGesture = gsPressEdge;
   } else if (!isAdding && box.GetChosen()) {
-    Begin(gsMove, TJStructDesignPanel::tr("Move tables"));
+    FGesture = gsPressTitle;
   }
   return true;
+}
+
+/// Whether boxes are being moved or sized. A click alone is no edit.
+bool TDesignGestures::BeginDrag(const QMouseEvent& event, TDesignPoint point) {
+  if (FGesture == gsMove || FGesture == gsResize) return !FStartPlaces.empty();
+  if (!FBox) return false;
+  const bool isFar = (event.pos() - FStart).manhattanLength() >= QApplication::startDragDistance();
+  if (FGesture == gsPressTitle && isFar) Begin(gsMove, TJStructDesignPanel::tr("Move tables"));
+  if (FGesture == gsPressEdge && point != FStartContent) {
+    Begin(gsResize, TJStructDesignPanel::tr("Resize table"));
+    if (FBox) FStartPlaces.assign(1, {FBox, FBox->GetPlace()});
+  }
+  return (FGesture == gsMove || FGesture == gsResize) && !FStartPlaces.empty();
 }
 
 void TDesignGestures::MoveBy(int dx, int dy) {
@@ -175,13 +186,23 @@ void TDesignGestures::MoveBy(int dx, int dy) {
 bool TDesignGestures::Move(const QMouseEvent& event) {
   if (!FPanel.GetActive()) return false;
   FPanel.SyncWhenStale();
+  if (FGesture != gsNone && FGesture != gsArrows && !(event.buttons() & Qt::LeftButton)) {
+    // Another window took the release.
+    const bool isLink = FGesture == gsDragField;
+    Stop();
+    if (isLink) FPanel.CancelAddLink();
+    return true;
+  }
   TJDesignArea& area = FPanel.DesignArea();
   const TDesignPoint point = area.ToContent(event.pos());
   const int dx = point.X - FStartContent.X, dy = point.Y - FStartContent.Y;
+  const QPointer<TJStructDesignPanel> guard(&FPanel);
   switch (FGesture) {
+    case gsPressTitle:
+    case gsPressEdge:
     case gsMove:
     case gsResize:
-      if (FStartPlaces.empty()) return true;
+      if (!BeginDrag(event, point)) return true;
       if (FGesture == gsMove) {
         MoveBy(dx, dy);
       } else {
@@ -190,11 +211,13 @@ bool TDesignGestures::Move(const QMouseEvent& event) {
         const TDesignRect& place = box->GetPlace();
         box->GetTable().SetDesignPositions({place.Left, place.Top, place.Width, place.Height});
       }
+      if (!guard || !FPanel.GetActive()) return true;
       FPanel.ContentChanged();
-      area.ensureVisible(QRectF(point.X, point.Y, 1, 1), 8, 8);
+      area.BringIntoView(QRectF(point.X, point.Y, 1, 1));
       return true;
     case gsBand:
-      FBand->setGeometry(QRect(FStart, event.pos()).normalized());
+      // The area may have been scrolled.
+      FBand->setGeometry(QRect(area.mapFromScene(FStartContent.X, FStartContent.Y), event.pos()).normalized());
       FBand->show();
       return true;
     case gsThumb:
@@ -219,7 +242,7 @@ void TDesignGestures::DragField(const QMouseEvent& event) {
     TTableRep* box = FBox;
     const QPointer<TJStructDesignPanel> guard(&FPanel);
     FPanel.StartAddLink();
-    if (!guard || FPanel.GetAddLinkStage() != alsSelField1) return;
+    if (!guard || FPanel.GetAddLinkStage() != alsSelField1 || !IsHere(box)) return;
     FPanel.FirstFieldClick(*box);
     FGesture = gsDragField;
     FBox = nullptr;
@@ -236,13 +259,14 @@ void TDesignGestures::Hover(TDesignPoint point) {
     FPanel.ShowHint(dtNothing);
     return;
   }
-  TLinkRep* link = IsOverSomeLink(FPanel.GetLinksRep(), point);
+  // Boxes hide the lines below them.
+  TLinkRep* link = box ? nullptr : IsOverSomeLink(FPanel.GetLinksRep(), point);
   FPanel.SetCurrentLink(link);
   const TTableRep::THit hit =
       box ? box->HitAt(QPointF(point.X - box->GetPlace().Left, point.Y - box->GetPlace().Top)) : TTableRep::THit();
   if (box && hit.Part == TTableRep::bpEdge) {
     area.viewport()->setCursor(CursorOf(hit.Edges));
-  } else if (!box && link) {
+  } else if (link) {
     area.viewport()->setCursor(Qt::PointingHandCursor);
   } else {
     area.viewport()->unsetCursor();
@@ -267,9 +291,16 @@ bool TDesignGestures::Release(const QMouseEvent& event) {
   const TGesture ended = FGesture;
   const TDesignPoint point = FPanel.DesignArea().ToContent(event.pos());
   TTableRep* box = BoxAt(point);
-  if (ended == gsBand) ChooseInBand();
+  if (ended == gsBand) {
+    const QRect band = FBand->isVisible() ? FBand->geometry() : QRect();
+    Stop();
+    ChooseInBand(band);
+    return true;
+  }
   TTableRep* pressed = FBox;
+  const QPointer<TJStructDesignPanel> guard(&FPanel);
   Stop();
+  if (!guard || !IsHere(box)) box = nullptr;
   if (ended == gsField && box && box == pressed) {
     if (const TTableRep::TBoxEvent click = box->OnFieldClick) click(*box);
   } else if (ended == gsDragField) {
@@ -285,12 +316,17 @@ bool TDesignGestures::Release(const QMouseEvent& event) {
   return true;
 }
 
-void TDesignGestures::ChooseInBand() {
-  if (!FBand->isVisible()) return;
-  const QRectF band = FPanel.DesignArea().mapToScene(FBand->geometry()).boundingRect();
+void TDesignGestures::ChooseInBand(const QRect& inViewport) {
+  if (inViewport.isNull()) return;
+  const QRectF band = FPanel.DesignArea().mapToScene(inViewport).boundingRect();
   for (TTableRep& box : FPanel.GetTablesRep()) {
     if (band.intersects(box.boundingRect().translated(box.pos()))) box.SetChosen(true);
   }
+  // What commands work on is among the chosen ones.
+  const std::vector<TTableRep*> chosen = FPanel.ChosenBoxes();
+  if (chosen.empty()) return;
+  TTableRep* active = FPanel.GetActiveTable();
+  FPanel.SetActiveTable(active && active->GetChosen() ? active : chosen.front());
 }
 
 bool TDesignGestures::DoubleClick(const QMouseEvent& event) {
@@ -300,170 +336,25 @@ bool TDesignGestures::DoubleClick(const QMouseEvent& event) {
     const TTableRep::THit hit = box->HitAt(QPointF(point.X - box->GetPlace().Left, point.Y - box->GetPlace().Top));
     if (hit.Part == TTableRep::bpTitle) FPanel.FitHeights();
   } else if (FPanel.GetCurrentLink()) {
+    const QPointer<TJStructDesignPanel> guard(&FPanel);
     FPanel.SetActiveLink(FPanel.GetCurrentLink());
-    FPanel.EditActiveLink();
+    if (guard) FPanel.EditActiveLink();
   }
   return true;
 }
 
 bool TDesignGestures::Wheel(const QWheelEvent& event) {
+  FPanel.SyncWhenStale();
   TTableRep* box = BoxAt(FPanel.DesignArea().ToContent(event.position().toPoint()));
-  const int notches = event.angleDelta().y();
-  if (!box || notches == 0 || box->FieldsLB().MaxTopIndex() == 0) return false;
-  const int fields = notches * WheelFields / QWheelEvent::DefaultDeltasPerStep;
+  const int turned = event.angleDelta().y();
+  if (!box || turned == 0 || box->FieldsLB().MaxTopIndex() == 0) return false;
+  // Touch pads turn by small parts of a notch.
+  if ((FWheelRest < 0) != (turned < 0)) FWheelRest = 0;
+  FWheelRest += turned * WheelFields;
+  const int fields = FWheelRest / QWheelEvent::DefaultDeltasPerStep;
+  FWheelRest -= fields * QWheelEvent::DefaultDeltasPerStep;
   box->FieldsLB().SetTopIndex(static_cast<std::ptrdiff_t>(box->FieldsLB().GetTopIndex()) - fields);
   return true;
-}
-
-bool TDesignGestures::Key(QKeyEvent& event) {
-  if (!FPanel.GetActive() || IsModifier(event.key())) return false;
-  FPanel.SyncWhenStale();
-  if (FPanel.OnKeyPress) {
-    const auto told = FPanel.OnKeyPress;
-    const QPointer<TJStructDesignPanel> guard(&FPanel);
-    if (told(FPanel, event) || !guard) return true;
-  }
-  if (FPanel.GetAddLinkStage() != alsIdle) return KeyWhileAdding(event);
-  const bool isPlain = event.key() == Qt::Key_Escape || event.key() == Qt::Key_Delete || event.key() == Qt::Key_Return;
-  if (QAction* action = isPlain ? nullptr : FPanel.ActionOf(event)) {
-    Stop();
-    action->trigger();
-    return true;
-  }
-  if (event.key() == Qt::Key_Escape) return CancelByEscape();
-  if (ArrowKey(event)) return true;
-  Stop();
-  return KeyOnBox(event);
-}
-
-/// What is being dragged goes back, else the full screen ends.
-bool TDesignGestures::CancelByEscape() {
-  if (FGesture == gsMove || FGesture == gsResize) {
-    FGesture = gsNone;
-    FPanel.FMoving = false;
-    FPanel.FEditor->Cancel();
-    Stop();
-    return true;
-  }
-  if (!FPanel.GetFullScreenMode()) return false;
-  FPanel.SetFullScreenMode(false);
-  return true;
-}
-
-bool TDesignGestures::KeyWhileAdding(const QKeyEvent& event) {
-  TTableRep* box = FPanel.GetActiveTable();
-  switch (event.key()) {
-    case Qt::Key_Escape:
-      FPanel.CancelAddLink();
-      return true;
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-      NextBox(event.key() == Qt::Key_Tab);
-      return true;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-      if (box) {
-        const std::ptrdiff_t index = box->FieldsLB().GetItemIndex() + (event.key() == Qt::Key_Down ? 1 : -1);
-        const auto last = static_cast<std::ptrdiff_t>(box->FieldsLB().Items().size()) - 1;
-        box->FieldsLB().SetItemIndex(std::clamp<std::ptrdiff_t>(index, 0, last));
-        FPanel.RefreshAccessibleText();
-      }
-      return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (box && box->OnFieldClick) {
-        const TTableRep::TBoxEvent click = box->OnFieldClick;
-        click(*box);
-      }
-      return true;
-    default:
-      return false;
-  }
-}
-
-bool TDesignGestures::KeyOnBox(const QKeyEvent& event) {
-  const bool isControl = event.modifiers() & Qt::ControlModifier;
-  TTableRep* box = FPanel.GetActiveTable();
-  switch (event.key()) {
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab: {
-      const bool forward = event.key() == Qt::Key_Tab;
-      const TTableRepList& boxes = FPanel.GetTablesRep();
-      // At the end Tab leaves the diagram.
-      if (boxes.Empty() || isControl || box == &boxes[forward ? boxes.Count() - 1 : 0]) return false;
-      NextBox(forward);
-      return true;
-    }
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-      if (isControl) {
-        NextLink(event.key() == Qt::Key_PageDown);
-      } else if (box) {
-        const auto page = static_cast<std::ptrdiff_t>(box->FieldsLB().VisibleCount());
-        box->FieldsLB().SetTopIndex(static_cast<std::ptrdiff_t>(box->FieldsLB().GetTopIndex()) +
-                                    (event.key() == Qt::Key_PageDown ? page : -page));
-      }
-      return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (isControl) return false;
-      FPanel.EditActiveLink();
-      return true;
-    case Qt::Key_Delete:
-      FPanel.AskToDelete();
-      return true;
-    default:
-      return false;
-  }
-}
-
-/// Arrows in quick succession are one step.
-bool TDesignGestures::ArrowKey(const QKeyEvent& event) {
-  const int right = (event.key() == Qt::Key_Right) - (event.key() == Qt::Key_Left);
-  const int down = (event.key() == Qt::Key_Down) - (event.key() == Qt::Key_Up);
-  if ((right == 0 && down == 0) || !FPanel.GetActiveTable()) return false;
-  if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) return false;
-  if (FPanel.ChosenBoxes().empty()) FPanel.ChooseOnly(FPanel.GetActiveTable());
-  const bool isSizing = event.modifiers() & Qt::ShiftModifier;
-  const int way = event.modifiers() & Qt::ControlModifier ? 1 : ArrowStep;
-  if (FGesture != gsArrows) Begin(gsArrows, TJStructDesignPanel::tr(isSizing ? "Resize table" : "Move tables"));
-  FStartPlaces.clear();
-  for (TTableRep* box : FPanel.ChosenBoxes()) {
-    TDesignRect place = box->GetPlace();
-    if (isSizing) {
-      place = Resized(place, Qt::RightEdge | Qt::BottomEdge, right * way, down * way, box->MinSize());
-    }
-    FStartPlaces.emplace_back(box, place);
-  }
-  MoveBy(isSizing ? 0 : right * way, isSizing ? 0 : down * way);
-  FPanel.ContentChanged();
-  const TTableRep& box = *FPanel.GetActiveTable();
-  FPanel.DesignArea().ensureVisible(box.boundingRect().translated(box.pos()), 8, 8);
-  FArrowsEnd.start();
-  return true;
-}
-
-void TDesignGestures::NextBox(bool forward) {
-  const TTableRepList& boxes = FPanel.GetTablesRep();
-  if (boxes.Empty()) return;
-  const auto count = static_cast<std::ptrdiff_t>(boxes.Count());
-  const std::ptrdiff_t at = boxes.IndexOf(FPanel.GetActiveTable());
-  const std::ptrdiff_t next = at < 0 ? 0 : (at + (forward ? 1 : count - 1)) % count;
-  TTableRep& box = boxes[static_cast<std::size_t>(next)];
-  FPanel.ChooseOnly(&box);
-  FPanel.DesignArea().ensureVisible(box.boundingRect().translated(box.pos()), 8, 8);
-  FPanel.SetActiveTable(&box);
-}
-
-void TDesignGestures::NextLink(bool forward) {
-  const TLinkRepList& links = FPanel.GetLinksRep();
-  if (links.Empty()) return;
-  const auto count = static_cast<std::ptrdiff_t>(links.Count());
-  const std::ptrdiff_t at = links.IndexOf(FPanel.GetActiveLink());
-  const std::ptrdiff_t next = at < 0 ? 0 : (at + (forward ? 1 : count - 1)) % count;
-  TLinkRep& link = links[static_cast<std::size_t>(next)];
-  FPanel.DesignArea().ensureVisible(link.boundingRect(), 8, 8);
-  FPanel.SetActiveLink(&link);
 }
 
 }  // namespace tolvi

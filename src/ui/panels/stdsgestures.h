@@ -3,6 +3,7 @@
 
 #include <QPoint>
 #include <QPointF>
+#include <QRect>
 #include <QTimer>
 #include <cstdint>
 #include <utility>
@@ -36,7 +37,19 @@ class TDesignGestures final : public QObject {
   TTableRep* BoxAt(TDesignPoint point) const;
 
  private:
-  enum TGesture : std::uint8_t { gsNone, gsMove, gsResize, gsBand, gsThumb, gsField, gsDragField, gsArrows };
+  // A press on a title or an edge becomes a move or a resize when the mouse goes away from there.
+  enum TGesture : std::uint8_t {
+    gsNone,
+    gsPressTitle,
+    gsPressEdge,
+    gsMove,
+    gsResize,
+    gsBand,
+    gsThumb,
+    gsField,
+    gsDragField,
+    gsArrows
+  };
   using TPlaces = std::vector<std::pair<TTableRep*, TDesignRect>>;
 
   bool Press(const QMouseEvent& event);
@@ -51,12 +64,15 @@ class TDesignGestures final : public QObject {
   bool KeyOnBox(const QKeyEvent& event);
 
   void Begin(TGesture gesture, const QString& stepName);
+  bool BeginDrag(const QMouseEvent& event, TDesignPoint point);
+  bool IsHere(const TTableRep* box) const;
   void MoveBy(int dx, int dy);
   void Hover(TDesignPoint point);
   void ShowToolTip(TDesignPoint point);
   void DragField(const QMouseEvent& event);
-  void ChooseInBand();
+  void ChooseInBand(const QRect& inViewport);
   bool ArrowKey(const QKeyEvent& event);
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void NextBox(bool forward);
   void NextLink(bool forward);
 
@@ -69,6 +85,8 @@ class TDesignGestures final : public QObject {
   /// The places of the boxes that move, as the gesture found them.
   TPlaces FStartPlaces;
   QRubberBand* FBand;
+  /// What the wheel has turned and the fields have not yet followed, in its own units times fields.
+  int FWheelRest = 0;
   /// Ends a series of arrow keys.
   QTimer FArrowsEnd;
 };

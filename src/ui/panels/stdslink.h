@@ -25,7 +25,10 @@ class TLinkRep final : public QGraphicsItem {
   TDSLink& GetLink() const { return *FLink; }
   TTableRep& GetTableRep1() const { return *FTableRep1; }
   TTableRep& GetTableRep2() const { return *FTableRep2; }
-  void SetTableRep2(TTableRep& box) { FTableRep2 = &box; }
+  void SetTableReps(TTableRep& box1, TTableRep& box2) {
+    FTableRep1 = &box1;
+    FTableRep2 = &box2;
+  }
   std::span<const TLinkNode> Nodes1() const { return FLinkNodes1; }
   std::span<const TLinkNode> Nodes2() const { return FLinkNodes2; }
 

@@ -2,6 +2,7 @@
 #include <QMessageBox>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <unordered_set>
 #include <utility>
 
@@ -17,8 +18,10 @@ namespace tolvi {
 TJStructDesignPanel::TJStructDesignPanel(QWidget* parent)
     : QFrame(parent),
       FDBStruct([this] {
-        Deactivate();
+        // The model cannot be asked any more, and an editor given by the host may be gone.
         FEditor = nullptr;
+        FOpenSteps = 0;
+        Deactivate();
         FOwnEditor.reset();
       }),
       FMaxPanel(new QWidget(this)),
@@ -36,7 +39,7 @@ TJStructDesignPanel::TJStructDesignPanel(QWidget* parent)
   FMaxButton->setObjectName(QStringLiteral("maxButton"));
   FMaxButton->setFocusPolicy(Qt::NoFocus);
   FMaxButton->hide();
-  FStyle.Take(palette(), font());
+  FStyle.Take(palette(), font(), layoutDirection());
   FDesignArea->setAccessibleName(tr("Diagram of tables and links"));
   FGestures = std::make_unique<TDesignGestures>(*this);
   BuildActions();
@@ -44,10 +47,14 @@ TJStructDesignPanel::TJStructDesignPanel(QWidget* parent)
 
 TJStructDesignPanel::~TJStructDesignPanel() {
   if (FDBStruct.Get()) FDBStruct->RemoveListener(*this);
-  delete FMaxForm.data();
+  if (FOwnEditor) FOwnEditor->OnChange = {};
+  while (FOpenSteps > 0) EndStep();
+  delete FAnimation.data();
+  // Before the window that covers the screen: it takes the area along, which would destroy them a second time.
   FNewLink.reset();
   FLinksRep.Clear();
   FTablesRep.Clear();
+  delete FMaxForm.data();
 }
 
 void TJStructDesignPanel::SetDBStruct(TJCustomDBStructure* dbStruct) {
@@ -95,6 +102,8 @@ void TJStructDesignPanel::Deactivate() {
   SetFullScreenMode(false);
   Clear();
   FActive = false;
+  FTableEventDue = FLinkEventDue = FFinishEventDue = false;
+  while (FOpenSteps > 0) EndStep();
   FMaxButton->hide();
   if (FOwnEditor) {
     FEditor = nullptr;
@@ -106,10 +115,14 @@ void TJStructDesignPanel::Deactivate() {
 void TJStructDesignPanel::Clear() {
   StopAnimation();
   FGestures->Stop();
+  delete FLinkDialogParent.data();
   FNewLink.reset();
   FNewDSLink.reset();
+  FTableEventDue = FTableEventDue || FActiveTable;
+  FLinkEventDue = FLinkEventDue || FActiveLink;
+  FFinishEventDue = FFinishEventDue || FAddLinkStage != alsIdle;
   FAddLinkStage = alsIdle;
-  FCurrentLink = FActiveLink = nullptr;
+  FCurrentLink = FActiveLink = FFinishedLink = nullptr;
   FActiveTable = nullptr;
   FLinksOf.clear();
   FBoxOf.clear();
@@ -164,8 +177,26 @@ bool TJStructDesignPanel::EditModel(const QString& name, const std::function<voi
   return changed;
 }
 
+void TJStructDesignPanel::BeginStep(const QString& name) {
+  FEditor->Begin(FromQString(name));
+  ++FOpenSteps;
+}
+
+void TJStructDesignPanel::EndStep() {
+  if (FOpenSteps == 0) return;
+  --FOpenSteps;
+  if (FEditor) FEditor->End();
+}
+
+void TJStructDesignPanel::CancelStep() {
+  if (FOpenSteps == 0 || !FEditor) return;
+  FOpenSteps = 0;
+  FEditor->Cancel();
+}
+
 /// Places that nobody has stored yet go into the model with the first edit.
 void TJStructDesignPanel::StorePlaces() {
+  StopAnimation();
   FDBStruct->AsOneChange([&] {
     for (TTableRep& box : FTablesRep) {
       const TDesignRect& place = box.GetPlace();
@@ -188,7 +219,7 @@ void TJStructDesignPanel::Guarded(const std::function<void()>& operation) {
     const auto told = OnError;
     told(*this, message);
   } else {
-    QMessageBox::warning(this, ToQString(SError.Text), message);
+    QMessageBox::warning(FMaxPanel, ToQString(SError.Text), message);
   }
 }
 
@@ -196,8 +227,10 @@ void TJStructDesignPanel::FireHeldEvents() {
   const QPointer<TJStructDesignPanel> guard(this);
   const TDesignEvent selectTable = std::exchange(FTableEventDue, false) ? OnSelectTable : nullptr;
   const TDesignEvent selectLink = std::exchange(FLinkEventDue, false) ? OnSelectLink : nullptr;
+  const TAddLinkFinishEvent finish = std::exchange(FFinishEventDue, false) ? OnAddLinkFinish : nullptr;
   if (selectTable) selectTable(*this);
   if (guard && selectLink) selectLink(*this);
+  if (guard && finish) finish(*this, std::exchange(FFinishedLink, nullptr));
 }
 
 void TJStructDesignPanel::SyncWhenStale() {
@@ -212,13 +245,17 @@ void TJStructDesignPanel::Sync() {
   std::unordered_set<const TDSLink*> links;
   for (const TDSTable& table : FDBStruct->Tables()) tables.insert(&table);
   for (const TDSLink& link : FDBStruct->Links()) links.insert(&link);
-  const bool isNewLinkLost = FNewDSLink && !tables.contains(FNewDSLink->GetTable1());
-  if (isNewLinkLost) CancelAddLink();
+  StopAnimation();
+  const bool wasLinkSelectedLast = FLinkSelectedLast;
+  const bool isNewLinkLost =
+      FNewDSLink && !(tables.contains(FNewDSLink->GetTable1()) && tables.contains(FNewDSLink->GetTable2()));
+  if (isNewLinkLost) {
+    delete FLinkDialogParent.data();
+    CancelAddLink();
+  }
   for (std::size_t i = FLinksRep.Count(); i-- > 0;) {
     const TLinkRep& rep = FLinksRep[i];
-    const bool isHere = links.contains(&rep.GetLink()) && tables.contains(&rep.GetTableRep1().GetTable()) &&
-                        tables.contains(&rep.GetTableRep2().GetTable());
-    if (!isHere) DropLink(i);
+    if (!links.contains(&rep.GetLink())) DropLink(i);
   }
   for (std::size_t i = FTablesRep.Count(); i-- > 0;) {
     if (!tables.contains(&FTablesRep[i].GetTable())) DropBox(i);
@@ -231,12 +268,15 @@ void TJStructDesignPanel::Sync() {
       if (!HasStoredPlace(table)) PlaceNewBox(*box);
     }
     box->RefreshTitle();
+    if (box->FieldsLB().GetSource() != table.GetFullName()) FillFieldsList(*box);
     const TDesignPositions& place = table.GetDesignPositions();
-    if (HasStoredPlace(table) && !FAnimation) box->SetPlace({place.Left, place.Top, place.Width, place.Height});
+    if (HasStoredPlace(table)) box->SetPlace({place.Left, place.Top, place.Width, place.Height});
   }
   AddLinks();
+  if (added && FAddLinkStage != alsIdle) BindFieldClicks();
   if (added && !FActiveTable) SetActiveTable(added);
   if (!FActiveLink && !FLinksRep.Empty()) SetActiveLink(&FLinksRep[0]);
+  FLinkSelectedLast = wasLinkSelectedLast;
   ContentChanged();
   RefreshActions();
 }
@@ -302,10 +342,14 @@ void TJStructDesignPanel::Redo() {
 }
 
 void TJStructDesignPanel::changeEvent(QEvent* event) {
-  if ((event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) && FDesignArea) {
-    FStyle.Take(palette(), font());
+  const bool isOfStyle = event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange ||
+                         event->type() == QEvent::StyleChange || event->type() == QEvent::LayoutDirectionChange;
+  if (isOfStyle && FDesignArea) {
+    FStyle.Take(palette(), font(), layoutDirection());
     for (TTableRep& box : FTablesRep) box.StyleChanged();
     InvalidateLinks();
+    ContentChanged();
+    PlaceMaxButton();
     FDesignArea->viewport()->update();
   }
   QFrame::changeEvent(event);
@@ -313,7 +357,11 @@ void TJStructDesignPanel::changeEvent(QEvent* event) {
 
 void TJStructDesignPanel::showEvent(QShowEvent* event) {
   QFrame::showEvent(event);
-  if (!std::exchange(FArrangeWhenShown, false) || !FActive || FEditor->CanUndo()) return;
+  if (!FActive) return;
+  SyncWhenStale();
+  if (!std::exchange(FArrangeWhenShown, false)) return;
+  const TJObjectList<TDSTable>& tables = FDBStruct->Tables();
+  if (std::all_of(tables.begin(), tables.end(), HasStoredPlace)) return;
   // The width is known only now.
   layout()->activate();
   FUnstored.clear();

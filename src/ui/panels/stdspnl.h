@@ -202,11 +202,16 @@ class TJStructDesignPanel final : public QFrame, private TDSListener {
   void StructureClearing() override;
   void StructureLoaded() override;
   bool EditModel(const QString& name, const std::function<void()>& edit);
+  // A step that goes on for a while; it is ended at the latest when the panel lets go of the model.
+  void BeginStep(const QString& name);
+  void EndStep();
+  void CancelStep();
+  bool ShowLinkDialog(TDSLink& link);
   void Sync();
   void SyncWhenStale();
   void StorePlaces();
   void Guarded(const std::function<void()>& operation);
-  // Events of selection come when an operation is complete: their handlers may destroy the panel.
+  // Events come when an operation is complete: their handlers may destroy the panel.
   class THeldEvents {
    public:
     explicit THeldEvents(TJStructDesignPanel& panel) : FPanel(&panel) { ++panel.FHeldEvents; }
@@ -224,6 +229,7 @@ class TJStructDesignPanel final : public QFrame, private TDSListener {
   // Boxes and lines.
   void BuildReps();
   void Remember();
+  void PlaceBoxes();
   TTableRep& AddBox(TDSTable& table);
   void FillFieldsList(TTableRep& box);
   void AddLinks();
@@ -243,7 +249,7 @@ class TJStructDesignPanel final : public QFrame, private TDSListener {
   void FirstFieldClick(TTableRep& box);
   void SecondFieldClick(TTableRep& box);
   void FinishAddLink(TLinkRep* added);
-  void BindFieldClicks(void (TJStructDesignPanel::*handler)(TTableRep&));
+  void BindFieldClicks();
 
   // The view.
   void SetCurrentLink(TLinkRep* link);
@@ -252,7 +258,8 @@ class TJStructDesignPanel final : public QFrame, private TDSListener {
   QAction* ActionOf(const QKeyEvent& key) const;
   void RefreshActions();
   void ShowActions();
-  void OpenMenu(QPoint globalPos, QPoint inViewport);
+  void OpenMenu(QPoint globalPos, QPoint inViewport, bool byKey);
+  void ShowMenu(const char* first, const char* second, QPoint globalPos);
   void AskToDelete();
   QRectF PictureRect();
   void PaintAll(QPainter& painter, const QRectF& target, const QRectF& source);
@@ -298,7 +305,11 @@ class TJStructDesignPanel final : public QFrame, private TDSListener {
   std::ptrdiff_t FActiveLinkIndex = -1;
 
   int FHeldEvents = 0;
-  bool FTableEventDue = false, FLinkEventDue = false;
+  bool FTableEventDue = false, FLinkEventDue = false, FFinishEventDue = false;
+  TLinkRep* FFinishedLink = nullptr;
+  int FOpenSteps = 0;
+  // A dialog that edits a link goes with the link.
+  QPointer<QWidget> FLinkDialogParent;
   bool FActive = false, FDesignPositionsDefined = false, FShowFullScreenButton = false;
   bool FStale = false, FMoving = false, FArrangeWhenShown = false, FLinkSelectedLast = false, FCatalogueFails = false,
        FActionsDue = false;

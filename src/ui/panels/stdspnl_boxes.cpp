@@ -20,28 +20,17 @@ constexpr int AnimationTime = 250;
 
 void TJStructDesignPanel::BuildReps() {
   const THeldEvents held(*this);
+  const bool wasLinkSelectedLast = FLinkSelectedLast;
   FStale = false;
   FCatalogueFails = false;
-  FDesignPositionsDefined = true;
-  bool isAllKnown = true;
   for (TDSTable& table : FDBStruct->Tables()) {
     TTableRep& box = AddBox(table);
     const auto known = FMemory.find(table.GetTableAlias());
-    if (HasStoredPlace(table)) {
-      const TDesignPositions& place = table.GetDesignPositions();
-      box.SetPlace({place.Left, place.Top, place.Width, place.Height});
-    } else {
-      FDesignPositionsDefined = false;
-      const auto place = FUnstored.find(table.GetTableAlias());
-      if (place != FUnstored.end()) box.SetPlace(place->second);
-      isAllKnown &= place != FUnstored.end();
-    }
     if (known == FMemory.end()) continue;
     box.FieldsLB().SetTopIndex(static_cast<std::ptrdiff_t>(known->second.TopIndex));
     box.SetChosen(known->second.Chosen);
   }
-  if (!FDesignPositionsDefined && !isAllKnown) ArrangeAll();
-  FArrangeWhenShown = !FDesignPositionsDefined && !isAllKnown && !isVisible();
+  PlaceBoxes();
   AddLinks();
   const bool isFirst = FMemory.empty();
   TDSTable* activeTable = isFirst ? nullptr : FDBStruct->TableByName(tnAlias, FActiveAlias);
@@ -49,8 +38,38 @@ void TJStructDesignPanel::BuildReps() {
   SetActiveTable(activeTable ? FindTblRepByDSTable(activeTable) : first);
   const auto link = static_cast<std::size_t>(isFirst ? 0 : std::max<std::ptrdiff_t>(0, FActiveLinkIndex));
   SetActiveLink(FLinksRep.Empty() ? nullptr : &FLinksRep[std::min(link, FLinksRep.Count() - 1)]);
+  FLinkSelectedLast = wasLinkSelectedLast;
   ContentChanged();
   RefreshActions();
+}
+
+/// Boxes without a place: all are arranged, but for a model that has been shown already only the new ones are placed.
+void TJStructDesignPanel::PlaceBoxes() {
+  std::vector<TTableRep*> unknown;
+  bool isShown = false;
+  FDesignPositionsDefined = true;
+  for (TTableRep& box : FTablesRep) {
+    const TDSTable& table = box.GetTable();
+    const auto unstored = FUnstored.find(table.GetTableAlias());
+    isShown = isShown || FMemory.contains(table.GetTableAlias());
+    if (HasStoredPlace(table)) {
+      const TDesignPositions& place = table.GetDesignPositions();
+      box.SetPlace({place.Left, place.Top, place.Width, place.Height});
+      continue;
+    }
+    FDesignPositionsDefined = false;
+    if (unstored != FUnstored.end()) {
+      box.SetPlace(unstored->second);
+    } else {
+      unknown.push_back(&box);
+    }
+  }
+  if (isShown) {
+    for (TTableRep* box : unknown) PlaceNewBox(*box);
+  } else if (!FDesignPositionsDefined) {
+    ArrangeAll();
+    FArrangeWhenShown = !isVisible();
+  }
 }
 
 TTableRep& TJStructDesignPanel::AddBox(TDSTable& table) {
@@ -68,6 +87,7 @@ bool TJStructDesignPanel::IsConnected() const {
 }
 
 void TJStructDesignPanel::FillFieldsList(TTableRep& box) {
+  box.FieldsLB().SetSource(box.GetTable().GetFullName());
   if (!IsConnected()) {
     box.FieldsLB().SetMessage(SNotConnected);
     return;
@@ -75,9 +95,8 @@ void TJStructDesignPanel::FillFieldsList(TTableRep& box) {
   TJDBInfo& info = *FDBStruct->GetDatabaseInfo();
   TStrings names, keys;
   try {
-    const std::string table = box.GetTable().GetFullName();
-    info.GetFieldNamesByTable(table, names);
-    info.GetKeyNames(table, keys);
+    info.GetFieldNamesByTable(box.FieldsLB().GetSource(), names);
+    info.GetKeyNames(box.FieldsLB().GetSource(), keys);
   } catch (const std::exception&) {
     // A catalogue that fails once would fail, and perhaps wait, for every table.
     FCatalogueFails = true;
@@ -103,20 +122,23 @@ void TJStructDesignPanel::RefreshFields() {
 
 /// Lines for links without one; all lines take over what their links are now.
 void TJStructDesignPanel::AddLinks() {
-  std::unordered_set<const TDSLink*> shown;
-  for (TLinkRep& link : FLinksRep) {
-    shown.insert(&link.GetLink());
-    link.RefreshFields();
-  }
+  std::unordered_map<const TDSLink*, TLinkRep*> shown;
+  for (TLinkRep& link : FLinksRep) shown.emplace(&link.GetLink(), &link);
+  FLinksOf.clear();
   for (TDSLink& link : FDBStruct->Links()) {
-    if (shown.contains(&link)) continue;
     TTableRep& box1 = *FBoxOf.at(link.GetTable1());
     TTableRep& box2 = *FBoxOf.at(link.GetTable2());
-    TLinkRep& rep = FLinksRep.Add(std::make_unique<TLinkRep>(link, box1, box2, FStyle));
-    rep.RecalcPositions();
-    FLinksOf[&box1].push_back(&rep);
-    if (&box1 != &box2) FLinksOf[&box2].push_back(&rep);
-    FDesignArea->scene()->addItem(&rep);
+    TLinkRep*& rep = shown[&link];
+    if (rep) {
+      // The tables may have changed places.
+      rep->SetTableReps(box1, box2);
+      rep->RefreshFields();
+    } else {
+      rep = &FLinksRep.Add(std::make_unique<TLinkRep>(link, box1, box2, FStyle));
+      FDesignArea->scene()->addItem(rep);
+    }
+    FLinksOf[&box1].push_back(rep);
+    if (&box1 != &box2) FLinksOf[&box2].push_back(rep);
   }
   RefreshLinkedMarks();
 }
@@ -145,6 +167,7 @@ void TJStructDesignPanel::DropLink(std::size_t index) {
     if (FLinksRep.Count() > 1) SetActiveLink(&FLinksRep[next]);
   }
   if (&link == FCurrentLink) FCurrentLink = nullptr;
+  if (&link == FFinishedLink) FFinishedLink = nullptr;
   for (const TTableRep* box : {&link.GetTableRep1(), &link.GetTableRep2()}) std::erase(FLinksOf[box], &link);
   const std::unique_ptr<TLinkRep> dropped = FLinksRep.Delete(index);
 }
@@ -194,7 +217,8 @@ void TJStructDesignPanel::ContentChanged() {
     boxes.emplace_back(place.Left, place.Top, place.Width, place.Height);
     all |= QRectF(boxes.back());
   }
-  FDesignArea->SetContent(all);
+  // Under the hand that drags boxes the view must not slip away.
+  FDesignArea->SetContent(all, !FMoving);
   FDesignArea->Minimap().SetBoxes(std::move(boxes));
 }
 
@@ -229,10 +253,14 @@ void TJStructDesignPanel::PlaceNewBox(TTableRep& added) {
 void TJStructDesignPanel::MoveBoxes(const std::vector<std::pair<TTableRep*, TDesignRect>>& places,
                                     const QString& stepName) {
   if (!FActive) return;
+  FGestures->Stop();
   StopAnimation();
+  const QPointer<TJStructDesignPanel> guard(this);
+  const THeldEvents held(*this);
   for (const auto& [box, place] : places) box->SetPlace(place);
   FMoving = true;
   EditModel(stepName, [] {});
+  if (!guard) return;
   FMoving = false;
   ContentChanged();
 }
@@ -265,11 +293,14 @@ void TJStructDesignPanel::GoTo(const std::vector<TDesignPoint>& places, const QS
     from.emplace_back(&box, place);
     to.emplace_back(&box, TDesignRect{places[i].X, places[i].Y, place.Width, place.Height});
   }
+  const QPointer<TJStructDesignPanel> guard(this);
   MoveBoxes(to, stepName);
+  if (!guard || FTablesRep.Count() != places.size() || FTablesRep.Empty() || from.front().first != &FTablesRep[0])
+    return;
   const TTableRep* seen = FActiveTable ? FActiveTable : FTablesRep.Empty() ? nullptr : &FTablesRep[0];
   if (seen) FDesignArea->centerOn(seen->sceneBoundingRect().center());
   const bool isAnimated = isVisible() && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
-  if (!isAnimated || from.empty()) return;
+  if (!isAnimated) return;
   auto* animation = new QVariantAnimation(this);
   FAnimation = animation;
   animation->setDuration(AnimationTime);
@@ -297,6 +328,9 @@ void TJStructDesignPanel::StopAnimation() {
 }
 
 void TJStructDesignPanel::FitHeights() {
+  if (!FActive) return;
+  SyncWhenStale();
+  StopAnimation();
   std::vector<std::pair<TTableRep*, TDesignRect>> places;
   for (TTableRep* box : ChosenBoxes()) {
     TDesignRect place = box->GetPlace();

@@ -103,10 +103,13 @@ void TJStructDesignPanel::ExportTo(const QString& file, double scale) {
 }
 
 void TJStructDesignPanel::ExportByDialog() {
-  const QString file =
-      QFileDialog::getSaveFileName(this, tr("Export Diagram"), {}, tr("Pictures (*.png *.svg);;Documents (*.pdf)"));
-  if (file.isEmpty()) return;
-  Guarded([&] { ExportTo(QFileInfo(file).suffix().isEmpty() ? file + QStringLiteral(".png") : file); });
+  const QPointer<TJStructDesignPanel> guard(this);
+  QString kind, file = QFileDialog::getSaveFileName(FMaxPanel, tr("Export Diagram"), {},
+                                                    tr("Pictures (*.png *.svg);;Documents (*.pdf)"), &kind);
+  if (!guard || file.isEmpty()) return;
+  const bool isDocument = kind.contains(QLatin1String("*.pdf"));
+  if (QFileInfo(file).suffix().isEmpty()) file += isDocument ? QStringLiteral(".pdf") : QStringLiteral(".png");
+  Guarded([&] { ExportTo(file); });
 }
 
 void TJStructDesignPanel::Print(QPrinter& printer) {
@@ -132,7 +135,7 @@ void TJStructDesignPanel::PrintPreview() {
   QPrinter printer(QPrinter::HighResolution);
   const QRectF all = PictureRect();
   printer.setPageOrientation(all.width() > all.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
-  QPrintPreviewDialog preview(&printer, this);
+  QPrintPreviewDialog preview(&printer, FMaxPanel);
   connect(&preview, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* paper) { Print(*paper); });
   preview.exec();
 }

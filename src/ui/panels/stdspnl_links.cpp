@@ -26,14 +26,13 @@ bool TJStructDesignPanel::AddTablesDlg(TSimpleDSTableList& newTables, bool autoA
   std::vector<std::string> aliases;
   bool chosen = false;
   // The places of the new boxes belong to the step that adds the tables.
-  FEditor->Begin(FromQString(tr("Add tables")));
-  Guarded([&] { chosen = AddTables(this, *FEditor, aliases); });
-  if (!guard) return false;
-  if (chosen) {
-    SyncWhenStale();
-    StorePlaces();
-  }
-  FEditor->End();
+  BeginStep(tr("Add tables"));
+  Guarded([&] { chosen = AddTables(FMaxPanel, *FEditor, aliases); });
+  if (!guard || !FActive) return false;
+  SyncWhenStale();
+  if (chosen) StorePlaces();
+  EndStep();
+  if (!guard || !FActive) return chosen;
   for (const std::string& alias : aliases) {
     if (TDSTable* table = FDBStruct->TableByName(tnAlias, alias)) newTables.Add(*table);
   }
@@ -41,7 +40,7 @@ bool TJStructDesignPanel::AddTablesDlg(TSimpleDSTableList& newTables, bool autoA
     TTableRep* box = FindTblRepByDSTable(&newTables[newTables.Count() - 1]);
     SetActiveTable(box);
     ChooseOnly(box);
-    if (box) FDesignArea->ensureVisible(box->boundingRect().translated(box->pos()), 8, 8);
+    if (box) FDesignArea->BringIntoView(box->boundingRect().translated(box->pos()));
   }
   RefreshActions();
   return chosen;
@@ -73,18 +72,20 @@ void TJStructDesignPanel::AskToDelete() {
   if (!isLink && !FActiveTable) return;
   const QPointer<TJStructDesignPanel> guard(this);
   const TMessage question = isLink ? SDeleteLink : SDeleteTable;
-  const auto answer = QMessageBox::question(this, windowTitle(), ToQString(question.Text));
-  if (!guard || answer != QMessageBox::Yes) return;
+  const auto answer = QMessageBox::question(FMaxPanel, windowTitle(), ToQString(question.Text));
+  if (!guard || !FActive || answer != QMessageBox::Yes) return;
+  SyncWhenStale();
   if (isLink) {
     DeleteActiveLink();
     return;
   }
   std::vector<const TDSTable*> tables;
   for (TTableRep* box : ChosenBoxes()) tables.push_back(&box->GetTable());
-  if (tables.size() < 2) {
+  if (tables.empty()) {
     DeleteActiveTable();
     return;
   }
+  FGestures->Stop();
   EditModel(tr("Delete tables"), [&] {
     for (std::size_t i = FDBStruct->GetTableCount(); i-- > 0;) {
       if (std::find(tables.begin(), tables.end(), &FDBStruct->GetTable(i)) != tables.end()) FDBStruct->DelTable(i);
@@ -99,13 +100,12 @@ bool TJStructDesignPanel::EditActiveLink() {
   if (!FActiveLink) return false;
   const QPointer<TJStructDesignPanel> guard(this);
   const THeldEvents held(*this);
-  bool accepted = false;
-  FEditor->Begin(FromQString(tr("Edit link")));
-  Guarded([&] { accepted = EditLink(this, *FDBStruct.Get(), FActiveLink->GetLink()); });
-  if (!guard) return accepted;
+  BeginStep(tr("Edit link"));
+  const bool accepted = ShowLinkDialog(FActiveLink->GetLink());
+  if (!guard || !FActive) return accepted;
   if (accepted) StorePlaces();
-  FEditor->End();
-  RefreshActions();
+  EndStep();
+  if (guard) RefreshActions();
   return accepted;
 }
 
@@ -120,19 +120,28 @@ void TJStructDesignPanel::StartAddLink() {
   if (!guard || !FActive) return;
   FAddLinkStage = alsSelField1;
   SetCurrentLink(nullptr);
-  BindFieldClicks(&TJStructDesignPanel::FirstFieldClick);
+  BindFieldClicks();
   ShowHint(dtNothing);
   RefreshActions();
 }
 
-void TJStructDesignPanel::BindFieldClicks(void (TJStructDesignPanel::*handler)(TTableRep&)) {
-  for (TTableRep& box : FTablesRep) {
-    if (handler) {
-      box.OnFieldClick = [this, handler](TTableRep& clicked) { (this->*handler)(clicked); };
-    } else {
-      box.OnFieldClick = nullptr;
-    }
-  }
+/// A click on a field is what the stage of adding asks for.
+void TJStructDesignPanel::BindFieldClicks() {
+  TTableRep::TBoxEvent handler;
+  if (FAddLinkStage == alsSelField1) handler = [this](TTableRep& clicked) { FirstFieldClick(clicked); };
+  if (FAddLinkStage == alsSelField2) handler = [this](TTableRep& clicked) { SecondFieldClick(clicked); };
+  for (TTableRep& box : FTablesRep) box.OnFieldClick = handler;
+}
+
+/// Whether OK was chosen. The dialog is closed when the link goes meanwhile, and when the panel goes.
+bool TJStructDesignPanel::ShowLinkDialog(TDSLink& link) {
+  const QPointer<TJStructDesignPanel> guard(this);
+  const QPointer<QWidget> parent = new QWidget(FMaxPanel);
+  FLinkDialogParent = parent;
+  bool accepted = false;
+  Guarded([&] { accepted = EditLink(parent, *FDBStruct.Get(), link); });
+  delete parent.data();
+  return guard && accepted;
 }
 
 void TJStructDesignPanel::FirstFieldClick(TTableRep& box) {
@@ -151,7 +160,7 @@ void TJStructDesignPanel::FirstFieldClick(TTableRep& box) {
   FDesignArea->scene()->addItem(FNewLink.get());
   FNewLink->MoveSecondEnd(FDesignArea->ToContent(FDesignArea->viewport()->mapFromGlobal(QCursor::pos())));
   FAddLinkStage = alsSelField2;
-  BindFieldClicks(&TJStructDesignPanel::SecondFieldClick);
+  BindFieldClicks();
   ShowHint(dtNothing);
 }
 
@@ -167,11 +176,10 @@ void TJStructDesignPanel::SecondFieldClick(TTableRep& box) {
     fields2.Add(field);
     FNewDSLink->SetFields2(fields2);
   }
-  FNewLink->SetTableRep2(box);
+  FNewLink->SetTableReps(FNewLink->GetTableRep1(), box);
   FNewLink->RefreshFields();
   const QPointer<TJStructDesignPanel> guard(this);
-  bool accepted = false;
-  Guarded([&] { accepted = EditLink(this, *FDBStruct.Get(), *FNewDSLink); });
+  const bool accepted = ShowLinkDialog(*FNewDSLink);
   if (!guard || !FNewDSLink) return;
   if (!accepted) {
     CancelAddLink();
@@ -181,12 +189,11 @@ void TJStructDesignPanel::SecondFieldClick(TTableRep& box) {
   std::unique_ptr<TDSLink> link = std::move(FNewDSLink);
   const TDSLink* added = link.get();
   FNewLink.reset();
-  if (EditModel(tr("Add link"), [&] { FDBStruct->AddLinkByRef(std::move(link)); })) {
-    SetActiveLink(FindLinkRepByDSLink(added));
-    FinishAddLink(FindLinkRepByDSLink(added));
-  } else {
-    FinishAddLink(nullptr);
-  }
+  const bool isAdded = EditModel(tr("Add link"), [&] { FDBStruct->AddLinkByRef(std::move(link)); });
+  if (!guard) return;
+  TLinkRep* line = isAdded ? FindLinkRepByDSLink(added) : nullptr;
+  if (line) SetActiveLink(line);
+  FinishAddLink(line);
 }
 
 void TJStructDesignPanel::CancelAddLink() {
@@ -194,14 +201,16 @@ void TJStructDesignPanel::CancelAddLink() {
 }
 
 void TJStructDesignPanel::FinishAddLink(TLinkRep* added) {
+  const THeldEvents held(*this);
   FNewLink.reset();
   FNewDSLink.reset();
-  BindFieldClicks(nullptr);
-  FDesignArea->viewport()->unsetCursor();
   FAddLinkStage = alsIdle;
+  BindFieldClicks();
+  FDesignArea->viewport()->unsetCursor();
   ShowHint(dtNothing);
   RefreshActions();
-  if (const TAddLinkFinishEvent told = OnAddLinkFinish) told(*this, added);
+  FFinishEventDue = true;
+  FFinishedLink = added;
 }
 
 }  // namespace tolvi

@@ -21,6 +21,13 @@ namespace {
 
 constexpr double ZoomStep = 1.25;
 
+// The commands of menus, with lines between them.
+constexpr char OnTable[] = "addLink cancelLink delete fitHeights | addTables";
+constexpr char OnLink[] = "editLink delete | addLink";
+constexpr char OnArea[] =
+    "addTables addLink cancelLink | undo redo | selectAll rearrange layOut | zoomIn zoomOut zoomReset zoomFit | "
+    "copyPicture export print | fullScreen";
+
 }  // namespace
 
 // Hints
@@ -94,6 +101,7 @@ void TJStructDesignPanel::BuildActions() {
       {"selectAll", tr("Select &All"), QStringLiteral("Ctrl+A"),
        [this] {
          for (TTableRep& box : FTablesRep) box.SetChosen(true);
+         FLinkSelectedLast = false;
          RefreshActions();
        }},
       {"fitHeights", tr("Fit &Height to Fields"), QStringLiteral("Ctrl+H"), [this] { FitHeights(); }},
@@ -124,7 +132,9 @@ void TJStructDesignPanel::BuildActions() {
   FMaxButton->setAutoRaise(false);
   FDesignArea->OwnsKey = [this](const QKeyEvent& key) { return ActionOf(key) != nullptr; };
   FDesignArea->OnResize = [this] { PlaceMaxButton(); };
-  FDesignArea->OnMenu = [this](QPoint globalPos, QPoint inViewport) { OpenMenu(globalPos, inViewport); };
+  FDesignArea->OnMenu = [this](QPoint globalPos, QPoint inViewport, bool byKey) {
+    OpenMenu(globalPos, inViewport, byKey);
+  };
   RefreshActions();
 }
 
@@ -179,45 +189,43 @@ void TJStructDesignPanel::ShowActions() {
   GetAction(QStringLiteral("fullScreen"))->setChecked(GetFullScreenMode());
 }
 
-/// On a box or line the menu is that of it.
-void TJStructDesignPanel::OpenMenu(QPoint globalPos, QPoint inViewport) {
+/// On a box or line the menu is that of it; by key all commands, those of what was selected last first.
+void TJStructDesignPanel::OpenMenu(QPoint globalPos, QPoint inViewport, bool byKey) {
   if (!FActive) return;
+  FGestures->Stop();
   SyncWhenStale();
   const TDesignPoint point = FDesignArea->ToContent(inViewport);
-  TTableRep* box = FGestures->BoxAt(point);
-  TLinkRep* link = box ? nullptr : IsOverSomeLink(FLinksRep, point);
-  const QPointer<TJStructDesignPanel> guard(this);
-  if (box) {
-    SetActiveTable(box);
-    if (guard && !box->GetChosen()) ChooseOnly(box);
+  const bool isLinkByKey = FActiveLink && (FLinkSelectedLast || !FActiveTable);
+  TTableRep* box = !byKey ? FGestures->BoxAt(point) : isLinkByKey ? nullptr : FActiveTable;
+  TLinkRep* link = box ? nullptr : byKey ? FActiveLink : IsOverSomeLink(FLinksRep, point);
+  const QGraphicsItem* item = box ? static_cast<QGraphicsItem*>(box) : link;
+  if (byKey && item) {
+    const QRectF place = item->sceneBoundingRect();
+    FDesignArea->BringIntoView(place);
+    globalPos = FDesignArea->viewport()->mapToGlobal(FDesignArea->mapFromScene(place.center()));
   }
-  if (link) SetActiveLink(link);
-  if (!guard) return;
-  static constexpr const char* OnTable[] = {"addLink", "delete", "fitHeights", "", "addTables"};
-  static constexpr const char* OnLink[] = {"editLink", "delete", "", "addLink"};
-  static constexpr const char* OnArea[] = {
-      "addTables", "addLink",   "cancelLink",  "",       "undo",   "redo",    "",
-      "selectAll", "rearrange", "layOut",      "",       "zoomIn", "zoomOut", "zoomReset",
-      "zoomFit",   "",          "copyPicture", "export", "print",  "",        "fullScreen"};
-  QMenu menu(this);
-  const auto fill = [&](const auto& names) {
-    for (const char* name : names) {
-      if (*name) {
-        menu.addAction(GetAction(QLatin1String(name)));
-      } else {
-        menu.addSeparator();
-      }
+  const QPointer<TJStructDesignPanel> guard(this);
+  if (box && !box->GetChosen()) ChooseOnly(box);
+  if (box) SetActiveTable(box);
+  if (guard && link) SetActiveLink(link);
+  if (!guard || !FActive) return;
+  ShowMenu(box ? OnTable : link ? OnLink : "", byKey || !item ? OnArea : "", globalPos);
+}
+
+void TJStructDesignPanel::ShowMenu(const char* first, const char* second, QPoint globalPos) {
+  // A command may destroy the panel, and the menu with it.
+  auto* menu = new QMenu(FMaxPanel);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const char* names : {first, second}) {
+    if (!menu->isEmpty()) menu->addSeparator();
+    for (const QString& name : QString::fromLatin1(names).split(u' ', Qt::SkipEmptyParts)) {
+      QAction* action = GetAction(name);
+      if (action && !menu->actions().contains(action)) menu->addAction(action);
+      if (!action) menu->addSeparator();
     }
-  };
-  if (box) {
-    fill(OnTable);
-  } else if (link) {
-    fill(OnLink);
-  } else {
-    fill(OnArea);
   }
   ShowActions();
-  menu.exec(globalPos);
+  menu->popup(globalPos);
 }
 
 // Full screen
@@ -231,12 +239,13 @@ void TJStructDesignPanel::SetShowFullScreenButton(bool show) {
 void TJStructDesignPanel::PlaceMaxButton() {
   const int side = fontMetrics().height();
   FMaxButton->setIconSize(QSize(side, side));
-  FMaxButton->setIcon(SignIcon(GetFullScreenMode() ? sgRestore : sgFullScreen, *this));
-  FMaxButton->setToolTip(ToQString(SFullScreenMode.Text));
+  // The button shows what its action has.
+  FMaxButton->defaultAction()->setIcon(SignIcon(GetFullScreenMode() ? sgRestore : sgFullScreen, *this));
   FMaxButton->setAccessibleName(ToQString(SFullScreenMode.Text));
   FMaxButton->resize(FMaxButton->sizeHint());
   const QWidget* room = FDesignArea->viewport();
-  const int end = FDesignArea->isRightToLeft() ? 4 : room->width() - FMaxButton->width() - 4;
+  // Always at the right: boxes begin at the left, whichever way one reads.
+  const int end = room->width() - FMaxButton->width() - 4;
   FMaxButton->move(room->mapTo(FDesignArea, QPoint(end, 4)));
   FMaxButton->raise();
 }
@@ -247,6 +256,9 @@ void TJStructDesignPanel::SetFullScreenMode(bool on) {
     FMaxForm = new QWidget(this, Qt::Window);
     FMaxForm->setWindowTitle(QStringLiteral("Design panel full screen mode "));
     FMaxForm->installEventFilter(this);
+    // A window does not take these over by itself.
+    FMaxForm->setAttribute(Qt::WA_WindowPropagation);
+    FMaxForm->setLayoutDirection(layoutDirection());
     auto* rows = new QVBoxLayout(FMaxForm);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addWidget(FMaxPanel);

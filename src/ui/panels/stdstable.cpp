@@ -24,10 +24,13 @@ constexpr QColor KeyColor(0xb0, 0x80, 0x00), LinkedColor(0x20, 0x70, 0xd0);
 
 }  // namespace
 
-void TDesignStyle::Take(const QPalette& palette, const QFont& font) {
+void TDesignStyle::Take(const QPalette& palette, const QFont& font, Qt::LayoutDirection direction) {
   Palette = palette;
   Font = font;
-  const QFontMetrics metrics(font);
+  // Paper and pictures have other dots to the inch than the screen that the sizes come from.
+  Font.setPixelSize(std::max(1, QFontInfo(font).pixelSize()));
+  RightToLeft = direction == Qt::RightToLeft;
+  const QFontMetrics metrics(Font);
   TitleHeight = std::max(18, metrics.height() + 2);
   ItemHeight = metrics.height() + 1;
   MarkWidth = metrics.ascent() + 2;
@@ -170,7 +173,7 @@ TTableRep::THit TTableRep::HitAt(QPointF at) const {
   if (edges) return {bpEdge, 0, edges};
   if (at.y() < list.top()) return {bpTitle, 0, {}};
   const QRect thumb = ThumbRect();
-  if (!thumb.isNull() && at.x() >= thumb.left()) return {bpScrollBar, 0, {}};
+  if (!thumb.isNull() && at.x() >= thumb.left() && at.x() <= thumb.right() + 1) return {bpScrollBar, 0, {}};
   const auto row = static_cast<std::size_t>(std::max(0.0, at.y() - list.top()) / FStyle.ItemHeight);
   const std::size_t index = FFieldsLB.GetTopIndex() + row;
   if (!FFieldsLB.HasFields() || index >= FFieldsLB.Items().size()) return {bpList, 0, {}};
@@ -197,7 +200,13 @@ QRect TTableRep::ThumbRect() const {
   const double part = double(FFieldsLB.VisibleCount()) / double(FFieldsLB.Items().size());
   const int height = std::min(list.height(), std::max(MinThumb, int(list.height() * part)));
   const int above = int((list.height() - height) * double(FFieldsLB.GetTopIndex()) / double(most));
-  return {list.right() + 1 - ScrollBarWidth, list.top() + above, ScrollBarWidth, height};
+  return Mirrored({list.right() + 1 - ScrollBarWidth, list.top() + above, ScrollBarWidth, height});
+}
+
+/// A part of the box as it lies when one reads from left to right.
+QRect TTableRep::Mirrored(const QRect& part) const {
+  if (!FStyle.RightToLeft) return part;
+  return {FPlace.Width - part.left() - part.width(), part.top(), part.width(), part.height()};
 }
 
 void TTableRep::ListChanged() {
@@ -236,7 +245,8 @@ void TTableRep::PaintTitle(QPainter& painter) const {
   const QRect title(FrameWidth + TextAir, FrameWidth, FPlace.Width - 2 * (FrameWidth + TextAir), FStyle.TitleHeight);
   painter.setPen(FActive && !FStyle.ForExport ? Qt::white : Qt::black);
   const QString shown = QFontMetrics(FStyle.Font).elidedText(FTitle, Qt::ElideRight, title.width());
-  painter.drawText(title, Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine, shown);
+  const Qt::Alignment side = FStyle.RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+  painter.drawText(title, int(Qt::AlignVCenter | Qt::AlignAbsolute | side) | Qt::TextSingleLine, shown);
 }
 
 void TTableRep::PaintFields(QPainter& painter, bool withTexts) const {
@@ -253,7 +263,7 @@ void TTableRep::PaintFields(QPainter& painter, bool withTexts) const {
   painter.setClipRect(list, Qt::IntersectClip);
   int y = list.top();
   for (std::size_t i = FFieldsLB.GetTopIndex(); i < FFieldsLB.Items().size() && y <= list.bottom(); ++i) {
-    const QRect row(list.left(), y, right - list.left(), FStyle.ItemHeight);
+    const QRect row = Mirrored({list.left(), y, right - list.left(), FStyle.ItemHeight});
     const bool current = std::ptrdiff_t(i) == FFieldsLB.GetItemIndex() && !FStyle.ForExport;
     if (current) painter.fillRect(row, FStyle.Palette.color(QPalette::Highlight));
     QString& shown = FShown[i];
@@ -261,10 +271,11 @@ void TTableRep::PaintFields(QPainter& painter, bool withTexts) const {
       shown = metrics.elidedText(ToQString(FFieldsLB.Items()[i]), Qt::ElideRight, std::max(0, right - left - 1));
     }
     const QColor color = current ? FStyle.Palette.color(QPalette::HighlightedText) : plain;
-    PaintMark(painter, QRect(list.left(), y, FStyle.MarkWidth, FStyle.ItemHeight), FFieldsLB.GetMarks(i),
-              current ? FStyle.Palette.color(QPalette::Highlight) : back);
+    const QRect mark = Mirrored({list.left(), y, FStyle.MarkWidth, FStyle.ItemHeight});
+    PaintMark(painter, mark, FFieldsLB.GetMarks(i), current ? FStyle.Palette.color(QPalette::Highlight) : back);
     painter.setPen(color);
-    painter.drawText(QPoint(left, y + metrics.ascent()), shown);
+    const int at = FStyle.RightToLeft ? FPlace.Width - left - metrics.horizontalAdvance(shown) : left;
+    painter.drawText(QPoint(at, y + metrics.ascent()), shown);
     y += FStyle.ItemHeight;
   }
   if (!thumb.isNull()) {

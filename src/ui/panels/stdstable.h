@@ -30,8 +30,9 @@ struct TDesignStyle {
   int MarkWidth = 14;
   /// For pictures and paper: all texts are drawn, however small, and nothing that is selected stands out.
   bool ForExport = false;
+  bool RightToLeft = false;
 
-  void Take(const QPalette& palette, const QFont& font);
+  void Take(const QPalette& palette, const QFont& font, Qt::LayoutDirection direction);
 };
 
 /// The fields in a box, and how far they are scrolled. Indexes count from 0.
@@ -40,6 +41,10 @@ class TTableRepListBox final {
   enum TMark : std::uint8_t { mkNone = 0, mkKey = 1, mkLinked = 2 };
 
   explicit TTableRepListBox(TTableRep& box) : FBox(box) {}
+
+  /// The full name of the table whose fields these are.
+  const std::string& GetSource() const { return FSource; }
+  void SetSource(std::string_view fullName) { FSource = fullName; }
 
   /// With a message the list shows that text in place of fields.
   void SetItems(const TStrings& names);
@@ -71,6 +76,7 @@ class TTableRepListBox final {
   void Mark(std::uint8_t mark, const std::vector<std::string>& names);
 
   TTableRep& FBox;
+  std::string FSource;
   std::vector<std::string> FItems;
   std::vector<std::uint8_t> FMarks;
   std::size_t FTopIndex = 0;
@@ -138,6 +144,7 @@ class TTableRep final : public QGraphicsItem {
 
   QRect ListRect() const;
   QRect ThumbRect() const;
+  QRect Mirrored(const QRect& part) const;
   void ListChanged();
   void PaintTitle(QPainter& painter) const;
   void PaintFields(QPainter& painter, bool withTexts) const;
