@@ -4,7 +4,6 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -64,26 +63,6 @@ void THostWindow::Open() {
   if (!QTest::qWaitForWindowActive(this)) throw EException("the window cannot be opened");
   FConditions->setFocus();
   QCoreApplication::processEvents();
-}
-
-QImage THostWindow::GetPicture() {
-  QCoreApplication::processEvents();
-  QWidgetList seen;
-  QRect all = rect();
-  for (QWidget* other : QApplication::topLevelWidgets()) {
-    if (other == this || !other->isVisible() || other->windowType() == Qt::ToolTip) continue;
-    seen << other;
-    all |= QRect(mapFromGlobal(other->mapToGlobal(QPoint())), other->size());
-  }
-  const double ratio = devicePixelRatioF();
-  QImage picture(all.size() * ratio, QImage::Format_RGB32);
-  picture.setDevicePixelRatio(ratio);
-  picture.fill(palette().color(QPalette::Window));
-  QPainter painter(&picture);
-  painter.drawPixmap(-all.topLeft(), grab());
-  for (QWidget* other : seen)
-    painter.drawPixmap(mapFromGlobal(other->mapToGlobal(QPoint())) - all.topLeft(), other->grab());
-  return picture;
 }
 
 }  // namespace tolvi

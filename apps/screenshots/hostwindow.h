@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QImage>
 #include <QWidget>
 #include <string>
 
@@ -33,8 +32,6 @@ class THostWindow final : public QWidget {
 
   /// Shows the window and makes it the active one.
   void Open();
-  /// What is seen of it, with the lists and menus that are open.
-  QImage GetPicture();
 
  private:
   void ShowStatement();

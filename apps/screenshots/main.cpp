@@ -1,15 +1,18 @@
-// The pictures of the documentation: plays the session of an end user and keeps what is seen along the way.
-//   tolvi_screenshots FOLDER         the pictures of docs/
-//   tolvi_screenshots --all FOLDER   every station: small and large fonts, light and dark, mirrored in Arabic
-//   tolvi_screenshots --commands     prints the table of commands of docs/ui.md
+// The pictures of the documentation: plays the sessions of an end user and of a developer and keeps what is seen along
+// the way.
+//   tolvi_screenshots FOLDER             the pictures of docs/
+//   tolvi_screenshots --all FOLDER       every station: small and large fonts, light and dark, mirrored
+//   tolvi_screenshots --designer FOLDER  the same, of the developer's session only
+//   tolvi_screenshots --commands         prints the table of commands of docs/ui.md
 #include <QApplication>
 #include <QDir>
-#include <QHash>
-#include <algorithm>
+#include <QTemporaryDir>
 #include <cstdio>
 #include <functional>
 #include <set>
 
+#include "apps/screenshots/designsession.h"
+#include "apps/screenshots/looks.h"
 #include "apps/screenshots/session.h"
 #include <tolvi/foundation/errors.h>
 #include <tolvi/panel/rfldeditor.h>
@@ -20,62 +23,21 @@ using namespace tolvi;
 
 namespace {
 
-/// How the window looks while a session is played.
-struct TLook {
-  std::string Name;
-  int FontSize = 10;
-  bool IsDark = false, IsArabic = false;
-};
-
 /// The looks and stations that the documentation shows; the rest is left out.
-const std::set<std::string> documented{"keys-start",          "keys-field",     "keys-mistake",   "keys-linkword",
-                                       "keys-sorting",        "mouse-menu",     "mouse-operator", "mouse-rowmenu",
-                                       "mouse-drag",          "mouse-finished", "mouse-editor",   "dark-keys-finished",
-                                       "arabic-keys-finished"};
+const std::set<std::string> documented{
+    "keys-start",           "keys-field",           "keys-mistake",          "keys-linkword",
+    "keys-sorting",         "mouse-menu",           "mouse-operator",        "mouse-rowmenu",
+    "mouse-drag",           "mouse-finished",       "mouse-editor",          "dark-keys-finished",
+    "arabic-keys-finished", "designer-fill-tables", "designer-fill-fields",  "designer-tables",
+    "designer-link",        "designer-fields",      "designer-value-editor", "designer-expression",
+    "designer-operators",   "designer-conditions",  "designer-diagram",      "designer-try",
+    "dark-designer-diagram"};
 
-QPalette DarkPalette() {
-  QPalette palette;
-  const std::pair<QPalette::ColorRole, QColor> colors[] = {{QPalette::Window, {45, 47, 51}},
-                                                           {QPalette::WindowText, {230, 230, 230}},
-                                                           {QPalette::Base, {30, 31, 34}},
-                                                           {QPalette::AlternateBase, {45, 47, 51}},
-                                                           {QPalette::Text, {230, 230, 230}},
-                                                           {QPalette::PlaceholderText, {150, 150, 150}},
-                                                           {QPalette::Button, {60, 63, 68}},
-                                                           {QPalette::ButtonText, {230, 230, 230}},
-                                                           {QPalette::Highlight, {52, 110, 190}},
-                                                           {QPalette::HighlightedText, Qt::white},
-                                                           {QPalette::Link, {110, 170, 255}},
-                                                           {QPalette::ToolTipBase, {60, 63, 68}},
-                                                           {QPalette::ToolTipText, {230, 230, 230}},
-                                                           {QPalette::Light, {80, 83, 88}},
-                                                           {QPalette::Mid, {50, 52, 56}},
-                                                           {QPalette::Dark, {25, 26, 28}}};
-  for (const auto& [role, color] : colors) palette.setColor(role, color);
-  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
-  }
-  return palette;
-}
-
-void Apply(const TLook& look) {
-  static const QPalette light = QApplication::palette();
-  QApplication::setPalette(look.IsDark ? DarkPalette() : light);
-  QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), look.FontSize));
-  QApplication::setLayoutDirection(look.IsArabic ? Qt::RightToLeft : Qt::LeftToRight);
-}
-
-/// Few colours make up nearly all of a picture; the shades of letters that are left over get the nearest of them.
-QImage Reduced(const QImage& picture) {
-  QHash<QRgb, int> counts;
-  for (int y = 0; y < picture.height(); ++y) {
-    const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-    for (int x = 0; x < picture.width(); ++x) ++counts[line[x]];
-  }
-  QList<QRgb> colors = counts.keys();
-  std::sort(colors.begin(), colors.end(),
-            [&](QRgb a, QRgb b) { return std::pair(counts[b], a) < std::pair(counts[a], b); });
-  return picture.convertToFormat(QImage::Format_Indexed8, colors.mid(0, 256), Qt::ThresholdDither | Qt::AvoidDither);
+/// Keeps the picture of a station in the folder, if it is wanted.
+void Save(const std::string& name, const QString& folder, bool all, const std::function<QImage()>& picture) {
+  if (!all && documented.count(name) == 0) return;
+  const QString file = QDir(folder).filePath(ToQString(name) + QStringLiteral(".png"));
+  if (!Reduced(picture()).save(file, "PNG", 0)) throw EException("cannot write " + FromQString(file));
 }
 
 /// The dialog on the columns of the window, with one more: a formula over two fields.
@@ -95,7 +57,7 @@ QImage EditorPicture(THostWindow& window, const THostTexts& texts) {
 std::string Play(const TLook& look, bool byKeys, const QString& folder, bool all) {
   Apply(look);
   THostTexts texts;
-  if (look.IsArabic) {
+  if (look.IsMirrored) {
     texts = {QStringLiteral("الشروط"), QStringLiteral("الأعمدة"), QStringLiteral("جملة SQL"), {}};
     texts.Titles.LoadFromFile(TOLVI_SOURCE_DIR "/translations/ar.titles");
   }
@@ -105,12 +67,9 @@ std::string Play(const TLook& look, bool byKeys, const QString& folder, bool all
   window.Open();
   const std::string prefix = look.Name + (byKeys ? "keys-" : "mouse-");
   const auto save = [&](const std::string& station, const std::function<QImage()>& picture) {
-    const std::string name = prefix + station;
-    if (!all && documented.count(name) == 0) return;
-    const QString file = QDir(folder).filePath(ToQString(name) + QStringLiteral(".png"));
-    if (!Reduced(picture()).save(file, "PNG", 0)) throw EException("cannot write " + FromQString(file));
+    Save(prefix + station, folder, all, picture);
   };
-  const auto keep = [&](const std::string& station) { save(station, [&window] { return window.GetPicture(); }); };
+  const auto keep = [&](const std::string& station) { save(station, [&window] { return PictureOf(window); }); };
   byKeys ? PlayByKeys(window, keep) : PlayByMouse(window, keep);
   if (!byKeys) save("editor", [&] { return EditorPicture(window, texts); });
   return window.GetStatement();
@@ -130,8 +89,20 @@ std::vector<TLook> Looks(bool all) {
   return looks;
 }
 
-int PlayAll(const QString& folder, bool all) {
-  if (!QDir().mkpath(folder)) throw EException("cannot make the folder " + FromQString(folder));
+void PlayDesigns(const QString& folder, bool all) {
+  std::vector<TLook> looks{{""}, {"dark-", 10, true}};
+  if (all) looks.insert(looks.end(), {{"mirrored-", 10, false, true}, {"8-dark-", 8, true}, {"14-", 14}});
+  for (const TLook& look : looks) {
+    Apply(look);
+    const QTemporaryDir files;
+    TDesignHost host(TOLVI_SHOP_DATABASE);
+    PlayDesign(host, files.filePath(QStringLiteral("shop.model")), [&](const std::string& station, QWidget& window) {
+      Save(look.Name + "designer-" + station, folder, all, [&window] { return PictureOf(window); });
+    });
+  }
+}
+
+int PlayQueries(const QString& folder, bool all) {
   std::string expected;
   for (const TLook& look : Looks(all)) {
     for (const bool byKeys : {true, false}) {
@@ -166,9 +137,14 @@ int main(int argc, char** argv) try {
     std::fputs(CommandTable().c_str(), stdout);
     return 0;
   }
-  const bool all = arguments.size() == 2 && arguments.first() == QStringLiteral("--all");
-  if (!all && arguments.size() != 1) throw EException("usage: tolvi_screenshots [--all] FOLDER | --commands");
-  return PlayAll(arguments.last(), all);
+  const bool onlyDesigner = arguments.size() == 2 && arguments.first() == QStringLiteral("--designer");
+  const bool all = onlyDesigner || (arguments.size() == 2 && arguments.first() == QStringLiteral("--all"));
+  if (!all && arguments.size() != 1)
+    throw EException("usage: tolvi_screenshots [--all | --designer] FOLDER | --commands");
+  const QString folder = arguments.last();
+  if (!QDir().mkpath(folder)) throw EException("cannot make the folder " + FromQString(folder));
+  PlayDesigns(folder, all);
+  return onlyDesigner ? 0 : PlayQueries(folder, all);
 } catch (const std::exception& error) {
   std::fprintf(stderr, "tolvi_screenshots: %s\n", error.what());
   return 1;

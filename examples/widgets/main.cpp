@@ -1,12 +1,14 @@
 // A window with the panels of conditions and of result columns, and below them the statement that they make:
 //   widgets samples/shop/shop.model samples/shop/queries/11-orders-to-look-at.qry [--sql]
-// With --sql, the statement is printed and the program ends.
+// A button opens the model in the model editor. With --sql, the statement is printed and the program ends.
 #include <QApplication>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSplitter>
 #include <cstdio>
 
 #include <tolvi/query/querpnl.h>
+#include <tolvi/ui/dialogs/modeldlg.h>
 #include <tolvi/ui/panels/querpnlview.h>
 #include <tolvi/ui/panels/rfldpnl.h>
 
@@ -47,6 +49,11 @@ int main(int argc, char** argv) try {
     showStatement();
   };
   showStatement();
+  model.SetDMEButtons({dmbOpenSave});
+  auto* edit = new QPushButton(QStringLiteral("Edit model..."), &window);
+  QObject::connect(edit, &QPushButton::clicked, &window, [&] {
+    if (EditModel(&window, model)) showStatement();
+  });
 
   window.resize(900, 700);
   window.show();
