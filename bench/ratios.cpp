@@ -42,7 +42,8 @@ void operator delete(void* block, std::size_t) noexcept { operator delete(block)
 namespace tolvi::bench {
 namespace {
 
-/// Keeps the least processor time of each benchmark: the run least disturbed.
+/// Keeps the least processor time of each benchmark, the run least disturbed: by its name and, where it has arguments,
+/// by "name/argument", too.
 class TCollector final : public benchmark::ConsoleReporter {
  public:
   TCollector() : ConsoleReporter(OO_None) {}
@@ -50,12 +51,18 @@ class TCollector final : public benchmark::ConsoleReporter {
     for (const Run& run : runs) {
       if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
       const double time = run.cpu_accumulated_time / static_cast<double>(run.iterations);
-      const auto [place, isNew] = Times.try_emplace(run.run_name.function_name, time);
-      if (!isNew) place->second = std::min(place->second, time);
+      Take(run.run_name.function_name, time);
+      if (!run.run_name.args.empty()) Take(run.run_name.function_name + "/" + run.run_name.args, time);
     }
     ConsoleReporter::ReportRuns(runs);
   }
   std::map<std::string, double, std::less<>> Times;
+
+ private:
+  void Take(const std::string& name, double time) {
+    const auto [place, isNew] = Times.try_emplace(name, time);
+    if (!isNew) place->second = std::min(place->second, time);
+  }
 };
 
 }  // namespace

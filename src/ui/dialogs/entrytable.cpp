@@ -138,7 +138,8 @@ void TEntryTable::keyPressEvent(QKeyEvent* event) {
   if (isAlt && event->key() == Qt::Key_Down) return Step(1);
   // Enter edits the cell, and chooses no button of the dialog.
   if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid()) {
-    edit(currentIndex());
+    // The Enter that ends an edit comes here, too.
+    if (state() != EditingState) edit(currentIndex());
     return;
   }
   QTableWidget::keyPressEvent(event);

@@ -121,6 +121,9 @@ void T_dlgModelEdit::BuildPages() {
     FPages->addTab(page, tr(kind.Caption));
   }
   connect(FPages, &QTabWidget::currentChanged, this, &T_dlgModelEdit::PageShown);
+  // A click goes to the page, where its keys are; arrow keys stay on the captions.
+  connect(
+      FPages, &QTabWidget::tabBarClicked, this, [this] { CurrentPage()->setFocus(); }, Qt::QueuedConnection);
 }
 
 void T_dlgModelEdit::BuildPanes() {
@@ -196,6 +199,7 @@ void T_dlgModelEdit::BuildActions() {
     connect(action, &QAction::toggled, this, [this, pane = pane](bool on) {
       CommitEdits();
       pane->setVisible(on);
+      if (on && pane == FTryPane) GiveRoomToTry();
       Refresh();
       if (on && pane == FCheckPane && isVisible()) pane->setFocus();
     });
@@ -203,6 +207,13 @@ void T_dlgModelEdit::BuildActions() {
   if (FOriginal->OnSEHelpClick || !FCopy.GetHelpFileName().empty()) {
     AddAction({QT_TR_NOOP("Help"), {Qt::Key_F1}, &T_dlgModelEdit::Help});
   }
+}
+
+/// At first two fifths of the width; later what the user gave it.
+void T_dlgModelEdit::GiveRoomToTry() {
+  if (std::exchange(FTryHasRoom, true)) return;
+  const int width = FColumns->width();
+  FColumns->setSizes({width * 3 / 5, width * 2 / 5});
 }
 
 void T_dlgModelEdit::BuildButtons() {
@@ -298,6 +309,7 @@ void T_dlgModelEdit::RestorePlaces() {
       splitter->restoreState(places.value(QStringLiteral("splitters/") + splitter->objectName()).toByteArray());
     }
   }
+  FTryHasRoom = places.value(QStringLiteral("panes/Try")).toBool();
   for (QAction* action : findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly)) {
     if (action->isCheckable()) {
       action->setChecked(places.value(QStringLiteral("panes/") + action->objectName()).toBool());

@@ -69,6 +69,7 @@ class T_dlgModelEdit final : public QDialog {
   void BuildPages();
   void BuildPanes();
   void BuildButtons();
+  void GiveRoomToTry();
   TModelPage* CurrentPage() const;
   void CommitEdits();
   void PageShown();
@@ -106,6 +107,7 @@ class T_dlgModelEdit final : public QDialog {
   TModelCheckPane* FCheckPane;
   QAction *FUndo = nullptr, *FRedo = nullptr;
   QString FFile;
+  bool FTryHasRoom = false;
 };
 
 /// Lets the developer edit the model. Whether OK was chosen; the model then has the new content, in one change, if that
