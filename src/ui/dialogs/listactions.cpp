@@ -75,4 +75,19 @@ QLineEdit* MakeSearchLine(QAbstractItemView& list, const QString& accessibleName
   return line;
 }
 
+void SelectRows(QAbstractItemView& list, const std::vector<int>& rows) {
+  QItemSelection selection;
+  QModelIndex first;
+  for (const int row : rows) {
+    if (row < 0) continue;
+    const QModelIndex index = list.model()->index(row, 0);
+    if (!first.isValid()) first = index;
+    selection.select(index, index);
+  }
+  QItemSelectionModel& model = *list.selectionModel();
+  model.setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+  model.select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  if (first.isValid()) list.scrollTo(first);
+}
+
 }  // namespace tolvi

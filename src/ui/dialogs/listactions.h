@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <vector>
 
 #include <tolvi/ui/dialogs/signicon.h>
 class QAbstractItemView;
@@ -22,5 +23,9 @@ QAction* AddListAction(QAbstractItemView& list, QBoxLayout& row, const QString& 
 /// A line above a list in which one types what is sought in it. Keys: Ctrl+F in the parent goes to it, Up, Down and
 /// Enter from it to the list, Escape empties it.
 QLineEdit* MakeSearchLine(QAbstractItemView& list, const QString& accessibleName, QWidget& parent);
+
+/// Selects these rows, and no others; the first becomes the current one and is brought into view. Negative ones do not
+/// count.
+void SelectRows(QAbstractItemView& list, const std::vector<int>& rows);
 
 }  // namespace tolvi

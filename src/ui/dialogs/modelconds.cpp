@@ -5,7 +5,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollArea>
-#include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -40,21 +39,11 @@ QString TablesOf(const TJCustomDBStructure& model, std::string_view sql) {
 }  // namespace
 
 TConditionsPage::TConditionsPage(TModelEditor& editor, QWidget* parent) : TModelPage(editor, parent) {
-  auto* splitter = new QSplitter(this);
-  splitter->setObjectName(QStringLiteral("Conditions"));
-  splitter->setChildrenCollapsible(false);
   FList = new TPartList(tr("Predefined conditions"), {tr("Display format"), tr("SQL")}, this);
   FList->OnSelect = [this] { ShowCurrent(); };
   FList->AddAction(tr("New condition"), sgNew, Qt::CTRL | Qt::Key_N, false, [this] { Add(); });
   FList->AddAction(tr("Delete"), sgDelete, Qt::Key_Delete, true, [this] { Delete(); });
-  splitter->addWidget(FList);
-  splitter->addWidget(Scrolled(MakeForm(), splitter));
-  // In proportion; the list has what it needs for its names.
-  splitter->setSizes({2000, 3000});
-  splitter->setStretchFactor(0, 2);
-  splitter->setStretchFactor(1, 3);
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(splitter);
+  ShowParts("Conditions", *FList, *Scrolled(MakeForm(), this), 2, 3);
   FSampleTimer.setSingleShot(true);
   FSampleTimer.setInterval(0);
   connect(&FSampleTimer, &QTimer::timeout, this, &TConditionsPage::ShowSample);

@@ -2,7 +2,6 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollArea>
-#include <QSplitter>
 #include <QTabWidget>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -41,16 +40,8 @@ class TFieldsTree final : public QTreeView {
 }  // namespace
 
 TEntitiesPage::TEntitiesPage(TModelEditor& editor, QWidget* parent) : TModelPage(editor, parent) {
-  auto* splitter = new QSplitter(this);
-  splitter->setObjectName(QStringLiteral("Entities"));
-  splitter->setChildrenCollapsible(false);
-  splitter->setHandleWidth(fontMetrics().averageCharWidth());
-  splitter->addWidget(MakeTree());
-  splitter->addWidget(MakeForms());
-  splitter->setStretchFactor(0, 1);
-  splitter->setStretchFactor(1, 1);
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(splitter);
+  QWidget* tree = MakeTree();
+  ShowParts("Entities", *tree, *MakeForms(), 1, 1);
   setFocusProxy(FTree);
   ShowCurrent();
 }

@@ -7,7 +7,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <iterator>
@@ -63,22 +62,12 @@ const TOperatorsPage::TText TOperatorsPage::Texts[] = {
 };
 
 TOperatorsPage::TOperatorsPage(TModelEditor& editor, QWidget* parent) : TModelPage(editor, parent) {
-  auto* splitter = new QSplitter(this);
-  splitter->setObjectName(QStringLiteral("Operators"));
-  splitter->setChildrenCollapsible(false);
-  auto* left = new QWidget(splitter);
+  auto* left = new QWidget(this);
   auto* column = new QVBoxLayout(left);
   column->setContentsMargins({});
   column->addWidget(MakeList(), 1);
   column->addWidget(MakeGroups());
-  splitter->addWidget(left);
-  splitter->addWidget(Scrolled(MakeForm(), splitter));
-  // In proportion; the list has what it needs for its names.
-  splitter->setSizes({2000, 3000});
-  splitter->setStretchFactor(0, 2);
-  splitter->setStretchFactor(1, 3);
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(splitter);
+  ShowParts("Operators", *left, *Scrolled(MakeForm(), this), 2, 3);
   FSampleTimer.setSingleShot(true);
   FSampleTimer.setInterval(0);
   connect(&FSampleTimer, &QTimer::timeout, this, &TOperatorsPage::ShowSample);

@@ -1,4 +1,6 @@
 #include <QPointer>
+#include <QSplitter>
+#include <QVBoxLayout>
 #include <exception>
 
 #include <tolvi/foundation/consts.h>
@@ -8,6 +10,21 @@
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
+
+void TModelPage::ShowParts(const char* name, QWidget& list, QWidget& form, int listShare, int formShare) {
+  auto* splitter = new QSplitter(this);
+  splitter->setObjectName(QLatin1String(name));
+  splitter->setChildrenCollapsible(false);
+  splitter->setHandleWidth(fontMetrics().averageCharWidth());
+  splitter->addWidget(&list);
+  splitter->addWidget(&form);
+  // In proportion; both have at least what they need.
+  splitter->setSizes({1000 * listShare, 1000 * formShare});
+  splitter->setStretchFactor(0, listShare);
+  splitter->setStretchFactor(1, formShare);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(splitter);
+}
 
 bool TModelPage::Edit(const QString& name, const std::function<void()>& edit) {
   const QPointer<TModelPage> alive(this);

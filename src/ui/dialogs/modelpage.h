@@ -29,6 +29,9 @@ class TModelPage : public QWidget {
   virtual bool GoTo(std::string_view) { return false; }
 
  protected:
+  /// Fills the page with a list and, beside it, what it shows of the part selected; their widths are as these shares.
+  /// By the name the place of what divides them is kept.
+  void ShowParts(const char* name, QWidget& list, QWidget& form, int listShare, int formShare);
   TModelEditor& Editor() const { return FEditor; }
   /// An edit of the editor's; what it raises is told in a message box. Whether anything changed.
   bool Edit(const QString& name, const std::function<void()>& edit);

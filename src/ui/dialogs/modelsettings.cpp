@@ -155,8 +155,8 @@ T_dlgModelSettings::T_dlgModelSettings(const TJCustomDBStructure& model, QWidget
   sample->addWidget(sampleLabel);
   sample->addWidget(FSample, 1);
   auto* columns = new QHBoxLayout;
-  columns->addWidget(tabs, 1);
-  columns->addLayout(sample, 1);
+  columns->addWidget(tabs, 3);
+  columns->addLayout(sample, 2);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(columns, 1);
   layout->addWidget(buttons);
@@ -182,7 +182,7 @@ T_dlgModelSettings::T_dlgModelSettings(const TJCustomDBStructure& model, QWidget
     FMainTable->setFocus();
   }
   const QSize wanted =
-      sizeHint().expandedTo(QSize(110 * fontMetrics().averageCharWidth(), 34 * fontMetrics().height()));
+      sizeHint().expandedTo(QSize(140 * fontMetrics().averageCharWidth(), 34 * fontMetrics().height()));
   resize(wanted.boundedTo(screen()->availableSize() * 0.9));
 }
 

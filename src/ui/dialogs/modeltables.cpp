@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
-#include <QSplitter>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -65,21 +64,13 @@ const TTablesPage::TText TTablesPage::Texts[] = {
 };
 
 TTablesPage::TTablesPage(TModelEditor& editor, QWidget* parent) : TModelPage(editor, parent) {
-  auto* splitter = new QSplitter(this);
-  splitter->setObjectName(QStringLiteral("Tables"));
-  splitter->setChildrenCollapsible(false);
-  splitter->setHandleWidth(fontMetrics().averageCharWidth());
-  splitter->addWidget(MakeList());
+  QWidget* list = MakeList();
   auto* right = new QWidget(this);
   auto* column = new QVBoxLayout(right);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(MakeForm());
   column->addWidget(MakeLinks(), 1);
-  splitter->addWidget(Scrolled(right, splitter));
-  splitter->setStretchFactor(0, 1);
-  splitter->setStretchFactor(1, 1);
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(splitter);
+  ShowParts("Tables", *list, *Scrolled(right, this), 1, 1);
   setFocusProxy(FTree);
   ShowCurrent();
 }
@@ -205,19 +196,9 @@ TDSTable* TTablesPage::Current() const {
 }
 
 void TTablesPage::Select(const std::vector<std::size_t>& tables) {
-  QItemSelection selection;
-  QModelIndex first;
-  for (const std::size_t table : tables) {
-    const int row = FModel->RowOfTable(table);
-    if (row < 0) continue;
-    const QModelIndex index = FModel->index(row, 0);
-    if (!first.isValid()) first = index;
-    selection.select(index, index);
-  }
-  QItemSelectionModel& model = *FTree->selectionModel();
-  model.setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-  model.select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  if (first.isValid()) FTree->scrollTo(first);
+  std::vector<int> rows;
+  for (const std::size_t table : tables) rows.push_back(FModel->RowOfTable(table));
+  SelectRows(*FTree, rows);
 }
 
 void TTablesPage::Refresh() {

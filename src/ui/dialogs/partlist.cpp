@@ -173,19 +173,9 @@ void TPartList::Select(const std::vector<std::size_t>& parts) {
 }
 
 void TPartList::SelectShown(const std::vector<std::size_t>& parts) {
-  QItemSelection selection;
-  QModelIndex first;
-  for (const std::size_t part : parts) {
-    const int row = FRows->RowOf(part);
-    if (row < 0) continue;
-    const QModelIndex index = FRows->index(row, 0);
-    if (!first.isValid()) first = index;
-    selection.select(index, index);
-  }
-  QItemSelectionModel& model = *FTree->selectionModel();
-  model.setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-  model.select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  if (first.isValid()) FTree->scrollTo(first);
+  std::vector<int> rows;
+  for (const std::size_t part : parts) rows.push_back(FRows->RowOf(part));
+  SelectRows(*FTree, rows);
 }
 
 void TPartList::ShowEnabled() {
