@@ -17,6 +17,15 @@ bool HasStoredPlace(const TDSTable& table) {
   return place.Width >= 1 && place.Height > 0;
 }
 
+TDesignRect StoredPlace(const TDSTable& table) {
+  const TDesignPositions& place = table.GetDesignPositions();
+  return {place.Left, place.Top, place.Width, place.Height};
+}
+
+void StorePlace(TDSTable& table, const TDesignRect& place) {
+  table.SetDesignPositions({place.Left, place.Top, place.Width, place.Height});
+}
+
 void PlaceNewTables(TJCustomDBStructure& model, const TArrangeSettings& settings) {
   std::vector<TDSTable*> added;
   int right = 0, bottom = 0;
@@ -25,7 +34,7 @@ void PlaceNewTables(TJCustomDBStructure& model, const TArrangeSettings& settings
       added.push_back(&table);
       continue;
     }
-    const TDesignPositions& place = table.GetDesignPositions();
+    const TDesignRect place = StoredPlace(table);
     right = std::max(right, place.Left + place.Width);
     bottom = std::max(bottom, place.Top + place.Height);
   }
@@ -36,7 +45,7 @@ void PlaceNewTables(TJCustomDBStructure& model, const TArrangeSettings& settings
   const std::vector<TDesignPoint> places = ArrangeTables(sizes, std::max(right + settings.XMargin, RowWidth), below);
   model.AsOneChange([&] {
     for (std::size_t i = 0; i < added.size(); ++i) {
-      added[i]->SetDesignPositions({places[i].X, places[i].Y, NewBoxSize.Width, NewBoxSize.Height});
+      StorePlace(*added[i], {places[i].X, places[i].Y, NewBoxSize.Width, NewBoxSize.Height});
     }
   });
 }

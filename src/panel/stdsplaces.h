@@ -13,6 +13,8 @@ inline constexpr TDesignSize NewBoxSize{110, 160};
 
 /// Whether the model holds a place for the table: a width of at least 1 and a height above 0.
 bool HasStoredPlace(const TDSTable& table);
+TDesignRect StoredPlace(const TDSTable& table);
+void StorePlace(TDSTable& table, const TDesignRect& place);
 
 /// Gives tables without a stored place one below those that have one, in rows. Does nothing when none has one: the
 /// designer then arranges all. For whoever adds tables to a model that has been arranged.

@@ -24,6 +24,7 @@
 #include <tolvi/panel/modeleditor.h>
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/controls/flatcheckbox.h>
+#include <tolvi/ui/controls/waitcursor.h>
 #include <tolvi/ui/dialogs/addtablesdlg.h>
 #include <tolvi/ui/dialogs/addtablesmodel.h>
 #include <tolvi/ui/dialogs/checkstyle.h>
@@ -33,14 +34,6 @@ namespace tolvi {
 namespace {
 
 constexpr qsizetype toldNotes = 3;
-
-/// While the catalogue is asked.
-struct TWaitCursor {
-  TWaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-  TWaitCursor(const TWaitCursor&) = delete;
-  TWaitCursor& operator=(const TWaitCursor&) = delete;
-  ~TWaitCursor() { QApplication::restoreOverrideCursor(); }
-};
 
 QLabel* LabelFor(QWidget& buddy, const QString& text) {
   auto* label = new QLabel(text, buddy.parentWidget());

@@ -16,21 +16,12 @@
 #include <tolvi/panel/fillwizard.h>
 #include <tolvi/panel/modeleditor.h>
 #include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/controls/waitcursor.h>
 #include <tolvi/ui/dialogs/filldlg.h>
 #include <tolvi/ui/dialogs/fillpages.h>
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
-namespace {
-
-struct TWaitCursor {
-  TWaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~TWaitCursor() { QApplication::restoreOverrideCursor(); }
-  TWaitCursor(const TWaitCursor&) = delete;
-  TWaitCursor& operator=(const TWaitCursor&) = delete;
-};
-
-}  // namespace
 
 T_dlgFill::T_dlgFill(TFillWizard& wizard, QWidget* parent)
     : QDialog(parent),

@@ -8,6 +8,7 @@
 #include <tolvi/panel/rfldrows.h>
 #include <tolvi/panel/titlefiles.h>
 #include <tolvi/query/rowerror.h>
+#include <tolvi/ui/controls/waitcursor.h>
 #include <tolvi/ui/dialogs/titlesdlg.h>
 #include <tolvi/ui/dialogs/valuelistdlg.h>
 #include <tolvi/ui/panels/linklabel.h>
@@ -321,13 +322,12 @@ void TJQueryPanelView::ToggleCollapsed(TFilterRow& bracket) {
 void TJQueryPanelView::FetchItems(TDSSQLEditor& editor, const std::function<void(const QString& fault)>& done) {
   if (const auto handler = OnFetchItems) return handler(*this, editor, done);
   QString fault;
-  QApplication::setOverrideCursor(Qt::WaitCursor);
   try {
+    const TWaitCursor wait;
     editor.SetOpened(true);
   } catch (const std::exception& error) {
     fault = QString::fromUtf8(error.what());
   }
-  QApplication::restoreOverrideCursor();
   done(fault);
 }
 

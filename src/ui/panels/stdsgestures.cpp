@@ -7,6 +7,7 @@
 
 #include <tolvi/model/link.h>
 #include <tolvi/model/table.h>
+#include <tolvi/panel/stdsplaces.h>
 #include <tolvi/ui/panels/stdsgestures.h>
 #include <tolvi/ui/panels/stdspnl.h>
 #include <tolvi/ui/qtext.h>
@@ -124,8 +125,7 @@ bool TDesignGestures::Press(const QMouseEvent& event) {
 }
 
 bool TDesignGestures::PressBox(TTableRep& box, const QMouseEvent& event) {
-  const TTableRep::THit hit =
-      box.HitAt(QPointF(FStartContent.X - box.GetPlace().Left, FStartContent.Y - box.GetPlace().Top));
+  const TTableRep::THit hit = box.HitAt(FStartContent);
   const QPointer<TJStructDesignPanel> guard(&FPanel);
   FPanel.SetActiveTable(&box);
   if (!guard || !IsHere(&box)) return true;
@@ -178,7 +178,7 @@ void TDesignGestures::MoveBy(int dx, int dy) {
       place.Left += dx;
       place.Top += dy;
       box->SetPlace(place);
-      box->GetTable().SetDesignPositions({place.Left, place.Top, place.Width, place.Height});
+      StorePlace(box->GetTable(), place);
     }
   });
 }
@@ -208,8 +208,7 @@ bool TDesignGestures::Move(const QMouseEvent& event) {
       } else {
         const auto& [box, start] = FStartPlaces.front();
         box->SetPlace(Resized(start, FEdges, dx, dy, box->MinSize()));
-        const TDesignRect& place = box->GetPlace();
-        box->GetTable().SetDesignPositions({place.Left, place.Top, place.Width, place.Height});
+        StorePlace(box->GetTable(), box->GetPlace());
       }
       if (!guard || !FPanel.GetActive()) return true;
       FPanel.ContentChanged();
@@ -262,8 +261,7 @@ void TDesignGestures::Hover(TDesignPoint point) {
   // Boxes hide the lines below them.
   TLinkRep* link = box ? nullptr : IsOverSomeLink(FPanel.GetLinksRep(), point);
   FPanel.SetCurrentLink(link);
-  const TTableRep::THit hit =
-      box ? box->HitAt(QPointF(point.X - box->GetPlace().Left, point.Y - box->GetPlace().Top)) : TTableRep::THit();
+  const TTableRep::THit hit = box ? box->HitAt(point) : TTableRep::THit();
   if (box && hit.Part == TTableRep::bpEdge) {
     area.viewport()->setCursor(CursorOf(hit.Edges));
   } else if (link) {
@@ -272,18 +270,13 @@ void TDesignGestures::Hover(TDesignPoint point) {
     area.viewport()->unsetCursor();
   }
   FPanel.ShowHint(link ? dtLink : IsOverSomeTable(FPanel.GetTablesRep(), point) ? dtTable : dtNothing);
-  ShowToolTip(point);
-}
-
-void TDesignGestures::ShowToolTip(TDesignPoint point) {
   QString text;
-  if (const TTableRep* box = BoxAt(point)) {
-    const TTableRep::THit hit = box->HitAt(QPointF(point.X - box->GetPlace().Left, point.Y - box->GetPlace().Top));
+  if (box) {
     text = hit.Part == TTableRep::bpField ? ToQString(box->FieldsLB().Items()[hit.Field]) : box->GetTitle();
-  } else if (const TLinkRep* link = FPanel.GetCurrentLink()) {
+  } else if (link) {
     text = ToQString(link->GetLink().GetDisplayName());
   }
-  FPanel.DesignArea().viewport()->setToolTip(text.toHtmlEscaped());
+  area.viewport()->setToolTip(text.toHtmlEscaped());
 }
 
 bool TDesignGestures::Release(const QMouseEvent& event) {
@@ -304,13 +297,12 @@ bool TDesignGestures::Release(const QMouseEvent& event) {
   if (ended == gsField && box && box == pressed) {
     if (const TTableRep::TBoxEvent click = box->OnFieldClick) click(*box);
   } else if (ended == gsDragField) {
-    if (!box ||
-        box->HitAt(QPointF(point.X - box->GetPlace().Left, point.Y - box->GetPlace().Top)).Part != TTableRep::bpField) {
+    const TTableRep::THit hit = box ? box->HitAt(point) : TTableRep::THit();
+    if (hit.Part != TTableRep::bpField) {
       FPanel.CancelAddLink();
       return true;
     }
-    box->FieldsLB().SetItemIndex(static_cast<std::ptrdiff_t>(
-        box->HitAt(QPointF(point.X - box->GetPlace().Left, point.Y - box->GetPlace().Top)).Field));
+    box->FieldsLB().SetItemIndex(static_cast<std::ptrdiff_t>(hit.Field));
     if (const TTableRep::TBoxEvent click = box->OnFieldClick) click(*box);
   }
   return true;
@@ -333,7 +325,7 @@ bool TDesignGestures::DoubleClick(const QMouseEvent& event) {
   if (!FPanel.GetActive() || FPanel.GetAddLinkStage() != alsIdle) return false;
   const TDesignPoint point = FPanel.DesignArea().ToContent(event.pos());
   if (TTableRep* box = BoxAt(point)) {
-    const TTableRep::THit hit = box->HitAt(QPointF(point.X - box->GetPlace().Left, point.Y - box->GetPlace().Top));
+    const TTableRep::THit hit = box->HitAt(point);
     if (hit.Part == TTableRep::bpTitle) FPanel.FitHeights();
   } else if (FPanel.GetCurrentLink()) {
     const QPointer<TJStructDesignPanel> guard(&FPanel);

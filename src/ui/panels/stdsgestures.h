@@ -68,7 +68,6 @@ class TDesignGestures final : public QObject {
   bool IsHere(const TTableRep* box) const;
   void MoveBy(int dx, int dy);
   void Hover(TDesignPoint point);
-  void ShowToolTip(TDesignPoint point);
   void DragField(const QMouseEvent& event);
   void ChooseInBand(const QRect& inViewport);
   bool ArrowKey(const QKeyEvent& event);

@@ -17,6 +17,14 @@ bool IsModifier(int key) {
          key == Qt::Key_AltGr;
 }
 
+/// The entry behind or before that one, round the ends; the first one when it is none. The list is not empty.
+template <typename T>
+T& NextOf(const TJObjectList<T>& list, const T* entry, bool forward) {
+  const auto count = static_cast<std::ptrdiff_t>(list.Count());
+  const std::ptrdiff_t at = list.IndexOf(entry);
+  return list[static_cast<std::size_t>(at < 0 ? 0 : (at + (forward ? 1 : count - 1)) % count)];
+}
+
 }  // namespace
 
 bool TDesignGestures::Key(QKeyEvent& event) {
@@ -173,10 +181,7 @@ bool TDesignGestures::eventFilter(QObject* watched, QEvent* event) {
 void TDesignGestures::NextBox(bool forward) {
   const TTableRepList& boxes = FPanel.GetTablesRep();
   if (boxes.Empty()) return;
-  const auto count = static_cast<std::ptrdiff_t>(boxes.Count());
-  const std::ptrdiff_t at = boxes.IndexOf(FPanel.GetActiveTable());
-  const std::ptrdiff_t next = at < 0 ? 0 : (at + (forward ? 1 : count - 1)) % count;
-  TTableRep& box = boxes[static_cast<std::size_t>(next)];
+  TTableRep& box = NextOf(boxes, FPanel.GetActiveTable(), forward);
   FPanel.ChooseOnly(&box);
   FPanel.DesignArea().BringIntoView(box.boundingRect().translated(box.pos()));
   FPanel.SetActiveTable(&box);
@@ -185,10 +190,7 @@ void TDesignGestures::NextBox(bool forward) {
 void TDesignGestures::NextLink(bool forward) {
   const TLinkRepList& links = FPanel.GetLinksRep();
   if (links.Empty()) return;
-  const auto count = static_cast<std::ptrdiff_t>(links.Count());
-  const std::ptrdiff_t at = links.IndexOf(FPanel.GetActiveLink());
-  const std::ptrdiff_t next = at < 0 ? 0 : (at + (forward ? 1 : count - 1)) % count;
-  TLinkRep& link = links[static_cast<std::size_t>(next)];
+  TLinkRep& link = NextOf(links, FPanel.GetActiveLink(), forward);
   FPanel.DesignArea().BringIntoView(link.boundingRect());
   FPanel.SetActiveLink(&link);
 }

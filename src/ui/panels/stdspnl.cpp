@@ -198,10 +198,7 @@ void TJStructDesignPanel::CancelStep() {
 void TJStructDesignPanel::StorePlaces() {
   StopAnimation();
   FDBStruct->AsOneChange([&] {
-    for (TTableRep& box : FTablesRep) {
-      const TDesignRect& place = box.GetPlace();
-      box.GetTable().SetDesignPositions({place.Left, place.Top, place.Width, place.Height});
-    }
+    for (TTableRep& box : FTablesRep) StorePlace(box.GetTable(), box.GetPlace());
   });
 }
 
@@ -269,8 +266,7 @@ void TJStructDesignPanel::Sync() {
     }
     box->RefreshTitle();
     if (box->FieldsLB().GetSource() != table.GetFullName()) FillFieldsList(*box);
-    const TDesignPositions& place = table.GetDesignPositions();
-    if (HasStoredPlace(table)) box->SetPlace({place.Left, place.Top, place.Width, place.Height});
+    if (HasStoredPlace(table)) box->SetPlace(StoredPlace(table));
   }
   AddLinks();
   if (added && FAddLinkStage != alsIdle) BindFieldClicks();
@@ -325,20 +321,16 @@ void TJStructDesignPanel::ChooseOnly(TTableRep* box) {
   for (TTableRep& other : FTablesRep) other.SetChosen(&other == box);
 }
 
-void TJStructDesignPanel::Undo() {
-  if (!FActive || FAddLinkStage != alsIdle) return;
-  FGestures->Stop();
-  StopAnimation();
-  const THeldEvents held(*this);
-  Guarded([this] { FEditor->Undo(); });
-}
+void TJStructDesignPanel::Undo() { Step(&TModelEditor::Undo); }
 
-void TJStructDesignPanel::Redo() {
+void TJStructDesignPanel::Redo() { Step(&TModelEditor::Redo); }
+
+void TJStructDesignPanel::Step(void (TModelEditor::*step)()) {
   if (!FActive || FAddLinkStage != alsIdle) return;
   FGestures->Stop();
   StopAnimation();
   const THeldEvents held(*this);
-  Guarded([this] { FEditor->Redo(); });
+  Guarded([&] { (FEditor->*step)(); });
 }
 
 void TJStructDesignPanel::changeEvent(QEvent* event) {

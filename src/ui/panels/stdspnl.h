@@ -210,6 +210,7 @@ class TJStructDesignPanel final : public QFrame, private TDSListener {
   void Sync();
   void SyncWhenStale();
   void StorePlaces();
+  void Step(void (TModelEditor::*step)());
   void Guarded(const std::function<void()>& operation);
   // Events come when an operation is complete: their handlers may destroy the panel.
   class THeldEvents {

@@ -53,8 +53,7 @@ void TJStructDesignPanel::PlaceBoxes() {
     const auto unstored = FUnstored.find(table.GetTableAlias());
     isShown = isShown || FMemory.contains(table.GetTableAlias());
     if (HasStoredPlace(table)) {
-      const TDesignPositions& place = table.GetDesignPositions();
-      box.SetPlace({place.Left, place.Top, place.Width, place.Height});
+      box.SetPlace(StoredPlace(table));
       continue;
     }
     FDesignPositionsDefined = false;
@@ -297,8 +296,8 @@ void TJStructDesignPanel::GoTo(const std::vector<TDesignPoint>& places, const QS
   MoveBoxes(to, stepName);
   if (!guard || FTablesRep.Count() != places.size() || FTablesRep.Empty() || from.front().first != &FTablesRep[0])
     return;
-  const TTableRep* seen = FActiveTable ? FActiveTable : FTablesRep.Empty() ? nullptr : &FTablesRep[0];
-  if (seen) FDesignArea->centerOn(seen->sceneBoundingRect().center());
+  const TTableRep& seen = FActiveTable ? *FActiveTable : FTablesRep[0];
+  FDesignArea->centerOn(seen.sceneBoundingRect().center());
   const bool isAnimated = isVisible() && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
   if (!isAnimated) return;
   auto* animation = new QVariantAnimation(this);

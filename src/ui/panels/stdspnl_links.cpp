@@ -156,7 +156,6 @@ void TJStructDesignPanel::FirstFieldClick(TTableRep& box) {
   FNewDSLink->SetFields2(fields2);
   FNewDSLink->ApplyDefOperator();
   FNewLink = std::make_unique<TLinkRep>(*FNewDSLink, box, box, FStyle);
-  FNewLink->RecalcPositions();
   FDesignArea->scene()->addItem(FNewLink.get());
   FNewLink->MoveSecondEnd(FDesignArea->ToContent(FDesignArea->viewport()->mapFromGlobal(QCursor::pos())));
   FAddLinkStage = alsSelField2;

@@ -1,6 +1,4 @@
 // The structure designer: hints, commands and full screen.
-#include <QAccessible>
-#include <QActionGroup>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>

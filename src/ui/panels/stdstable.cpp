@@ -42,6 +42,7 @@ void TTableRepListBox::SetItems(const TStrings& names) {
   FMarks.assign(FItems.size(), mkNone);
   FItemIndex = -1;
   FHasFields = true;
+  FBox.FShown.clear();
   FBox.ListChanged();
 }
 
@@ -51,6 +52,7 @@ void TTableRepListBox::SetMessage(std::string_view message) {
   FMarks.assign(1, mkNone);
   FItemIndex = -1;
   FHasFields = false;
+  FBox.FShown.clear();
   FBox.ListChanged();
 }
 
@@ -133,7 +135,8 @@ void TTableRep::SetPlace(TDesignRect place) {
   place.Top = std::max(place.Top, 0);
   if (place == FPlace && pos() == QPointF(place.Left, place.Top)) return;
   prepareGeometryChange();
-  if (place.Width != FPlace.Width) FShown.clear();
+  // The height, too: with it the scroll bar comes and goes.
+  if (place.Width != FPlace.Width || place.Height != FPlace.Height) FShown.clear();
   FPlace = place;
   setPos(place.Left, place.Top);
   FFieldsLB.ClampTopIndex();
@@ -163,18 +166,19 @@ void TTableRep::SetChosen(bool chosen) {
   update();
 }
 
-TTableRep::THit TTableRep::HitAt(QPointF at) const {
+TTableRep::THit TTableRep::HitAt(TDesignPoint point) const {
+  const TDesignPoint at{point.X - FPlace.Left, point.Y - FPlace.Top};
   const QRect list = ListRect();
   Qt::Edges edges;
-  if (at.x() < FrameWidth) edges |= Qt::LeftEdge;
-  if (at.x() > FPlace.Width - EdgeReach) edges |= Qt::RightEdge;
-  if (at.y() < FrameWidth) edges |= Qt::TopEdge;
-  if (at.y() > FPlace.Height - EdgeReach) edges |= Qt::BottomEdge;
+  if (at.X < FrameWidth) edges |= Qt::LeftEdge;
+  if (at.X > FPlace.Width - EdgeReach) edges |= Qt::RightEdge;
+  if (at.Y < FrameWidth) edges |= Qt::TopEdge;
+  if (at.Y > FPlace.Height - EdgeReach) edges |= Qt::BottomEdge;
   if (edges) return {bpEdge, 0, edges};
-  if (at.y() < list.top()) return {bpTitle, 0, {}};
+  if (at.Y < list.top()) return {bpTitle, 0, {}};
   const QRect thumb = ThumbRect();
-  if (!thumb.isNull() && at.x() >= thumb.left() && at.x() <= thumb.right() + 1) return {bpScrollBar, 0, {}};
-  const auto row = static_cast<std::size_t>(std::max(0.0, at.y() - list.top()) / FStyle.ItemHeight);
+  if (!thumb.isNull() && at.X >= thumb.left() && at.X <= thumb.right() + 1) return {bpScrollBar, 0, {}};
+  const auto row = static_cast<std::size_t>(std::max(0, at.Y - list.top()) / FStyle.ItemHeight);
   const std::size_t index = FFieldsLB.GetTopIndex() + row;
   if (!FFieldsLB.HasFields() || index >= FFieldsLB.Items().size()) return {bpList, 0, {}};
   return {bpField, index, {}};
@@ -211,8 +215,6 @@ QRect TTableRep::Mirrored(const QRect& part) const {
 
 void TTableRep::ListChanged() {
   FFieldsLB.ClampTopIndex();
-  if (FShown.size() != FFieldsLB.Items().size()) FShown.clear();
-  FShown.assign(FFieldsLB.Items().size(), {});
   update();
   if (OnMove) OnMove(*this);
 }

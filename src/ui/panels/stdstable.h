@@ -131,8 +131,8 @@ class TTableRep final : public QGraphicsItem {
   /// The place, or what is seen of the fields, has changed.
   TBoxEvent OnMove;
 
-  /// `at` in co-ordinates of the box.
-  THit HitAt(QPointF at) const;
+  /// What is at the point of the content, which is one of the box.
+  THit HitAt(TDesignPoint point) const;
   /// The index to be the first item seen when the scroll bar's thumb is dragged to that height.
   std::ptrdiff_t TopIndexAt(double y) const;
 
