@@ -108,6 +108,7 @@ std::string ShownLink(const TSqlCatalogue& catalogue, const TSqlForeignKey& key)
 }
 
 TStrings ReadSchemaNames(const TSqlSession& session) {
+  if (session.Kind == dkODBC) return {};
   constexpr std::string_view Statements[] = {
       "SELECT name FROM pragma_database_list WHERE name <> 'temp' ORDER BY seq",
       "SELECT nspname FROM pg_catalog.pg_namespace WHERE left(nspname, 3) <> 'pg_' "
@@ -123,7 +124,7 @@ TStrings ReadSchemaNames(const TSqlSession& session) {
 
 TSqlCatalogue ReadCatalogue(const TSqlSession& session, std::string_view schema) {
   constexpr TSqlCatalogue (*Readers[])(const QSqlDatabase&, std::string_view) = {
-      ReadSQLiteCatalogue, ReadPostgreSQLCatalogue, ReadMySQLCatalogue};
+      ReadSQLiteCatalogue, ReadPostgreSQLCatalogue, ReadMySQLCatalogue, ReadOdbcCatalogue};
   return Readers[session.Kind](session.Database, schema);
 }
 

@@ -71,7 +71,7 @@ std::string ShownName(const TSqlTable& table);
 /// The join condition "Orders.CustNo = Customers.CustNo and ...". What is no plain word stands in double quotes.
 std::string ShownLink(const TSqlCatalogue& catalogue, const TSqlForeignKey& key);
 
-/// The schemas, of MySQL the databases, that a user may have.
+/// The schemas, of MySQL the databases, that a user may have; none of ODBC.
 TStrings ReadSchemaNames(const TSqlSession& session);
 /// The tables of a schema; with an empty name, those that statements find without one. Raises `EConnectError`.
 TSqlCatalogue ReadCatalogue(const TSqlSession& session, std::string_view schema);
@@ -80,5 +80,7 @@ TSqlCatalogue ReadCatalogue(const TSqlSession& session, std::string_view schema)
 TSqlCatalogue ReadSQLiteCatalogue(const QSqlDatabase& database, std::string_view schema);
 TSqlCatalogue ReadPostgreSQLCatalogue(const QSqlDatabase& database, std::string_view schema);
 TSqlCatalogue ReadMySQLCatalogue(const QSqlDatabase& database, std::string_view schema);
+/// All tables, whatever the schema, without foreign keys, and a table at a time: more is not to be had of all drivers.
+TSqlCatalogue ReadOdbcCatalogue(const QSqlDatabase& database, std::string_view schema);
 
 }  // namespace tolvi

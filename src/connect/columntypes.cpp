@@ -142,6 +142,14 @@ constexpr TTypeName MySQLTypes[] = {
 /// The next larger type where there is no sign.
 constexpr TTypeName MySQLUnsigned[] = {{"smallint", ftWord}, {"int", ftLargeint}};
 
+/// Those that their values do not tell.
+struct TTypeNumber {
+  int Number;
+  TFieldType Type;
+};
+constexpr TTypeNumber OdbcTypes[] = {{2, ftBCD},    {3, ftBCD},   {5, ftSmallint}, {-6, ftSmallint}, {-7, ftBoolean},
+                                     {-11, ftGuid}, {-1, ftMemo}, {-10, ftMemo},   {1, ftFixedChar}, {-8, ftFixedChar}};
+
 template <std::size_t Count>
 const TTypeName* FindType(std::string_view name, const TTypeName (&table)[Count]) {
   const auto* found =
@@ -223,6 +231,37 @@ TColumnType MySQLColumnType(std::string_view name, std::string_view full, std::i
   if (type == nullptr) type = FindType(lower, MySQLTypes);
   // The rest are shapes on a map.
   return type == nullptr ? TColumnType{ftBlob} : Counted(Sized(*type, length, scale), isCounted);
+}
+
+TColumnType OdbcColumnType(int typeId, QMetaType metaType, int length, int precision) {
+  constexpr int LongestText = 4000;
+  if (const auto* type = std::find_if(std::begin(OdbcTypes), std::end(OdbcTypes),
+                                      [typeId](const TTypeNumber& known) { return known.Number == typeId; });
+      type != std::end(OdbcTypes)) {
+    return {type->Type, type->Type == ftBCD ? std::max(precision, 0) : 0};
+  }
+  switch (metaType.id()) {
+    case QMetaType::Bool:
+      return {ftBoolean};
+    case QMetaType::Int:
+    case QMetaType::UInt:
+      return {ftInteger};
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+      return {ftLargeint};
+    case QMetaType::Double:
+      return {ftFloat};
+    case QMetaType::QDate:
+      return {ftDate};
+    case QMetaType::QTime:
+      return {ftTime};
+    case QMetaType::QDateTime:
+      return {ftDateTime};
+    case QMetaType::QString:
+      return {ftString, length > 0 && length <= LongestText ? length : 0};
+    default:
+      return {ftBlob};
+  }
 }
 
 }  // namespace tolvi

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaType>
 #include <cstdint>
 #include <string_view>
 
@@ -29,5 +30,8 @@ TColumnType PostgreSQLColumnType(std::string_view name, std::string_view categor
 /// `full` is the type with its brackets ("tinyint(1) unsigned"); `length` and `scale` as the catalogue has them.
 TColumnType MySQLColumnType(std::string_view name, std::string_view full, std::int64_t length, std::int64_t scale,
                             bool isCounted);
+
+/// `typeId` is the number of the type in ODBC, `metaType` what its driver makes of a value.
+TColumnType OdbcColumnType(int typeId, QMetaType metaType, int length, int precision);
 
 }  // namespace tolvi

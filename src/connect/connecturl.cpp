@@ -13,16 +13,16 @@ struct TScheme {
   std::string_view Name;
   TDatabaseKind Kind;
 };
-/// The first name of a kind is the one that is shown, and that of its formats.
-constexpr TScheme Schemes[] = {{"sqlite", dkSQLite},
-                               {"postgresql", dkPostgreSQL},
-                               {"postgres", dkPostgreSQL},
-                               {"mysql", dkMySQL},
-                               {"mariadb", dkMySQL}};
+/// The first name of a kind is the one that is shown.
+constexpr TScheme Schemes[] = {{"sqlite", dkSQLite}, {"postgresql", dkPostgreSQL}, {"postgres", dkPostgreSQL},
+                               {"mysql", dkMySQL},   {"mariadb", dkMySQL},         {"odbc", dkODBC}};
 
-constexpr std::string_view Forms[] = {"sqlite:FILE",
-                                      "postgresql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE[?schema=NAME]",
-                                      "mysql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE"};
+constexpr std::string_view Forms[] = {
+    "sqlite:FILE", "postgresql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE[?schema=NAME]",
+    "mysql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE", "odbc:SOURCE[;ATTRIBUTE=VALUE...]"};
+
+/// By `TDatabaseKind`.
+constexpr std::string_view Presets[] = {"sqlite", "postgresql", "mysql", "generic"};
 
 constexpr int MaxPort = 65535;
 
@@ -33,6 +33,58 @@ const TScheme* SchemeOf(std::string_view url) {
   const auto* found = std::find_if(std::begin(Schemes), std::end(Schemes),
                                    [name](const TScheme& scheme) { return AsciiSameText(scheme.Name, name); });
   return found == std::end(Schemes) ? nullptr : found;
+}
+
+/// An attribute of ODBC: a name, and a value as it stands, with the braces that it may be in.
+struct TAttribute {
+  std::string_view Whole, Name, Value;
+  bool IsOpen = false;
+};
+
+/// Where a value that begins at `pos` ends; one in braces holds whatever it likes, a closing brace doubled.
+std::size_t EndOfValue(std::string_view text, std::size_t pos, bool& isOpen) {
+  const std::size_t first = std::min(text.find_first_not_of(' ', pos), text.size());
+  isOpen = text.substr(first, 1) == "{";
+  for (pos = first; isOpen && ++pos < text.size();) {
+    if (text[pos] != '}') continue;
+    if (text.substr(pos + 1, 1) == "}") {
+      ++pos;
+    } else {
+      isOpen = false;
+    }
+  }
+  return std::min(text.find(';', pos), text.size());
+}
+
+std::vector<TAttribute> AttributesOf(std::string_view text) {
+  std::vector<TAttribute> attributes;
+  for (std::size_t begin = 0, end; begin < text.size(); begin = end + 1) {
+    const std::size_t equals = text.find_first_of("=;", begin);
+    const bool isNamed = equals != std::string_view::npos && text[equals] == '=';
+    TAttribute attribute;
+    end = isNamed ? EndOfValue(text, equals + 1, attribute.IsOpen) : std::min(equals, text.size());
+    attribute.Whole = Trim(text.substr(begin, end - begin));
+    if (attribute.Whole.empty()) continue;
+    if (isNamed) {
+      attribute.Name = Trim(text.substr(begin, equals - begin));
+      attribute.Value = Trim(text.substr(equals + 1, end - equals - 1));
+    }
+    attributes.push_back(attribute);
+  }
+  return attributes;
+}
+
+bool IsPassword(const TAttribute& attribute) {
+  return AsciiSameText(attribute.Name, "pwd") || AsciiSameText(attribute.Name, "password");
+}
+
+bool IsUser(const TAttribute& attribute) {
+  return AsciiSameText(attribute.Name, "uid") || AsciiSameText(attribute.Name, "user");
+}
+
+std::string WithoutBraces(std::string_view value) {
+  if (!value.starts_with('{') || !value.ends_with('}')) return std::string(value);
+  return ReplaceStr(value.substr(1, value.size() - 2), "}}", "}");
 }
 
 std::string WithoutPasswords(std::string_view url) {
@@ -95,6 +147,10 @@ class TUrlReader {
     if (scheme == nullptr) Refuse(FUrl, "names no kind of database that is known");
     FResult.Kind = scheme->Kind;
     std::string_view rest = FUrl.substr(scheme->Name.size() + 1);
+    if (FResult.Kind == dkODBC) {
+      ReadAttributes(rest);
+      return std::move(FResult);
+    }
     const bool hasSlashes = rest.starts_with("//");
     if (hasSlashes) rest.remove_prefix(2);
     if (FResult.Kind == dkSQLite) {
@@ -108,6 +164,22 @@ class TUrlReader {
   }
 
  private:
+  void ReadAttributes(std::string_view text) {
+    for (const TAttribute& attribute : AttributesOf(text)) {
+      if (attribute.IsOpen) Refuse(FUrl, "has a \"{\" without its \"}\"");
+      if (IsPassword(attribute)) {
+        FResult.Password = WithoutBraces(attribute.Value);
+      } else if (IsUser(attribute)) {
+        FResult.User = WithoutBraces(attribute.Value);
+      } else if (attribute.Name.empty() && !FResult.Database.empty()) {
+        Refuse(FUrl, "has an attribute without a \"=\"");
+      } else {
+        FResult.Database.append(FResult.Database.empty() ? "" : ";").append(attribute.Whole);
+      }
+    }
+    if (FResult.Database.empty()) Refuse(FUrl, "names no data source");
+  }
+
   void ReadServer(std::string_view text) {
     const auto [place, options] = GetNameAndValueSep(text, "?");
     const auto [server, database] = GetNameAndValueSep(place, "/");
@@ -168,16 +240,23 @@ class TUrlReader {
 
 }  // namespace
 
-std::string_view FormatPresetOf(TDatabaseKind kind) {
-  return std::find_if(std::begin(Schemes), std::end(Schemes),
-                      [kind](const TScheme& scheme) { return scheme.Kind == kind; })
-      ->Name;
+std::string_view FormatPresetOf(TDatabaseKind kind) { return Presets[kind]; }
+
+std::string OdbcValue(std::string_view value) {
+  const bool isPlain = value.find_first_of("{};=") == std::string_view::npos && Trim(value).size() == value.size();
+  return isPlain ? std::string(value) : "{" + ReplaceStr(value, "}", "}}") + "}";
 }
 
 std::string TConnectionUrl::Shown() const {
   constexpr std::string_view Special = "/?#@:[]";
-  std::string result(FormatPresetOf(Kind));
+  const auto* scheme =
+      std::find_if(std::begin(Schemes), std::end(Schemes), [this](const TScheme& known) { return known.Kind == Kind; });
+  std::string result(scheme->Name);
   result += ':';
+  if (Kind == dkODBC) {
+    result += Database;
+    return User.empty() ? result : result + ";UID=" + OdbcValue(User);
+  }
   if (Kind == dkSQLite) {
     AppendEncoded(result, Database, {});
     return result;
@@ -216,6 +295,12 @@ std::vector<std::string_view> PasswordsIn(std::string_view url) {
   const auto add = [&passwords](std::string_view text) {
     if (!text.empty()) passwords.push_back(text);
   };
+  if (const TScheme* scheme = SchemeOf(url); scheme != nullptr && scheme->Kind == dkODBC) {
+    for (const TAttribute& attribute : AttributesOf(url.substr(scheme->Name.size() + 1))) {
+      if (IsPassword(attribute)) add(attribute.Value);
+    }
+    return passwords;
+  }
   const std::size_t slashes = url.find("//");
   const std::size_t start = slashes == None ? url.find(':') + 1 : slashes + 2;
   const std::size_t colon = url.find(':', start), at = url.rfind('@');

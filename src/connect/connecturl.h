@@ -16,15 +16,20 @@ class EConnectError : public EException {
 };
 
 /// The databases that a URL can name.
-enum TDatabaseKind : std::uint8_t { dkSQLite, dkPostgreSQL, dkMySQL };
+enum TDatabaseKind : std::uint8_t { dkSQLite, dkPostgreSQL, dkMySQL, dkODBC };
 
 /// Where a database is: "sqlite:FILE", "postgresql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE[?schema=NAME]", or
 /// "mysql:" with the same but no schema. Parts may hold "%20" and the like; a "%" itself is "%25". "postgres" and
 /// "mariadb" mean the same as the names above. A host of a local socket is its folder, encoded:
 /// "postgresql://%2Fvar%2Frun%2Fpostgresql/shop".
+///
+/// Whatever else there is a driver for: "odbc:NAME" of a data source, or "odbc:" and the attributes of a connection,
+/// "odbc:Driver={SQLite3};Database=/home/anna/shop.sqlite;UID=anna;PWD=secret". They are taken as they stand, without
+/// "%20"; a value with ";" in it stands in braces.
 struct TConnectionUrl {
   TDatabaseKind Kind = dkSQLite;
-  /// The file of `dkSQLite` (":memory:" for none), else the name of the database.
+  /// The file of `dkSQLite` (":memory:" for none); of `dkODBC` the name of the data source, or the attributes but for
+  /// user and password; else the name of the database.
   std::string Database = {};
   std::string Host = {}, User = {}, Password = {};
   /// 0 for the usual one.
@@ -40,6 +45,9 @@ struct TConnectionUrl {
 
 /// The preset of SQL formats that suits the kind (see `ApplyFormatPreset`).
 [[nodiscard]] std::string_view FormatPresetOf(TDatabaseKind kind);
+
+/// A value for the attributes of ODBC, in braces where it would be misread.
+[[nodiscard]] std::string OdbcValue(std::string_view value);
 
 /// Whether the text begins like a URL ("sqlite:", "postgresql://", also "other://"), and is not the name of a file.
 [[nodiscard]] bool IsConnectionUrl(std::string_view text);

@@ -24,7 +24,8 @@ struct TDriver {
 const TDriver Drivers[] = {{QLatin1String("QSQLITE"), dkSQLite},
                            {QLatin1String("QPSQL"), dkPostgreSQL},
                            {QLatin1String("QMYSQL"), dkMySQL},
-                           {QLatin1String("QMARIADB"), dkMySQL}};
+                           {QLatin1String("QMARIADB"), dkMySQL},
+                           {QLatin1String("QODBC"), dkODBC}};
 
 /// By the numbers that the databases give their types.
 struct TTypeAsText {
@@ -39,6 +40,11 @@ constexpr TTypeAsText TypesAsText[] = {
     {dkMySQL, 4, svNumber},          // float
     {dkMySQL, 5, svNumber},          // double
     {dkMySQL, 11, svTime},           // time, which is more than a time of day
+    {dkODBC, 2, svNumber},           // numeric
+    {dkODBC, 3, svNumber},           // decimal
+    {dkODBC, 6, svNumber},           // float
+    {dkODBC, 7, svNumber},           // real
+    {dkODBC, 8, svNumber},           // double
 };
 
 std::string DoubleText(double number) {
@@ -132,7 +138,7 @@ TSqlSession SessionOf(std::string_view connectionName) {
   const auto* found = std::find_if(std::begin(Drivers), std::end(Drivers),
                                    [&name](const TDriver& driver) { return driver.Name == name; });
   if (found == std::end(Drivers)) {
-    throw EConnectError("The connection \"%s\" uses the driver %s; only SQLite, PostgreSQL and MySQL are known",
+    throw EConnectError("The connection \"%s\" uses the driver %s; only SQLite, PostgreSQL, MySQL and ODBC are known",
                         {connectionName, FromQString(name)});
   }
   return {database, found->Kind};

@@ -52,7 +52,7 @@ bool NextRow(QSqlQuery& query, std::string_view sql);
 /// The text of a column; empty for NULL.
 std::string TextAt(const QSqlQuery& query, int column);
 
-/// The name in quotes for statements, which all three kinds take (`TSqlConnection` sees to it).
+/// The name in quotes for statements, which all kinds take (`TSqlConnection` sees to it).
 std::string QuotedName(std::string_view name, TDatabaseKind kind);
 
 /// What the values of a column are that the driver gives as texts, because no other type of it holds all of them.

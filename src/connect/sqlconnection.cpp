@@ -8,6 +8,7 @@
 
 #include <tolvi/connect/sqlaccess.h>
 #include <tolvi/connect/sqlconnection.h>
+#include <tolvi/foundation/text.h>
 
 namespace tolvi {
 namespace {
@@ -53,7 +54,18 @@ class TOpening final {
   }
 
   std::string Open() {
-    FUrl.Kind == dkSQLite ? OpenFile() : OpenServer();
+    switch (FUrl.Kind) {
+      case dkSQLite:
+        OpenFile();
+        break;
+      case dkODBC:
+        OpenSource();
+        break;
+      case dkPostgreSQL:
+      case dkMySQL:
+        OpenServer();
+        break;
+    }
     FKept = true;
     return FName;
   }
@@ -86,6 +98,20 @@ class TOpening final {
 
   bool IsInMemory() const { return FUrl.Database == ":memory:"; }
 
+  void OpenSource() {
+    constexpr std::string_view Hint = "check the data source, its driver, user and password", Prefix = "dsn=";
+    // The driver writes "DSN=" before what seems to be a name.
+    std::string_view source = FUrl.Database;
+    if (AsciiSameText(source.substr(0, Prefix.size()), Prefix)) source.remove_prefix(Prefix.size());
+    FDatabase.setDatabaseName(ToQString(source));
+    FDatabase.setUserName(ToQString(OdbcValue(FUrl.User)));
+    FDatabase.setPassword(ToQString(OdbcValue(FUrl.Password)));
+    QStringList options{QStringLiteral("SQL_ATTR_LOGIN_TIMEOUT=%1").arg(std::max(FOptions.TimeoutSeconds, 1))};
+    if (FOptions.ReadOnly) options << QStringLiteral("SQL_ATTR_ACCESS_MODE=SQL_MODE_READ_ONLY");
+    FDatabase.setConnectOptions(options.join(QLatin1Char(';')));
+    OpenWithPassword(Hint);
+  }
+
   void OpenServer() {
     const TServer& server = ServerOf(FUrl.Kind);
     FDatabase.setDatabaseName(ToQString(FUrl.Database));
@@ -98,16 +124,19 @@ class TOpening final {
     }
     // Kept with the connection, so that another one can be opened to end its statements.
     FDatabase.setPassword(ToQString(password));
-    if (!FDatabase.open()) {
-      const QSqlError error = FDatabase.lastError();
-      const auto given = WantsPassword(error) && FUrl.Password.empty() && FOptions.OnPasswordRequest
-                             ? FOptions.OnPasswordRequest(FUrl)
-                             : std::nullopt;
-      if (!given) Refuse(FUrl, WordsOf(error), server.Hint);
-      FDatabase.setPassword(ToQString(*given));
-      if (!FDatabase.open()) Refuse(FUrl, WordsOf(FDatabase.lastError()), server.Hint);
-    }
+    OpenWithPassword(server.Hint);
     FUrl.Kind == dkMySQL ? SetUpMySQL() : SetUpPostgreSQL();
+  }
+
+  void OpenWithPassword(std::string_view hint) {
+    if (FDatabase.open()) return;
+    const QSqlError error = FDatabase.lastError();
+    const auto given = WantsPassword(error) && FUrl.Password.empty() && FOptions.OnPasswordRequest
+                           ? FOptions.OnPasswordRequest(FUrl)
+                           : std::nullopt;
+    if (!given) Refuse(FUrl, WordsOf(error), hint);
+    FDatabase.setPassword(ToQString(FUrl.Kind == dkODBC ? OdbcValue(*given) : *given));
+    if (!FDatabase.open()) Refuse(FUrl, WordsOf(FDatabase.lastError()), hint);
   }
 
   QString ConnectOptions() {
@@ -136,6 +165,7 @@ class TOpening final {
 
   bool WantsPassword(const QSqlError& error) const {
     if (FUrl.Kind == dkMySQL) return error.nativeErrorCode() == QLatin1String("1045");
+    if (FUrl.Kind == dkODBC && error.databaseText().contains(QLatin1String("login"), Qt::CaseInsensitive)) return true;
     // The client library says it so in every language, the server in its own.
     return error.databaseText().contains(QLatin1String("password")) ||
            error.driverText().contains(QLatin1String("password"));

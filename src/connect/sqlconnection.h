@@ -9,7 +9,7 @@
 namespace tolvi {
 
 struct TSqlConnectOptions {
-  /// Whether the database refuses changes. Default false.
+  /// Whether the database refuses changes; of `dkODBC`, those drivers do that can. Default false.
   bool ReadOnly = false;
   /// Whether the file of an SQLite database must exist; without it, an empty one is made. Default true.
   bool MustExist = true;

@@ -17,8 +17,8 @@ class TSqlCatalogue;
 /// How to fill a model from a database of that kind: the defaults, with names quoted where it would fold their case.
 [[nodiscard]] TFillOptions FillOptionsFor(TDatabaseKind kind);
 
-/// The catalogue of an open SQLite, PostgreSQL or MySQL database. The connection is the host's own QSqlDatabase, or
-/// that of a `TSqlConnection`; it is found by its name at each question, in the thread of the question.
+/// The catalogue of an open SQLite, PostgreSQL, MySQL or ODBC database. The connection is the host's own QSqlDatabase,
+/// or that of a `TSqlConnection`; it is found by its name at each question, in the thread of the question.
 ///
 ///   TSqlConnection connection(ParseConnectionUrl("sqlite:shop.sqlite"));
 ///   TJSqlDBInfo info(connection.GetName());
@@ -31,6 +31,7 @@ class TSqlCatalogue;
 ///    asked for tables, and after `Update`. All other answers are of the same reading.
 /// 3. Links come from foreign keys between the tables of the list, columns joined by " and ", names in double quotes
 ///    where they are no plain words.
+/// 4. Of ODBC, there are no databases and no links to be had, and each table takes statements of its own.
 ///
 /// Every question raises `EConnectError` when there is no open connection of that name or the database refuses; a table
 /// that is not in the catalogue has no fields.

@@ -28,6 +28,8 @@ TSqlLimits::TSqlLimits(const TSqlSession& session, std::chrono::milliseconds tim
     case dkMySQL:
       SetMySQL(timeout);
       break;
+    case dkODBC:
+      break;
   }
 }
 

@@ -10,7 +10,8 @@
 namespace tolvi {
 
 /// While it lives, statements of the connection cannot change anything (unless in a transaction that was open before)
-/// and end after a time; then the connection has its own settings again. For SQLite, `TSqlWatch` keeps the time.
+/// and end after a time; then the connection has its own settings again. For SQLite, `TSqlWatch` keeps the time. ODBC
+/// has no settings that all drivers know: there, nothing is limited.
 class TSqlLimits final {
  public:
   /// Raises `EConnectError`. Zero: no limit.

@@ -54,6 +54,13 @@ constexpr TDialect MySQL{
 /// By `TDatabaseKind`.
 constexpr const TDialect* Dialects[] = {&SQLite, &PostgreSQL, &MySQL};
 
+const TDialect& DialectOf(TDatabaseKind kind) {
+  if (kind == dkODBC) {
+    throw EConnectError("Queries are not kept in a database that is reached by ODBC: keep them in a folder");
+  }
+  return *Dialects[kind];
+}
+
 constexpr std::string_view Columns[] = {"id",   "name",  "name_key",   "description",
                                         "text", "owner", "changed_at", "revision"};
 
@@ -98,7 +105,7 @@ TQueryEntry EntryAt(const QSqlQuery& query) {
 class TQueryTable final {
  public:
   explicit TQueryTable(std::string_view connectionName)
-      : FSession(SessionOf(connectionName)), FDialect(*Dialects[FSession.Kind]) {}
+      : FSession(SessionOf(connectionName)), FDialect(DialectOf(FSession.Kind)) {}
 
   /// Raises `EQueryStoreError` when it is another table.
   bool Exists() const {

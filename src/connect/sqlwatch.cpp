@@ -67,7 +67,7 @@ void TSqlWatch::Begin(std::chrono::milliseconds timeout) {
     FSetHandler = SetHandlerOf(FSession.Database);
     if (FSetHandler != nullptr) FHandle = HandleOf(FSession.Database);
     if (FHandle != nullptr) FSetHandler(FHandle, StepsBetweenQuestions, Ask, this);
-  } else {
+  } else if (FSession.Kind != dkODBC) {
     FindServerTask();
   }
   const std::lock_guard lock(FMutex);
@@ -96,7 +96,7 @@ void TSqlWatch::Cancel() {
   const std::lock_guard lock(FMutex);
   if (!FIsRunning || FIsCancelled) return;
   FIsCancelled = true;
-  if (FSession.Kind != dkSQLite) TellServer();
+  if (FSession.Kind == dkPostgreSQL || FSession.Kind == dkMySQL) TellServer();
 }
 
 void TSqlWatch::FindServerTask() {

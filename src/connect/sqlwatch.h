@@ -11,7 +11,8 @@
 namespace tolvi {
 
 /// Ends a statement that runs on a connection, from another thread or after a time. A server is told so over a second
-/// connection; SQLite asks again and again, if it is the library that the program itself can reach.
+/// connection; SQLite asks again and again, if it is the library that the program itself can reach. With ODBC, no more
+/// rows are read, but a statement that has begun goes on to its first row.
 ///
 /// `Begin` and `End` belong to the connection's thread, all else to any.
 class TSqlWatch final {

@@ -71,8 +71,11 @@ class TParamWalk {
 std::vector<TParamInfo> ListParams(TJQueryPanel& panel) {
   std::vector<TParamInfo> params;
   const TParamCall call = [&params](TSQLParam& param) {
-    params.push_back({param.GetParamName(), param.GetDisplayName(), ExplainCondition(param.GetCondition()),
-                      param.GetValue(), param.GetFullValue(), param.GetParamType()});
+    const TFilterCond& condition = param.GetCondition();
+    const int index = param.GetValueIndex();
+    params.push_back({param.GetParamName(), param.GetDisplayName(), ExplainCondition(condition), param.GetValue(),
+                      param.GetFullValue(), param.GetParamType(), condition.GetValueKind(index) == vkList,
+                      condition.GetValueName(index), condition.GetValueEditor(index)});
     return false;
   };
   TParamWalk(call).Run(panel);

@@ -10,6 +10,7 @@
 
 namespace tolvi {
 
+class TDSValueEditor;
 class TJQueryPanel;
 struct TBoundStatement;
 
@@ -18,6 +19,12 @@ struct TBoundStatement;
 struct TParamInfo {
   std::string Name, DisplayName, Sentence, Value, FullValue;
   TFieldType Type = ftUnknown;
+  /// Whether the value is a comma text of several ones.
+  bool IsList = false;
+  /// What the value belongs to, as its errors name it.
+  std::string ValueName = {};
+  /// How the value is entered; the model's. Null: by its type.
+  TDSValueEditor* Editor = nullptr;
 };
 
 /// The parameters of a query and of the sub-queries that take part in its statement, by the names that the statement

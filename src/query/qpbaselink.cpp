@@ -32,8 +32,11 @@ void TJQPBaseLink::QueryChanged(int index) {
   description.SetText(query->GetDescription());
   TRef<TJQueryPanel> panel;
   panel.Set(GetQueryPanel());
+  // The base has them: there is nothing to save.
+  const bool isModified = panel && panel->GetModified();
   if (panel) panel->SetDescription(description);
   if (panel) panel->SetQueryName(name);
+  if (panel) panel->SetModified(isModified);
   if (panel && panel->GetView() != nullptr) panel->GetView()->TitlesChanged();
 }
 

@@ -25,7 +25,8 @@ class TJQPBaseLink : public TJQueryBaseLink {
   /// then keeps its old query, and hands nothing over until it can show one of the base again.
   void LoadCurBaseQuery();
 
-  /// For the current query: name and description come into the panel, and its view refreshes its titles.
+  /// For the current query: name and description come into the panel, which counts as modified no more than before, and
+  /// its view refreshes its titles.
   void QueryChanged(int index) override;
   void QueryIndexChanged() override;
   /// The panel's query is cleared when the current one has been deleted.

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,8 @@ inline QString ToQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 inline std::string FromQString(const QString& text) { return text.toStdString(); }
+/// The name of a file, as the library takes it on every system.
+inline std::filesystem::path ToPath(const QString& file) { return std::filesystem::path(file.toStdU16String()); }
 
 inline QStringList ToQStringList(const TStrings& lines) {
   QStringList result;

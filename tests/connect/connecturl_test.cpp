@@ -58,7 +58,7 @@ TEST(ConnectionUrl, SaysWhatIsWrongWithoutThePassword) {
   const std::string forms =
       ". A database is given as sqlite:FILE, or postgresql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE[?schema=NAME], "
       "or "
-      "mysql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE";
+      "mysql://[USER[:PASSWORD]@][HOST][:PORT]/DATABASE, or odbc:SOURCE[;ATTRIBUTE=VALUE...]";
   const struct {
     std::string_view Url, Message;
   } cases[] = {

@@ -57,6 +57,11 @@ TConnectionUrl TestDatabase(TDatabaseKind kind) {
       static const TConnectionUrl url = StartDatabase(dkSQLite);
       return url;
     }
+    case dkODBC: {
+      static const TConnectionUrl url{.Kind = dkODBC,
+                                      .Database = "Driver=SQLite3;Database=" + TestDatabase(dkSQLite).Database};
+      return url;
+    }
     case dkPostgreSQL: {
       static const TConnectionUrl url = StartDatabase(dkPostgreSQL);
       return url;

@@ -10,8 +10,9 @@
 
 namespace tolvi {
 
-/// The three kinds of databases with the same tables in each. Servers are started for the first test that needs one and
-/// end with the program. Throws `std::runtime_error` with the reason, also when a server is not installed.
+/// The kinds of databases with the same tables in each; ODBC leads to the file of SQLite. Servers are started for the
+/// first test that needs one and end with the program. Throws `std::runtime_error` with the reason, also when a server
+/// is not installed.
 TConnectionUrl TestDatabase(TDatabaseKind kind);
 
 /// That of the user "locked" of both servers, who may read "customers" alone on PostgreSQL.

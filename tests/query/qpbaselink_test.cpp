@@ -60,6 +60,9 @@ TEST_F(QPBaseLink, BringsTheCurrentQueryIntoThePanelAndTakesItBack) {
   base.GetCurrentQuery()->Save();
   EXPECT_FALSE(panel->GetModified());
   EXPECT_NE(store["rest"], stored);
+  base.GetCurrentQuery()->SetDescription("the others");
+  EXPECT_EQ(panel->GetDescription().GetText(), "the others\r\n");
+  EXPECT_FALSE(panel->GetModified()) << "the base has it";
   base.SetItemIndex(0);
   base.SetItemIndex(1);
   EXPECT_EQ(Shown(), "rest3");

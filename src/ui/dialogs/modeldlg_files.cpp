@@ -21,11 +21,7 @@
 // The commands of the model editor: files, the database, and how it is closed.
 
 namespace tolvi {
-namespace {
-
-std::filesystem::path PathOf(const QString& file) { return std::filesystem::path(file.toStdU16String()); }
-
-}  // namespace
+namespace {}  // namespace
 
 bool T_dlgModelEdit::Try(const QString& failure, const std::function<void()>& operation) {
   QString fault;
@@ -66,7 +62,7 @@ bool T_dlgModelEdit::LoadFromFile(const QString& file) {
       if (format != nullptr) {
         format->Load(file, FCopy);
       } else {
-        FCopy.LoadFromFile(PathOf(file));
+        FCopy.LoadFromFile(ToPath(file));
       }
     });
   });
@@ -84,7 +80,7 @@ bool T_dlgModelEdit::SaveToFile(const QString& file) {
     if (format != nullptr) {
       format->Save(file, FCopy);
     } else {
-      FCopy.SaveToFile(PathOf(file));
+      FCopy.SaveToFile(ToPath(file));
     }
   });
   if (alive && worked) FFile = file;

@@ -64,8 +64,6 @@ class TTitlesDelegate final : public QStyledItemDelegate {
   }
 };
 
-std::filesystem::path PathOf(const QString& file) { return std::filesystem::path(file.toStdU16String()); }
-
 }  // namespace
 
 T_dlgTitlesEdit::T_dlgTitlesEdit(const TStrings& defaults, const TStrings& titles, QWidget* parent)
@@ -227,7 +225,7 @@ void T_dlgTitlesEdit::Save() {
 bool T_dlgTitlesEdit::LoadFromFile(const QString& file) {
   CommitEdit();
   return Try([&] {
-    const std::string text = ReadFile(PathOf(file));
+    const std::string text = ReadFile(ToPath(file));
     TStrings lines;
     lines.SetText(text);
     const TStrings known = FModel->GetTitles();
@@ -246,8 +244,8 @@ bool T_dlgTitlesEdit::SaveToFile(const QString& file) {
   CommitEdit();
   return Try([&] {
     TStrings existing;
-    if (std::filesystem::exists(PathOf(file))) existing.LoadFromFile(PathOf(file));
-    WriteFileAtomically(PathOf(file), TitlesForFile(GetTitles(), existing).Joined("\n") + "\n");
+    if (std::filesystem::exists(ToPath(file))) existing.LoadFromFile(ToPath(file));
+    WriteFileAtomically(ToPath(file), TitlesForFile(GetTitles(), existing).Joined("\n") + "\n");
   });
 }
 
