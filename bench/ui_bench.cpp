@@ -321,6 +321,14 @@ constexpr TRatio Ratios[] = {
     {"drag a box among 2,500 : a plain item, all painted", "BoxDragged/2500", "PlainItemDragged/2500", 2},
     {"zoom a diagram of 500 tables : a scene of plain items", "DiagramZoomed/500", "PlainSceneZoomed/500", 2},
     {"zoom a diagram of 2,500 tables : a scene of plain items", "DiagramZoomed/2500", "PlainSceneZoomed/2500", 2},
+    {"append a million rows in blocks, each painted : a model of 10,000 rows of items", "ResultRowsAppended",
+     "ItemRowsAppended", 50},
+    {"scroll through a million rows in 50 steps : 10,000 rows of items", "ResultRowsScrolled/0", "ItemRowsScrolled", 4},
+    {"the same, all selected : 10,000 rows of items", "ResultRowsScrolled/1", "ItemRowsScrolled", 4},
+    {"select a million rows and none : scroll through 10,000", "AllSelected", "ItemRowsScrolled", 0.3},
+    {"sort a million rows by numbers : plain texts", "ResultRowsSorted/0", "PlainTextsSorted", 2},
+    {"by texts that repeat, in the order of a language : plain texts", "ResultRowsSorted/1", "PlainTextsSorted", 3},
+    {"by texts that are all different : plain texts", "ResultRowsSorted/7", "PlainTextsSorted", 20},
 };
 
 }  // namespace

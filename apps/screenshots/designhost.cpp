@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <tolvi/foundation/errors.h>
+#include <tolvi/ui/qtext.h>
 #include <tolvi/xml/modelxml.h>
 
 namespace tolvi {
@@ -17,10 +18,9 @@ TDesignHost::TDesignHost(std::filesystem::path database) : FDatabase(std::move(d
 }
 
 std::vector<TModelFormat> TDesignHost::Formats() {
-  const auto path = [](const QString& file) { return std::filesystem::path(file.toStdU16String()); };
   return {{QStringLiteral("XML documents"), QStringLiteral("xml"),
-           [path](const QString& file, TJCustomDBStructure& model) { LoadModelFromXmlFile(model, path(file)); },
-           [path](const QString& file, const TJCustomDBStructure& model) { SaveModelToXmlFile(model, path(file)); }}};
+           [](const QString& file, TJCustomDBStructure& model) { LoadModelFromXmlFile(model, ToPath(file)); },
+           [](const QString& file, const TJCustomDBStructure& model) { SaveModelToXmlFile(model, ToPath(file)); }}};
 }
 
 void TDesignHost::Connect() {

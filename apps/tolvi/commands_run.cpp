@@ -1,7 +1,7 @@
 #include <algorithm>
 
+#include "apps/rowformats/rowwriter.h"
 #include "apps/tolvi/database.h"
-#include "apps/tolvi/output.h"
 #include "apps/tolvi/session.h"
 #include <tolvi/connect/queryrunner.h>
 #include <tolvi/foundation/text.h>
@@ -82,20 +82,6 @@ TBoundStatement CompleteStatement(TSession& session) {
   return statement;
 }
 
-TCellKind CellKindOf(TSqlValueKind kind) {
-  switch (kind) {
-    case svNull:
-      return ckNull;
-    case svNumber:
-    case svBoolean:
-      return ckNumber;
-    case svBytes:
-      return ckBytes;
-    default:
-      return ckText;
-  }
-}
-
 void PrintRows(TSession& session, TJQueryRunner& runner) {
   const auto writer = MakeRowWriter(session.Arguments.Value("format", "table"), session.Streams.Out);
   const std::size_t count = runner.Columns().size();
@@ -107,7 +93,7 @@ void PrintRows(TSession& session, TJQueryRunner& runner) {
   for (; isRow; isRow = runner.Next()) {
     for (std::size_t i = 0; i < count; ++i) {
       values[i] = runner.Value(i);
-      cells[i] = {CellKindOf(values[i].Kind), values[i].Text};
+      cells[i] = {values[i].Kind, values[i].Text};
     }
     writer->Row(cells);
     session.CheckOutput();

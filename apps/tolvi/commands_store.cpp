@@ -4,8 +4,8 @@
 #include <system_error>
 #include <vector>
 
+#include "apps/rowformats/rowwriter.h"
 #include "apps/tolvi/database.h"
-#include "apps/tolvi/output.h"
 #include <tolvi/connect/sqlqrybase.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/store/fileqrybase.h>
@@ -81,11 +81,11 @@ void List(TSession& session, const std::string&) {
     writer->Begin({"Name", "Description", "Owner", "Changed", "Revision"});
     for (int index = 0; index < base.Count(); ++index) {
       const TQueryEntry& entry = base.GetStoredQuery(index).Entry();
-      writer->Row({{ckText, entry.Name},
-                   {ckText, entry.Description},
-                   {ckText, entry.Owner},
-                   {ckText, entry.ChangedAt},
-                   {ckText, entry.Revision}});
+      writer->Row({{svText, entry.Name},
+                   {svText, entry.Description},
+                   {svText, entry.Owner},
+                   {svText, entry.ChangedAt},
+                   {svText, entry.Revision}});
       session.CheckOutput();
     }
     writer->End();

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <tolvi/connect/connecturl.h>
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QProgressBar;
+class QPushButton;
+class QTimer;
+
+namespace tolvi {
+
+class TConnectionForm;
+class TConnectionTest;
+class TSecrets;
+
+/// Chooses a database: by fields or by its URL, which follow each other. "Test" connects in the background and shows
+/// what the database says.
+///
+///   T_dlgConnection dialog(secrets, this);
+///   dialog.SetRecent(recent);
+///   dialog.SetUrl(current);
+///   if (dialog.exec() == QDialog::Accepted) Open(dialog.GetUrl());
+class T_dlgConnection final : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `secrets` must outlive the dialog, which takes their `OnKeychain`.
+  explicit T_dlgConnection(TSecrets& secrets, QWidget* parent = nullptr);
+  ~T_dlgConnection() override;
+
+  /// Shown at the left, in this order; no list for an empty one. Default empty.
+  void SetRecent(std::vector<TConnectionUrl> urls);
+  /// With the password that was typed, or is known. A password is handed to `secrets` when the dialog is accepted.
+  TConnectionUrl GetUrl() const;
+  void SetUrl(const TConnectionUrl& url);
+  /// How long a test may take. Default 10 seconds.
+  void SetTestSeconds(int seconds);
+
+  void accept() override;
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void Resize();
+  QWidget* MakeUrlRow();
+  QWidget* MakeTestRow();
+  void FormChanged();
+  void UrlTyped(const QString& text);
+  void ShowFault(const QString& fault);
+  void FindPassword();
+  void ShowKeychain();
+  void Test();
+  void ShowTold(const QString& words, bool isFault);
+
+  TSecrets& FSecrets;
+  std::vector<TConnectionUrl> FRecent;
+  QListWidget* FRecentList;
+  TConnectionForm* FForm;
+  QLineEdit* FUrlLine;
+  QLabel *FFault, *FTold;
+  QPushButton *FTest, *FOk;
+  QProgressBar* FBusy;
+  QTimer* FFindTimer;
+  std::unique_ptr<TConnectionTest> FConnectionTest;
+  int FTestSeconds = 10;
+  bool FShowing = false;
+};
+
+/// Asks for the password of a connection, and keeps it where the user wants. Nothing: the user gave up. `fault` is what
+/// the server said to the one before.
+std::optional<std::string> AskPassword(QWidget* parent, const TConnectionUrl& url, TSecrets& secrets,
+                                       const QString& fault = {});
+
+}  // namespace tolvi

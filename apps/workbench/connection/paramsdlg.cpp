@@ -1,0 +1,185 @@
+#include "apps/workbench/connection/paramsdlg.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <vector>
+
+#include "apps/workbench/connection/paramedit.h"
+#include <tolvi/foundation/text.h>
+#include <tolvi/model/valueeditors.h>
+#include <tolvi/query/querpnl.h>
+#include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/dialogs/checkstyle.h>
+#include <tolvi/ui/dialogs/scrolled.h>
+#include <tolvi/ui/qtext.h>
+
+namespace tolvi {
+namespace {
+
+/// Those that have different names, in their order: a name stands for one value.
+std::vector<TParamInfo> ParamsOf(TJQueryPanel& panel) {
+  std::vector<TParamInfo> params;
+  for (TParamInfo& param : ListParams(panel)) {
+    const bool isKnown = std::any_of(params.begin(), params.end(),
+                                     [&](const TParamInfo& known) { return SameText(known.Name, param.Name); });
+    if (!isKnown) params.push_back(std::move(param));
+  }
+  return params;
+}
+
+class TParamsDialog final : public QDialog {
+ public:
+  TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<TParamInfo> params, const TParamMemory& last);
+
+  struct TRow {
+    TParamInfo Param;
+    TParamEdit* Edit;
+    QLabel* Fault;
+    bool IsTouched;
+  };
+  const std::vector<TRow>& Rows() const { return FRows; }
+
+ private:
+  void AddRow(QVBoxLayout& form, const TParamInfo& param, const QString& value);
+  QLabel* AddText(QVBoxLayout& form, const QString& text, const QColor& color);
+  void Check();
+
+  const TJQueryPanel& FPanel;
+  std::vector<TRow> FRows;
+  QPushButton* FOk;
+};
+
+TParamsDialog::TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<TParamInfo> params,
+                             const TParamMemory& last)
+    : QDialog(parent), FPanel(panel) {
+  constexpr int Columns = 64;
+  constexpr double MostOfScreen = 0.8;
+  setObjectName(QStringLiteral("params"));
+  const QString name = ToQString(panel.GetQueryName());
+  setWindowTitle(name.isEmpty() ? QObject::tr("Values of the Query") : QObject::tr("Values of “%1”").arg(name));
+  auto* form = new QWidget(this);
+  auto* rows = new QVBoxLayout(form);
+  for (const TParamInfo& param : params) {
+    const QString* known = last.Get(TParamMemory::KeyOf(panel.GetQueryName(), param.Name));
+    const auto* text = dynamic_cast<const TDSTextEditor*>(param.Editor);
+    QString value = ToEditForm(param.Value, param, panel);
+    if (value.isEmpty() && known != nullptr) value = *known;
+    if (value.isEmpty() && text != nullptr) value = ToEditForm(text->GetDefaultValue(), param, panel);
+    AddRow(*rows, param, value);
+  }
+  rows->addStretch(1);
+  UseCheckStyle(*form);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  FOk = buttons->button(QDialogButtonBox::Ok);
+  FOk->setObjectName(QStringLiteral("params.ok"));
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* layout = new QVBoxLayout(this);
+  QScrollArea* area = Scrolled(form, this);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  layout->addWidget(area, 1);
+  layout->addWidget(buttons);
+  Check();
+  const int width = Columns * fontMetrics().averageCharWidth();
+  const int needed =
+      form->layout()->totalHeightForWidth(width) + buttons->sizeHint().height() + 4 * fontMetrics().height();
+  resize(width, std::min(needed, static_cast<int>(screen()->availableGeometry().height() * MostOfScreen)));
+  // The first one that needs a value.
+  const auto first = std::find_if(FRows.begin(), FRows.end(), [this](const TRow& row) {
+    return !FaultOfParam(row.Edit->GetValue(), row.Param, FPanel).isEmpty() || row.Edit->GetValue().isEmpty();
+  });
+  (first != FRows.end() ? first : FRows.begin())->Edit->setFocus();
+}
+
+QLabel* TParamsDialog::AddText(QVBoxLayout& form, const QString& text, const QColor& color) {
+  auto* label = new QLabel(text, form.parentWidget());
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  QPalette colors = palette();
+  colors.setColor(QPalette::WindowText, ReadableColor(color, colors.color(QPalette::Window)));
+  label->setPalette(colors);
+  form.addWidget(label);
+  return label;
+}
+
+void TParamsDialog::AddRow(QVBoxLayout& form, const TParamInfo& param, const QString& value) {
+  constexpr double WeakPart = 0.7;
+  const QPalette colors = palette();
+  const QColor text = colors.color(QPalette::WindowText);
+  // A prompt that nobody gave says nothing.
+  const bool hasPrompt = !param.DisplayName.starts_with(FPanel.GetTitle("ttlParameter"));
+  const QColor weak = hasPrompt ? MixedColor(text, colors.color(QPalette::Window), WeakPart) : text;
+  QLabel* caption = hasPrompt ? AddText(form, ToQString(param.DisplayName), text) : nullptr;
+  QLabel* sentence = AddText(form, ToQString(param.Sentence).trimmed(), weak);
+  if (caption == nullptr) caption = sentence;
+  QFont bold = caption->font();
+  bold.setBold(true);
+  caption->setFont(bold);
+  TParamEdit* edit = MakeParamEdit(param, FPanel, form.parentWidget());
+  edit->setObjectName(QStringLiteral("params.") + ToQString(param.Name));
+  edit->SetValue(value);
+  QWidget* focus = edit->focusProxy() != nullptr ? edit->focusProxy() : edit;
+  focus->setAccessibleName(ToQString(param.DisplayName + ": " + param.Sentence));
+  caption->setBuddy(focus);
+  form.addWidget(edit);
+  QLabel* fault = AddText(form, {}, FaultColor());
+  fault->setObjectName(edit->objectName() + QStringLiteral(".fault"));
+  form.addSpacing(fontMetrics().height() / 2);
+  const size_t number = FRows.size();
+  FRows.push_back({param, edit, fault, !value.isEmpty()});
+  edit->OnChange = [this, number] {
+    FRows[number].IsTouched = true;
+    Check();
+  };
+}
+
+// A value that is missing is not complained of before the user has come to it.
+void TParamsDialog::Check() {
+  bool isGood = true;
+  for (const TRow& row : FRows) {
+    const QString fault = FaultOfParam(row.Edit->GetValue(), row.Param, FPanel);
+    isGood = isGood && fault.isEmpty();
+    row.Fault->setText(row.IsTouched ? fault : QString());
+    row.Fault->setVisible(!row.Fault->text().isEmpty());
+    row.Edit->focusProxy()->setAccessibleDescription(fault);
+  }
+  FOk->setEnabled(isGood);
+}
+
+}  // namespace
+
+QString TParamMemory::KeyOf(std::string_view queryName, std::string_view paramName) {
+  return ToQString(FoldCase(queryName)) + u'\n' + ToQString(FoldCase(paramName));
+}
+
+const QString* TParamMemory::Get(const QString& key) const {
+  const auto found = FValues.find(key);
+  return found == FValues.end() ? nullptr : &found->second;
+}
+
+bool AskParams(QWidget* parent, TJQueryPanel& panel, TParamMemory& last) {
+  std::vector<TParamInfo> params = ParamsOf(panel);
+  if (params.empty()) return true;
+  const QPointer<TParamsDialog> dialog = new TParamsDialog(parent, panel, std::move(params), last);
+  const bool isTaken = dialog->exec() == QDialog::Accepted;
+  // It may have gone with its parent.
+  if (!dialog) return false;
+  if (isTaken) {
+    for (const auto& [param, edit, fault, isTouched] : dialog->Rows()) {
+      const QString value = edit->GetValue();
+      SetParamValue(panel, param.Name, ToStoredForm(value, param, panel));
+      last.Set(TParamMemory::KeyOf(panel.GetQueryName(), param.Name), value);
+    }
+  }
+  delete dialog;
+  return isTaken;
+}
+
+}  // namespace tolvi

@@ -1,0 +1,84 @@
+// The workbench. `tolvi-workbench --help` tells its options.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <cstdio>
+
+#include "apps/workbench/script/player.h"
+#include "apps/workbench/window/program.h"
+#include <tolvi/connect/connecturl.h>
+#include <tolvi/foundation/errors.h>
+#include <tolvi/ui/qtext.h>
+
+using namespace tolvi;
+
+namespace {
+
+QString Text(const char* text) { return QCoreApplication::translate("tolvi::main", text); }
+
+/// Says what Qt wants to say, but for what the offscreen platform says of every window.
+void TellUnlessUsual(QtMsgType, const QMessageLogContext&, const QString& text) {
+  if (!text.startsWith(QStringLiteral("This plugin does not support"))) std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+TSource SourceOf(const QCommandLineParser& arguments, const QString& database) {
+  const std::string text = FromQString(database);
+  TSource source{IsConnectionUrl(text) ? text : "sqlite:" + FromQString(QFileInfo(database).absoluteFilePath())};
+  // Before any window: what is no URL is told where it was typed.
+  (void)ParseConnectionUrl(source.Url);
+  const auto path = [&arguments](const QString& option) {
+    return arguments.isSet(option) ? FromQString(QFileInfo(arguments.value(option)).absoluteFilePath()) : std::string();
+  };
+  source.ModelFile = path(QStringLiteral("model"));
+  source.QueryFolder = path(QStringLiteral("queries"));
+  source.QueriesInDatabase = arguments.isSet(QStringLiteral("queries-in-database"));
+  return source;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+  qInstallMessageHandler(TellUnlessUsual);
+  QApplication application(argc, argv);
+  // These name folders, the last one is for people.
+  QCoreApplication::setOrganizationName(QStringLiteral("tolvi"));
+  QCoreApplication::setApplicationName(QStringLiteral("workbench"));
+  QGuiApplication::setApplicationDisplayName(QStringLiteral("Tolvi Workbench"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(TOLVI_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("tolvi-workbench"));
+
+  QCommandLineParser arguments;
+  arguments.setApplicationDescription(Text("Ask databases in sentences."));
+  arguments.addHelpOption();
+  arguments.addVersionOption();
+  arguments.addPositionalArgument(QStringLiteral("DATABASE"),
+                                  Text("An SQLite file, or a URL as docs/databases.md tells; without it, what was open "
+                                       "the last time, at first the sample."),
+                                  QStringLiteral("[DATABASE]"));
+  const QString file = QStringLiteral("FILE"), folder = QStringLiteral("FOLDER");
+  arguments.addOptions({{QStringLiteral("model"), Text("The data model: a model text or XML."), file},
+                        {QStringLiteral("queries"), Text("The folder of the queries."), folder},
+                        {QStringLiteral("queries-in-database"), Text("The queries are in the database.")},
+                        {QStringLiteral("home"), Text("Keep settings, unsaved work and the sample there."), folder},
+                        {QStringLiteral("script"),
+                         Text("Play the script with keys and clicks, then quit; see docs/workbench.md."), file},
+                        {QStringLiteral("screenshot"),
+                         Text("Write a picture of the window, at the end of the script, then quit."), file}});
+  arguments.process(application);
+  if (arguments.positionalArguments().size() > 1) throw EException("only one database can be opened");
+
+  TProgram::TOptions options{arguments.value(QStringLiteral("home"))};
+  if (!arguments.positionalArguments().isEmpty()) {
+    options.Source = SourceOf(arguments, arguments.positionalArguments().constFirst());
+  }
+  TProgram program(options);
+  const bool plays = arguments.isSet(QStringLiteral("script")) || arguments.isSet(QStringLiteral("screenshot"));
+  if (!plays) {
+    program.Start();
+    return QApplication::exec();
+  }
+  return PlayScript(program, arguments.value(QStringLiteral("script")), arguments.value(QStringLiteral("screenshot")));
+} catch (const std::exception& error) {
+  std::fprintf(stderr, "tolvi-workbench: %s\n", error.what());
+  return 2;
+}

@@ -1,0 +1,333 @@
+#include "apps/workbench/results/resultgrid.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+#include "apps/workbench/results/celldelegate.h"
+#include "apps/workbench/results/fire.h"
+#include "apps/workbench/results/rowcopy.h"
+#include "apps/workbench/results/valuedlg.h"
+#include <tolvi/ui/qtext.h>
+
+namespace tolvi {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::uint64_t cellsCopiedAtOnce = 20'000, cellsCopiedUnasked = 100'000, cellsCopiedAtMost = 5'000'000;
+constexpr auto copySlice = 15ms;
+
+enum class TGridKey { None, Copy, CopyWithHeaders, ShowValue, StopCopying };
+
+const QKeySequence CopyWithHeadersKey(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
+
+TGridKey GridKeyOf(const QKeyEvent& event, bool isCopying) {
+  if (event.matches(QKeySequence::Copy)) return TGridKey::Copy;
+  if (QKeySequence(event.keyCombination()) == CopyWithHeadersKey) return TGridKey::CopyWithHeaders;
+  const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+  if (modifiers != Qt::NoModifier) return TGridKey::None;
+  if (event.key() == Qt::Key_Escape && isCopying) return TGridKey::StopCopying;
+  const bool shows = event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  return shows ? TGridKey::ShowValue : TGridKey::None;
+}
+
+/// Adds an entry that is found by its name.
+QAction& Add(QMenu& menu, const QString& text, const char* name, std::function<void()> act) {
+  QAction& action = *menu.addAction(text, &menu, std::move(act));
+  action.setObjectName(QLatin1String(name));
+  return action;
+}
+
+}  // namespace
+
+TResultGrid::TResultGrid(QWidget* parent)
+    : QTableView(parent),
+      FModel(new TResultModel(this)),
+      FDelegate(new TCellDelegate(*FModel, this)),
+      FCopyTimer(new QTimer(this)) {
+  setObjectName(QStringLiteral("results.grid"));
+  setAccessibleName(tr("Rows of the result"));
+  setItemDelegate(FDelegate);
+  setEditTriggers(NoEditTriggers);
+  setWordWrap(false);
+  setTabKeyNavigation(false);
+  setDragEnabled(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  SetUpHeads();
+  setModel(FModel);
+  // To show whether a column is selected, a head would ask for every row of it: it is given a selection of its own.
+  horizontalHeader()->setSelectionModel(new QItemSelectionModel(FModel, this));
+  setSortingEnabled(true);
+  FitRowHeight();
+  // A selection of many rows would be taken apart row by row to follow them.
+  FModel->OnOrderChanging = [this] {
+    const QModelIndex current = currentIndex();
+    selectionModel()->clearSelection();
+    if (current.isValid()) selectionModel()->select(current, QItemSelectionModel::Select);
+  };
+  connect(this, &QTableView::doubleClicked, this, [this] { ShowValue(); });
+  FCopyTimer->setInterval(0);
+  connect(FCopyTimer, &QTimer::timeout, this, &TResultGrid::ContinueCopy);
+}
+
+TResultGrid::~TResultGrid() { FModel->OnOrderChanging = nullptr; }
+
+void TResultGrid::SetUpHeads() {
+  QHeaderView& head = *horizontalHeader();
+  head.setSectionsMovable(true);
+  head.setHighlightSections(false);
+  head.setSortIndicatorClearable(true);
+  head.setSortIndicator(-1, Qt::AscendingOrder);
+  head.setContextMenuPolicy(Qt::CustomContextMenu);
+  head.setTextElideMode(Qt::ElideRight);
+  connect(&head, &QHeaderView::customContextMenuRequested, this, [this](QPoint at) {
+    const int column = horizontalHeader()->logicalIndexAt(at);
+    if (column < 0) return;
+    MakeColumnMenu(column)->exec(horizontalHeader()->viewport()->mapToGlobal(at));
+  });
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setHighlightSections(false);
+  verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void TResultGrid::FitRowHeight() {
+  const int height = fontMetrics().height() + fontMetrics().height() / 3;
+  verticalHeader()->setMinimumSectionSize(height);
+  verticalHeader()->setDefaultSectionSize(height);
+}
+
+void TResultGrid::SetRows(std::shared_ptr<TResultRows> rows) {
+  const std::shared_ptr<const TResultRows> old = FModel->GetRows();
+  QHeaderView& head = *horizontalHeader();
+  if (old && rows && old->Columns() == rows->Columns()) {
+    const int sortColumn = FModel->GetSortColumn();
+    const Qt::SortOrder order = FModel->GetSortOrder();
+    const int scrolled = horizontalScrollBar()->value();
+    FModel->SetRows(std::move(rows));
+    if (sortColumn >= 0) FModel->sort(sortColumn, order);
+    horizontalScrollBar()->setValue(scrolled);
+    return;
+  }
+  head.setSortIndicator(-1, Qt::AscendingOrder);
+  FModel->SetRows(std::move(rows));
+  for (int i = 0; i < FModel->columnCount(); ++i) {
+    head.showSection(i);
+    head.moveSection(head.visualIndex(i), i);
+  }
+  scrollToTop();
+  FitColumns();
+}
+
+void TResultGrid::SetDimmed(bool isDimmed) {
+  if (FDelegate->GetDimmed() == isDimmed) return;
+  FDelegate->SetDimmed(isDimmed);
+  viewport()->update();
+}
+
+bool TResultGrid::GetDimmed() const { return FDelegate->GetDimmed(); }
+
+void TResultGrid::FitColumn(int column) {
+  constexpr int rowsFitted = 100, mostLetters = 40, leastLetters = 4;
+  const QFontMetrics metrics = fontMetrics();
+  int width = metrics.averageCharWidth() * leastLetters;
+  const int count = std::min(FModel->rowCount(), rowsFitted);
+  for (int row = 0; row < count; ++row) {
+    width = std::max(width, metrics.horizontalAdvance(FModel->Texts().Line(FModel->CellAt(row, column))));
+  }
+  const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+  const int most = metrics.averageCharWidth() * mostLetters;
+  horizontalHeader()->resizeSection(column, std::min(most, std::max(width + 2 * margin + metrics.averageCharWidth(),
+                                                                    horizontalHeader()->sectionSizeHint(column))));
+}
+
+void TResultGrid::FitColumns() {
+  for (int i = 0; i < FModel->columnCount(); ++i) FitColumn(i);
+}
+
+bool TResultGrid::event(QEvent* event) {
+  // Keys of the grid go before those of the window.
+  if (event->type() == QEvent::ShortcutOverride &&
+      GridKeyOf(*static_cast<QKeyEvent*>(event), IsCopying()) != TGridKey::None) {
+    event->accept();
+    return true;
+  }
+  return QTableView::event(event);
+}
+
+void TResultGrid::keyPressEvent(QKeyEvent* event) {
+  switch (GridKeyOf(*event, IsCopying())) {
+    case TGridKey::Copy:
+      return Copy(false);
+    case TGridKey::CopyWithHeaders:
+      return Copy(true);
+    case TGridKey::ShowValue:
+      return ShowValue();
+    case TGridKey::StopCopying:
+      return StopCopying();
+    case TGridKey::None:
+      QTableView::keyPressEvent(event);
+  }
+}
+
+void TResultGrid::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  FitRowHeight();
+  FitColumns();
+}
+
+void TResultGrid::ShowValue() {
+  const QModelIndex current = currentIndex();
+  if (!current.isValid()) return;
+  const TCellView cell = FModel->CellAt(current.row(), current.column());
+  const QString column = FModel->headerData(current.column(), Qt::Horizontal).toString();
+  (new TValueDlg(column, FModel->Texts().Whole(cell), cell.Kind == svNull, this))->open();
+}
+
+// Menus
+
+int TResultGrid::VisibleColumns() const {
+  return horizontalHeader()->count() - horizontalHeader()->hiddenSectionCount();
+}
+
+void TResultGrid::SortBy(int column, Qt::SortOrder order) { sortByColumn(column, order); }
+
+void TResultGrid::FillColumnMenu(QMenu& menu, int column) {
+  const QString name = FModel->headerData(column, Qt::Horizontal).toString();
+  const auto sorted = [&](Qt::SortOrder order) {
+    return FModel->GetSortColumn() == column && FModel->GetSortOrder() == order;
+  };
+  const auto addSort = [&](const QString& text, const char* objectName, int by, Qt::SortOrder order, bool isOn) {
+    QAction& action = Add(menu, text, objectName, [this, by, order] { SortBy(by, order); });
+    action.setCheckable(true);
+    action.setChecked(isOn);
+  };
+  addSort(tr("Sort &Ascending"), "results.sortUp", column, Qt::AscendingOrder, sorted(Qt::AscendingOrder));
+  addSort(tr("Sort &Descending"), "results.sortDown", column, Qt::DescendingOrder, sorted(Qt::DescendingOrder));
+  addSort(tr("&Order of the Database"), "results.sortNone", -1, Qt::AscendingOrder, FModel->GetSortColumn() < 0);
+  menu.addSeparator();
+  Add(menu, tr("&Hide Column"), "results.hideColumn", [this, column] {
+    hideColumn(column);
+  }).setEnabled(VisibleColumns() > 1);
+  QMenu& shown = *menu.addMenu(tr("&Show Columns"));
+  for (int i = 0; i < FModel->columnCount(); ++i) {
+    QString text = FModel->headerData(i, Qt::Horizontal).toString();
+    QAction& action = Add(shown, text.replace(u'&', QLatin1String("&&")), "results.showColumn",
+                          [this, i] { setColumnHidden(i, !isColumnHidden(i)); });
+    action.setCheckable(true);
+    action.setChecked(!isColumnHidden(i));
+    action.setEnabled(isColumnHidden(i) || VisibleColumns() > 1);
+  }
+  menu.addSeparator();
+  Add(menu, tr("&Fit Width"), "results.fitColumn", [this, column] { FitColumn(column); });
+  Add(menu, tr("Fit &All Widths"), "results.fitColumns", [this] { FitColumns(); });
+  menu.addSeparator();
+  Add(menu, tr("Copy Column &Name"), "results.copyName", [name] { QGuiApplication::clipboard()->setText(name); });
+}
+
+std::unique_ptr<QMenu> TResultGrid::MakeColumnMenu(int column) {
+  auto menu = std::make_unique<QMenu>(this);
+  FillColumnMenu(*menu, column);
+  return menu;
+}
+
+void TResultGrid::contextMenuEvent(QContextMenuEvent* event) {
+  const QModelIndex current = currentIndex();
+  QMenu menu(this);
+  const bool hasSelection = selectionModel()->hasSelection();
+  QAction& copy = Add(menu, tr("&Copy"), "results.copy", [this] { Copy(false); });
+  copy.setShortcut(QKeySequence::Copy);
+  copy.setEnabled(hasSelection);
+  QAction& copyWithHeaders = Add(menu, tr("Copy with &Headers"), "results.copyWithHeaders", [this] { Copy(true); });
+  copyWithHeaders.setShortcut(CopyWithHeadersKey);
+  copyWithHeaders.setEnabled(hasSelection);
+  Add(menu, tr("Select &All"), "results.selectAll", [this] { selectAll(); }).setShortcut(QKeySequence::SelectAll);
+  menu.addSeparator();
+  QAction& show = Add(menu, tr("&Show Value"), "results.showValue", [this] { ShowValue(); });
+  show.setShortcut(Qt::Key_F2);
+  show.setEnabled(current.isValid());
+  if (current.isValid()) FillColumnMenu(*menu.addMenu(tr("Co&lumn")), current.column());
+  const bool isByKey = event->reason() == QContextMenuEvent::Keyboard && current.isValid();
+  menu.exec(isByKey ? viewport()->mapToGlobal(visualRect(current).center()) : event->globalPos());
+}
+
+// Copying
+
+void TResultGrid::Tell(const QString& words) { Fire(OnMessage, words); }
+
+void TResultGrid::Copy(bool hasHeaders) {
+  StopCopying();
+  if (!FModel->GetRows()) return;
+  std::vector<int> columns;
+  for (int i = 0; i < horizontalHeader()->count(); ++i) {
+    const int column = horizontalHeader()->logicalIndex(i);
+    if (!isColumnHidden(column)) columns.push_back(column);
+  }
+  FCopy = std::make_unique<TRowCopy>(FModel->GetRows(), FModel->GetOrder(), selectionModel()->selection(), columns,
+                                     hasHeaders, FModel->Texts());
+  const std::uint64_t count = FCopy->GetCellCount();
+  if (count == 0) return FCopy.reset();
+  if (count <= cellsCopiedUnasked) return BeginCopy();
+  const bool isTooMuch = count > cellsCopiedAtMost;
+  const QString number = QLocale().toString(static_cast<qulonglong>(count));
+  auto* question = new QMessageBox(this);
+  question->setObjectName(QStringLiteral("results.copyQuestion"));
+  question->setAttribute(Qt::WA_DeleteOnClose);
+  question->setIcon(QMessageBox::Question);
+  question->setWindowTitle(tr("Copy"));
+  question->setText(isTooMuch ? tr("%1 cells are too many for the clipboard.").arg(number)
+                              : tr("Copy %1 cells to the clipboard?").arg(number));
+  question->setInformativeText(isTooMuch ? tr("Select fewer of them, or export the rows to a file.")
+                                         : tr("A file may be the better place for so many: export the rows instead."));
+  QAbstractButton* copy = isTooMuch ? nullptr : question->addButton(tr("&Copy"), QMessageBox::AcceptRole);
+  question->addButton(isTooMuch ? QMessageBox::Close : QMessageBox::Cancel);
+  connect(question, &QMessageBox::finished, this, [this, question, copy] {
+    if (copy != nullptr && question->clickedButton() == copy) return BeginCopy();
+    FCopy.reset();
+  });
+  question->open();
+}
+
+void TResultGrid::BeginCopy() {
+  if (FCopy->GetCellCount() <= cellsCopiedAtOnce) {
+    constexpr auto ever = std::chrono::milliseconds(1h);
+    FCopy->Write(ever);
+  }
+  FCopyTimer->start();
+  ContinueCopy();
+}
+
+void TResultGrid::ContinueCopy() {
+  if (!FCopy->Write(copySlice)) {
+    const auto percent = static_cast<int>(FCopy->GetRowsWritten() * 100 / FCopy->GetRowCount());
+    return Tell(tr("Copying: %1 % (Esc stops it)").arg(percent));
+  }
+  FCopyTimer->stop();
+  auto data = std::make_unique<QMimeData>();
+  data->setText(FCopy->GetText());
+  if (const QString html = FCopy->GetHtml(); !html.isEmpty()) data->setHtml(html);
+  const auto rows = static_cast<int>(FCopy->GetRowCount());
+  FCopy.reset();
+  QGuiApplication::clipboard()->setMimeData(data.release());
+  Tell(rows == 1 ? tr("Copied 1 row") : tr("Copied %Ln rows", nullptr, rows));
+}
+
+void TResultGrid::StopCopying() {
+  FCopyTimer->stop();
+  if (!FCopy) return;
+  FCopy.reset();
+  Tell(tr("Copying was stopped; the clipboard holds what it held"));
+}
+
+}  // namespace tolvi

@@ -1,0 +1,133 @@
+// The data model of the window: its editor, its diagram, its file.
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "apps/workbench/window/mainwindow.h"
+#include <tolvi/ui/controls/waitcursor.h>
+#include <tolvi/ui/dialogs/modeldlg.h>
+#include <tolvi/ui/panels/stdspnl.h>
+#include <tolvi/ui/qtext.h>
+#include <tolvi/xml/modelxml.h>
+
+namespace tolvi {
+namespace {
+
+QString ModelFilter() {
+  return QCoreApplication::translate("tolvi::TMainWindow", "Data models (*.model *.xml);;All files (*)");
+}
+
+std::vector<TModelFormat> XmlFormat() {
+  return {{QCoreApplication::translate("tolvi::TMainWindow", "XML documents"), QStringLiteral("xml"),
+           [](const QString& file, TJCustomDBStructure& model) { LoadModelFromXmlFile(model, ToPath(file)); },
+           [](const QString& file, const TJCustomDBStructure& model) { SaveModelToXmlFile(model, ToPath(file)); }}};
+}
+
+}  // namespace
+
+void TMainWindow::ModelChanged() {
+  RefreshTitle();
+  FRefresh.start();
+}
+
+void TMainWindow::EditModelByDialog() {
+  if (!FWorkspace) return;
+  delete FDiagram;  // its places are on the editor's page, too
+  FWorkspace->Model().SetDMEButtons({dmbOpenSave});
+  T_dlgModelEdit dialog(FWorkspace->Model(), XmlFormat(), this);
+  dialog.setObjectName(QStringLiteral("model"));
+  FModelDialog = &dialog;
+  if (dialog.exec() == QDialog::Accepted) {
+    statusBar()->showMessage(tr("Changes of the model are in use now. Model > Save keeps them."), 10'000);
+  }
+  RefreshCommands();
+  RefreshTitle();
+}
+
+void TMainWindow::EditDiagram() {
+  if (!FWorkspace) return;
+  if (FDiagram) {
+    FDiagram->activateWindow();
+    return;
+  }
+  auto* window = new QDialog(this, Qt::Window);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  window->setObjectName(QStringLiteral("diagram"));
+  window->setWindowTitle(tr("Diagram of the model"));
+  auto* panel = new TJStructDesignPanel;
+  panel->setObjectName(QStringLiteral("diagram.panel"));
+  panel->SetDBStruct(&FWorkspace->Model());
+  panel->SetEditor(&FWorkspace->ModelEditor());
+  panel->SetShowActionHints(true);
+  panel->SetShowMinimap(true);
+  panel->OnError = [this](TJStructDesignPanel&, const QString& words) { TellFault(words); };
+  auto* rows = new QVBoxLayout(window);
+  rows->setContentsMargins(0, 0, 0, 0);
+  auto* tools = new QToolBar;
+  tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  for (QAction* action : panel->GetActions()) tools->addAction(action);
+  rows->addWidget(tools);
+  rows->addWidget(panel, 1);
+  window->resize(size() * 0.9);
+  FDiagram = window;
+  connect(window, &QObject::destroyed, this, [this] { RefreshCommands(); });
+  window->show();
+  Try([panel] { panel->SetActive(true); });
+}
+
+void TMainWindow::StepModel(void (TModelEditor::*step)()) {
+  if (!FWorkspace) return;
+  Try([&] { (FWorkspace->ModelEditor().*step)(); });
+  RefreshCommands();
+  RefreshTitle();
+}
+
+void TMainWindow::SaveModel() {
+  if (!FWorkspace || !Try([this] { FWorkspace->SaveModel(); })) return;
+  statusBar()->showMessage(tr("The model is saved in %1.").arg(QDir::toNativeSeparators(FWorkspace->GetModelFile())),
+                           10'000);
+  RefreshTitle();
+}
+
+void TMainWindow::SaveModelAs() {
+  if (!FWorkspace) return;
+  QString file = QFileDialog::getSaveFileName(this, tr("Save the model"), FWorkspace->GetModelFile(), ModelFilter());
+  if (file.isEmpty()) return;
+  if (QFileInfo(file).suffix().isEmpty()) file += QStringLiteral(".model");
+  if (!Try([&] { FWorkspace->SaveModelAs(file); })) return;
+  FSettings.Remember(FWorkspace->GetSource());
+  RefreshTitle();
+}
+
+void TMainWindow::LoadModel() {
+  if (!FWorkspace || !MayLeaveModel()) return;
+  const QString folder = QFileInfo(FWorkspace->GetModelFile()).absolutePath();
+  const QString file = QFileDialog::getOpenFileName(this, tr("Load a model"), folder, ModelFilter());
+  if (file.isEmpty() || !Try([&] { FWorkspace->UseModel(file); })) return;
+  FSettings.Remember(FWorkspace->GetSource());
+  RefreshCommands();
+  RefreshTitle();
+}
+
+void TMainWindow::RefreshModel() {
+  if (!FWorkspace) return;
+  TFillReport report;
+  if (!Try([&] {
+        const TWaitCursor wait;
+        report = FWorkspace->RefreshModel();
+      }))
+    return;
+  const QString words = report.Empty() ? tr("The model has all tables and columns of the database.")
+                                       : ToQStringList(report.ToStrings()).join(u'\n');
+  Tell(words);
+  RefreshCommands();
+}
+
+}  // namespace tolvi

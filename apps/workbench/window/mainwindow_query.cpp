@@ -1,0 +1,237 @@
+// The query of the window: its statement, its rows, where it is stored.
+#include <QApplication>
+#include <QClipboard>
+#include <QFileInfo>
+#include <QStatusBar>
+#include <QTabWidget>
+
+#include "apps/workbench/export/chartpane.h"
+#include "apps/workbench/export/exportdlg.h"
+#include "apps/workbench/export/printrows.h"
+#include "apps/workbench/results/resultgrid.h"
+#include "apps/workbench/results/resultpane.h"
+#include "apps/workbench/sql/importdlg.h"
+#include "apps/workbench/sql/sqlpane.h"
+#include "apps/workbench/store/conflictdlg.h"
+#include "apps/workbench/store/storepane.h"
+#include "apps/workbench/window/faultfinder.h"
+#include "apps/workbench/window/mainwindow.h"
+#include "apps/workbench/window/notebar.h"
+#include "apps/workbench/window/queryarea.h"
+#include <tolvi/panel/paneleditor.h>
+#include <tolvi/query/explain.h>
+#include <tolvi/query/paramvalues.h>
+#include <tolvi/query/rowerror.h>
+#include <tolvi/ui/qtext.h>
+
+namespace tolvi {
+namespace {
+
+bool HasMissingValues(const TBoundStatement& statement) {
+  for (const TBoundValue& value : statement.Values) {
+    if (value.IsMissing) return true;
+  }
+  return false;
+}
+
+/// The types of the columns that are fields, since databases tell less of them.
+std::vector<TFieldType> TypesOf(const TRFieldList& columns) {
+  std::vector<TFieldType> types;
+  if (columns.GetShowsAll()) return types;
+  for (const TResultField& column : columns) {
+    if (!column.GetHidden()) types.push_back(column.IsPlainField() ? column.DSFields()[0]->GetFieldType() : ftUnknown);
+  }
+  return types;
+}
+
+/// All parameters count as given, so that an empty text is one.
+void TakeGiven(TBoundStatement& statement, TJQueryPanel& panel) {
+  TParamNames names;
+  for (const TParamInfo& param : ListParams(panel)) names.insert(param.Name);
+  TakeEmptyTexts(statement, panel, names);
+}
+
+}  // namespace
+
+void TMainWindow::QueryChanged() {
+  FFaultFinder->Stop();
+  FRefresh.start();
+}
+
+void TMainWindow::ShowQuery() {
+  if (!FWorkspace) return;
+  FStorePane->SetModified(FWorkspace->IsQueryModified());
+  RefreshTitle();
+  ShowStatement();
+  ShowRows();
+}
+
+void TMainWindow::QueryLoaded() {
+  FQueryArea->ForgetSteps();
+  FChartPane->SetTitle(QueryName());
+  FNote->hide();
+  RefreshCommands();
+  QueryChanged();
+}
+
+void TMainWindow::ShowStatement() {
+  try {
+    // The syntax is one to look at: the query runs in that of its database.
+    const std::unique_ptr<TJQueryPanel> copy = CopyOfQuery();
+    copy->SetSQLSyntax(FSqlPane->GetSyntax());
+    if (copy->RFields().Empty() && copy->RootBracket().GetRowCount() == 0) return FSqlPane->SetStatement({});
+    FSqlPane->SetStatement(copy->GetQueryText());
+    FSqlPane->SetWarnings(copy->QResult().Warnings());
+  } catch (const EQueryRowError& error) {
+    FSqlPane->ShowFault(QString::fromUtf8(error.what()), error.RowID());
+  } catch (const EException& error) {
+    FSqlPane->ShowFault(QString::fromUtf8(error.what()));
+  }
+}
+
+std::unique_ptr<TJQueryPanel> TMainWindow::CopyOfQuery() const {
+  auto copy = std::make_unique<TJQueryPanel>();
+  const TJQueryPanel& panel = FWorkspace->Panel();
+  copy->SetFormatSettings(panel.GetFormatSettings());
+  copy->SetDBStruct(&FWorkspace->Model());
+  copy->SetAllowSQLFragments(panel.GetAllowSQLFragments());
+  copy->LoadFromText(FWorkspace->QueryText());
+  return copy;
+}
+
+void TMainWindow::ShowRows() {
+  if (!FResultPane->GetPreview()) return;
+  try {
+    const std::unique_ptr<TJQueryPanel> copy = CopyOfQuery();
+    if (copy->RFields().Empty()) return FResultPane->ShowNothing(tr("Add a column to the result to see rows."));
+    // So that the database need not make more rows than are shown, and one to know that there are more.
+    if (FWorkspace->HasLimitClause() && copy->GetSQLLimitClause().empty() && copy->GetSQLTopClause().empty()) {
+      copy->SetSQLLimitClause(std::to_string(FSettings.PreviewRows + 1));
+    }
+    const TBoundStatement statement = copy->GetBoundStatement(msQuestion);
+    if (HasMissingValues(statement)) {
+      return FResultPane->ShowNothing(tr("The query asks for values: run it to give them."));
+    }
+    FResultPane->Preview(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),
+                         static_cast<std::size_t>(FSettings.PreviewRows), TypesOf(copy->RFields()));
+  } catch (const EQueryRowError& error) {
+    FResultPane->ShowFault(QString::fromUtf8(error.what()));
+    FResultPane->SetFaultAction(tr("Show in query"), [this, id = error.RowID()] { FQueryArea->GoToRow(id); });
+  } catch (const EException& error) {
+    FResultPane->ShowFault(QString::fromUtf8(error.what()));
+  }
+}
+
+void TMainWindow::RunQuery() {
+  if (!FWorkspace) return;
+  FResultTabs->setCurrentWidget(FResultPane);
+  try {
+    const std::unique_ptr<TJQueryPanel> copy = CopyOfQuery();
+    copy->SetQueryName(FromQString(QueryName()));
+    if (!AskParams(this, *copy, FParams)) return;
+    TBoundStatement statement = copy->GetBoundStatement(msQuestion);
+    TakeGiven(statement, *copy);
+    FResultPane->Run(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),
+                     static_cast<std::size_t>(FSettings.MaxRows), TypesOf(copy->RFields()));
+  } catch (const EException& error) {
+    FResultPane->ShowFault(QString::fromUtf8(error.what()));
+    FQueryArea->Conditions().ReportError(error);
+  }
+}
+
+void TMainWindow::ShowDatabaseFault(const QString& words) {
+  if (!FWorkspace) return;
+  const std::string limit = FWorkspace->HasLimitClause() ? "1" : "";
+  try {
+    FFaultFinder->Find([this] { return CopyOfQuery(); }, limit,
+                       [this, words](const std::string& rowID) { ShowFaultOfRow(words, rowID); });
+  } catch (const EException&) {
+    // The query has changed since: so will what is shown.
+  }
+}
+
+void TMainWindow::ShowFaultOfRow(const QString& words, const std::string& rowID) {
+  const auto* row = FWorkspace->Panel().RootBracket().RowByID(rowID);
+  if (row == nullptr || FResultPane->IsRunning()) return;
+  const auto* condition = dynamic_cast<const TFilterCond*>(row);
+  const QString sentence = condition == nullptr ? ToQString(rowID.substr(1)) : ToQString(ExplainCondition(*condition));
+  FResultPane->ShowFault(tr("The database refuses the condition “%1”:\n%2").arg(sentence, words));
+  FResultPane->SetFaultAction(tr("Show in query"), [this, rowID] { FQueryArea->GoToRow(rowID); });
+}
+
+void TMainWindow::RowsEnded() {
+  RefreshCommands();
+  if (FResultPane->IsRunning()) return;
+  FChartPane->SetRows(FResultPane->GetRows(), *FResultPane->GetOrder());
+}
+
+bool TMainWindow::SaveQuery() {
+  if (!FWorkspace) return false;
+  bool isSaved = false;
+  try {
+    FWorkspace->SaveQuery();
+    isSaved = true;
+  } catch (const EQueryConflictError& conflict) {
+    isSaved = SettleConflict(conflict);
+  } catch (const std::exception& error) {
+    TellFault(QString::fromUtf8(error.what()));
+  }
+  if (isSaved) {
+    if (TPanelEditor* editor = FQueryArea->Conditions().GetEditor()) editor->NoteSaved();
+    statusBar()->showMessage(tr("“%1” is saved.").arg(QueryName()), 5'000);
+  }
+  FStorePane->SetModified(FWorkspace->IsQueryModified());
+  RefreshTitle();
+  return isSaved;
+}
+
+bool TMainWindow::SettleConflict(const EQueryConflictError& conflict) {
+  const TConflictChoice choice = AskConflict(this, conflict, &FWorkspace->Model());
+  if (choice == ccCancel) return false;
+  const bool isSettled = Try([&] {
+    tolvi::SettleConflict(FWorkspace->Store(), FWorkspace->Store().GetItemIndex(), conflict, choice);
+    FWorkspace->Panel().SetModified(false);
+  });
+  if (isSettled) QueryLoaded();
+  return isSettled;
+}
+
+void TMainWindow::RevertQuery() {
+  if (FWorkspace && Try([this] { FWorkspace->RevertQuery(); })) QueryLoaded();
+}
+
+void TMainWindow::PasteSql(const std::string& sql) {
+  if (!FWorkspace) return;
+  TImportOptions options{sql, FSettings.AllowSQLFragments, [this](TJQueryPanel& panel) {
+                           panel.SetFormatSettings(FWorkspace->Panel().GetFormatSettings());
+                           panel.SetTitles(FWorkspace->Panel().Titles().Lines());
+                         }};
+  const std::optional<TImported> imported = ImportSql(this, FWorkspace->Model(), options);
+  if (!imported) return;
+  Try([&] {
+    TJQueryPanel& panel = FWorkspace->Panel();
+    panel.LoadFromText(imported->QueryText);
+    panel.SetQueryName(FromQString(QueryName()));
+    panel.SetModified(true);
+  });
+  QueryChanged();
+}
+
+void TMainWindow::ExportRows() {
+  if (FResultPane->IsRunning() || !FResultPane->GetRows()) return;
+  const TMemory memory{
+      [this](const QString& key) -> QVariant {
+        return key == QStringLiteral("export.folder") ? FSettings.ExportFolder : FSettings.ExportFormat;
+      },
+      [this](const QString& key, const QVariant& value) {
+        (key == QStringLiteral("export.folder") ? FSettings.ExportFolder : FSettings.ExportFormat) = value.toString();
+      }};
+  tolvi::ExportRows(this, FResultPane->GetRows(), *FResultPane->GetOrder(), QueryName(), memory);
+}
+
+void TMainWindow::PrintRows() {
+  if (FResultPane->IsRunning() || !FResultPane->GetRows()) return;
+  tolvi::PrintRows(this, FResultPane->GetRows(), *FResultPane->GetOrder(), QueryName());
+}
+
+}  // namespace tolvi

@@ -1,0 +1,191 @@
+#include "apps/workbench/window/program.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+#include "apps/workbench/connection/connectiondlg.h"
+#include "apps/workbench/store/storepane.h"
+#include "apps/workbench/window/languages.h"
+#include "apps/workbench/window/mainwindow.h"
+#include "apps/workbench/window/themes.h"
+#include "apps/workbench/workspace/sample.h"
+#include <tolvi/foundation/numbers.h>
+#include <tolvi/ui/controls/waitcursor.h>
+#include <tolvi/ui/qtext.h>
+
+namespace tolvi {
+namespace {
+
+QString DataFolder(const QString& home) {
+  return home.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) : home;
+}
+
+QString SettingsFile(const QString& home) {
+  const QString folder = home.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) : home;
+  return QDir(folder).filePath(QStringLiteral("settings.json"));
+}
+
+}  // namespace
+
+TProgram::TProgram(const TOptions& options)
+    : FData(DataFolder(options.Home)),
+      FOptions(options),
+      FSettingsFile(SettingsFile(options.Home)),
+      FRecovery(QDir(FData).filePath(QStringLiteral("unsaved"))) {
+  connect(&FKeep, &QTimer::timeout, this, &TProgram::Keep);
+}
+
+TProgram::~TProgram() = default;
+
+QString TProgram::SampleFolder() const { return QDir(FData).filePath(QStringLiteral("sample")); }
+
+void TProgram::Start() {
+  UseTheme(Settings().Theme, Settings().FontSize);
+  MakeWindow();
+  if (!Recover()) {
+    bool isOpen = false;
+    if (FOptions.Source) isOpen = Open(*FOptions.Source);
+    if (!FOptions.Source && !Settings().Recent.empty()) isOpen = Open(Settings().Recent.front());
+    if (!isOpen) OpenSample();
+  }
+  if (!FSettingsFile.GetNote().isEmpty()) FWindow->Tell(FSettingsFile.GetNote());
+  FKeep.start(KeepMilliseconds);
+}
+
+void TProgram::MakeWindow() {
+  const QString language = tolvi::UseLanguage(Settings().Language);
+  auto window = std::make_unique<TMainWindow>(Settings(), language);
+  window->Requests = {[this] { Connect(); },
+                      [this] { OpenSample(); },
+                      [this] { RestoreSample(); },
+                      [this] { Quit(); },
+                      [this](const TSource& source) { Open(source); },
+                      [this](const QString& code) { UseLanguage(code); },
+                      [this] { UseTheme(Settings().Theme, Settings().FontSize); }};
+  if (FWindow) {
+    // Undo steps end here; what is open and not saved goes on.
+    std::unique_ptr<TWorkspace> workspace = FWindow->TakeWorkspace();
+    window->restoreGeometry(Settings().Geometry);
+    window->SetWorkspace(std::move(workspace));
+  }
+  // The program would end with its last window.
+  window->show();
+  FWindow = std::move(window);
+}
+
+void TProgram::UseLanguage(const QString& code) {
+  Settings().Language = code;
+  MakeWindow();
+}
+
+bool TProgram::Open(const TSource& source) {
+  if (!FWindow->MayLeaveQuery() || !FWindow->MayLeaveModel()) return true;
+  const QPointer<TProgram> self(this);
+  std::string password;
+  try {
+    const TConnectionUrl url = ParseConnectionUrl(source.Url);
+    password = FSecrets.InSession(url).value_or(std::string());
+  } catch (const EException& error) {
+    FWindow->TellFault(QString::fromUtf8(error.what()));
+    return false;
+  }
+  while (true) {
+    QString fault;
+    try {
+      const TWaitCursor wait;
+      auto workspace = std::make_unique<TWorkspace>(source, password, FolderOf(source, FData), SystemFormats());
+      Settings().Remember(workspace->GetSource());
+      FWindow->SetWorkspace(std::move(workspace));
+      TJStoredQueryBase& store = FWindow->GetWorkspace()->Store();
+      if (const int last = store.IndexByName(FromQString(Settings().LastQuery)); last > 0) store.SetItemIndex(last);
+      return true;
+    } catch (const std::exception& error) {
+      fault = QString::fromUtf8(error.what());
+    }
+    const TConnectionUrl url = ParseConnectionUrl(source.Url);
+    if (url.Kind == dkSQLite) {
+      FWindow->TellFault(fault);
+      return false;
+    }
+    const std::optional<std::string> given = AskPassword(FWindow.get(), url, FSecrets, fault);
+    if (!given || !self) return false;
+    password = *given;
+  }
+}
+
+void TProgram::Connect() {
+  T_dlgConnection dialog(FSecrets, FWindow.get());
+  std::vector<TConnectionUrl> recent;
+  for (const TSource& source : Settings().Recent) recent.push_back(ParseConnectionUrl(source.Url));
+  dialog.SetRecent(std::move(recent));
+  if (dialog.exec() != QDialog::Accepted) return;
+  const TConnectionUrl url = dialog.GetUrl();
+  if (!url.Password.empty()) FSecrets.KeepInSession(url, url.Password);
+  TSource source{url.Shown()};
+  for (const TSource& known : Settings().Recent) {
+    if (known.Url == source.Url) source = known;
+  }
+  Open(source);
+}
+
+void TProgram::OpenSample() {
+  try {
+    Open(UnpackSample(SampleFolder()));
+  } catch (const EException& error) {
+    FWindow->TellFault(QString::fromUtf8(error.what()));
+  }
+}
+
+void TProgram::RestoreSample() {
+  if (!FWindow->MayLeaveQuery() || !FWindow->MayLeaveModel()) return;
+  try {
+    // Its files are closed first.
+    FWindow->SetWorkspace(nullptr);
+    const QString kept = tolvi::RestoreSample(SampleFolder());
+    OpenSample();
+    if (!kept.isEmpty())
+      FWindow->Tell(tr("The sample is as new. The former one is in %1.").arg(QDir::toNativeSeparators(kept)));
+  } catch (const EException& error) {
+    FWindow->TellFault(QString::fromUtf8(error.what()));
+  }
+}
+
+bool TProgram::Recover() {
+  const std::optional<TUnsavedWork> work = FRecovery.Find();
+  if (!work || !Open(work->Source)) return false;
+  FWindow->Restore(*work);
+  Keep();
+  return true;
+}
+
+void TProgram::Keep() {
+  try {
+    if (const std::optional<TUnsavedWork> work = FWindow->Unsaved()) FRecovery.Keep(*work);
+    FSettingsFile.Save();
+    FKeepFailed = false;
+  } catch (const std::exception& error) {
+    if (!std::exchange(FKeepFailed, true)) {
+      FWindow->Tell(tr("Unsaved work cannot be kept for the case that the program ends: %1")
+                        .arg(QString::fromUtf8(error.what())));
+    }
+  }
+}
+
+void TProgram::Quit() {
+  FKeep.stop();
+  Keep();
+  QApplication::quit();
+}
+
+TFormatSettings SystemFormats() {
+  TFormatSettings formats;
+  const QLocale locale;
+  const QString point = locale.decimalPoint();
+  if (point == QStringLiteral(",")) formats.DecimalSeparator = ',';
+  return formats;
+}
+
+}  // namespace tolvi

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "apps/workbench/connection/secrets.h"
+#include "apps/workbench/workspace/recovery.h"
+#include "apps/workbench/workspace/settings.h"
+
+namespace tolvi {
+
+class TMainWindow;
+struct TFormatSettings;
+
+/// The workbench as a whole: its settings, the passwords it knows, what it keeps of unsaved work, and its window, which
+/// is made anew when another language is chosen.
+class TProgram final : public QObject {
+  Q_OBJECT
+
+ public:
+  struct TOptions {
+    /// Where settings, unsaved work, the sample and the models and queries of its own are; empty for the user's usual
+    /// places.
+    QString Home = {};
+    /// What to open; nothing: what was open the last time, at first the sample.
+    std::optional<TSource> Source = {};
+  };
+
+  explicit TProgram(const TOptions& options);
+  ~TProgram() override;
+
+  /// Shows the window, opens the source, brings unsaved work of a program that was killed back.
+  void Start();
+  /// False when it could not be opened and the user gave up; the former source is then still open.
+  bool Open(const TSource& source);
+  TMainWindow& Window() const { return *FWindow; }
+  TSettings& Settings() { return FSettingsFile.Settings; }
+
+  /// How often unsaved work is kept.
+  static constexpr int KeepMilliseconds = 2000;
+
+ private:
+  void MakeWindow();
+  void UseLanguage(const QString& code);
+  void Connect();
+  void OpenSample();
+  void RestoreSample();
+  void Keep();
+  void Quit();
+  bool Recover();
+  QString SampleFolder() const;
+
+  const QString FData;
+  const TOptions FOptions;
+  TSettingsFile FSettingsFile;
+  TRecovery FRecovery;
+  TSecrets FSecrets;
+  std::unique_ptr<TMainWindow> FWindow;
+  QTimer FKeep;
+  // A failure to keep unsaved work is told once.
+  bool FKeepFailed = false;
+};
+
+/// The user's locale, as the panels read and show values.
+TFormatSettings SystemFormats();
+
+}  // namespace tolvi

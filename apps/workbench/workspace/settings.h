@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+#include "apps/workbench/workspace/source.h"
+
+namespace tolvi {
+
+enum TTheme : std::uint8_t { thSystem, thLight, thDark };
+
+/// What the workbench remembers from one time to the next. No passwords.
+struct TSettings {
+  /// The code of a language ("de"); empty for the system's.
+  QString Language = {};
+  TTheme Theme = thSystem;
+  /// In points; 0 for the system's.
+  int FontSize = 0;
+  /// Whether the first rows are shown while a query is edited, and how many.
+  bool Preview = true;
+  int PreviewRows = 100;
+  /// How many rows a run reads at most; 0 for all.
+  std::int64_t MaxRows = 1'000'000;
+  /// Whether queries may hold rows of SQL, which reach the database as they are.
+  bool AllowSQLFragments = false;
+  /// The last one first; `Last` says which query of it was shown.
+  std::vector<TSource> Recent = {};
+  QString LastQuery = {};
+  QByteArray Geometry = {}, Layout = {};
+  QString ExportFolder = {}, ExportFormat = {};
+  /// By `SourceKey`: the order of the queries; the syntax of the statement that is shown. The last values
+  /// of parameters.
+  QJsonObject Orders = {}, Syntaxes = {}, Params = {};
+
+  /// Puts the source at the head of `Recent`.
+  void Remember(const TSource& source);
+};
+
+/// Keeps the settings in a file. A file that cannot be read is kept beside, as ".broken", and told in `GetNote`.
+class TSettingsFile final {
+ public:
+  explicit TSettingsFile(QString file);
+
+  const QString& GetNote() const { return FNote; }
+  TSettings Settings;
+  /// Writes them whole or not at all, if they have changed. Raises `EFileError`.
+  void Save();
+
+ private:
+  QString FFile, FNote;
+  QByteArray FSaved;
+};
+
+}  // namespace tolvi

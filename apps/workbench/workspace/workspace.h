@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "apps/workbench/workspace/recovery.h"
+#include "apps/workbench/workspace/source.h"
+#include <tolvi/connect/sqlconnection.h>
+#include <tolvi/connect/sqldbinfo.h>
+#include <tolvi/model/dbstruc.h>
+#include <tolvi/panel/modeleditor.h>
+#include <tolvi/query/qpbaselink.h>
+#include <tolvi/query/querpnl.h>
+#include <tolvi/store/storedqueries.h>
+
+namespace tolvi {
+
+/// An open source: the connection, the data model over it, the store of queries, and the query that is edited. It knows
+/// no window.
+class TWorkspace final {
+ public:
+  /// Opens all of it. `folder` is where the workbench keeps what the source has no place of its own for. A database
+  /// without a model gets one that is filled from its catalogue, a store without queries a first one. Waits for the
+  /// database. Raises `EConnectError`, `EFileError`, `EQueryStoreError`, and what reading a model raises, which then
+  /// names the file.
+  TWorkspace(const TSource& source, const std::string& password, const QString& folder, const TFormatSettings& formats);
+  TWorkspace(const TWorkspace&) = delete;
+  TWorkspace& operator=(const TWorkspace&) = delete;
+  ~TWorkspace();
+
+  const TSource& GetSource() const { return FSource; }
+  /// With the password: for further connections.
+  const TConnectionUrl& GetUrl() const { return FUrl; }
+  TSqlConnection& Connection() { return FConnection; }
+  /// Whether the database knows LIMIT.
+  bool HasLimitClause() const { return FUrl.Kind != dkODBC; }
+  TJDBStructure& Model() { return FModel; }
+  TJQueryPanel& Panel() { return FPanel; }
+  TJStoredQueryBase& Store() { return *FStore; }
+  /// What was noticed on opening, in sentences.
+  const TStrings& GetNotes() const { return FNotes; }
+
+  /// Where the model is kept.
+  const QString& GetModelFile() const { return FModelFile; }
+  /// Whether the model differs from its file.
+  bool IsModelModified() { return FModelEditor.GetModified(); }
+  /// The history of the model's changes, those by dialogs, too.
+  TModelEditor& ModelEditor() { return FModelEditor; }
+  void SaveModel();
+  /// From then on, the model is kept there: XML or the model text, by the end of the name.
+  void SaveModelAs(const QString& file);
+  /// Shows the model of the file, which is the source's from then on; the former one stays where it fails.
+  void UseModel(const QString& file);
+  /// Reads the model's file again.
+  void RevertModel() { LoadModel(FModelFile); }
+  /// Reads the catalogue again and adds what the model lacks; what it did.
+  TFillReport RefreshModel();
+
+  /// The text of the query as it is, be it stored or not.
+  std::string QueryText();
+  /// Whether the query differs from the stored one.
+  bool IsQueryModified() const { return FPanel.GetModified(); }
+  /// Stores the query. Raises `EQueryConflictError` and what storing raises.
+  void SaveQuery();
+  /// Shows the stored query again.
+  void RevertQuery();
+
+  /// What is not stored; puts back what was not. A query that the store lost becomes a new one there.
+  TUnsavedWork Unsaved();
+  void Restore(const TUnsavedWork& work);
+
+ private:
+  void LoadModel(const QString& file);
+  void OpenModel(const QString& file);
+  void OpenStore(const QString& folder);
+  void FillModelAnew();
+  TJStoredQuery* CurrentQuery() const;
+
+  TSource FSource;
+  TConnectionUrl FUrl;
+  TSqlConnection FConnection;
+  TJSqlDBInfo FInfo;
+  TJDBStructure FModel;
+  TModelEditor FModelEditor;
+  QString FModelFile;
+  TJQueryPanel FPanel;
+  std::unique_ptr<TJStoredQueryBase> FStore;
+  TJQPBaseLink FLink;
+  TStrings FNotes;
+};
+
+/// Where the workbench keeps what belongs to the source, in the folder of all its data.
+QString FolderOf(const TSource& source, const QString& home);
+
+}  // namespace tolvi

@@ -1,0 +1,65 @@
+#include "apps/workbench/window/faultfinder.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <tolvi/query/querpnl.h>
+
+namespace tolvi {
+namespace {
+
+class FaultFinder : public testing::Test {
+ protected:
+  FaultFinder() {
+    FModel.LoadFromFile(TOLVI_SOURCE_DIR "/samples/shop/shop.model");
+    FFinder.SetConnection(ParseConnectionUrl("sqlite:" TOLVI_SHOP_DATABASE));
+    FQuery.SetDBStruct(&FModel);
+    FQuery.SetActive(true);
+    FQuery.SetAllowSQLFragments(true);
+    FQuery.RFields().Add(*FModel.FieldByName(fnFullName, "Customers.Company"));
+    TFilterBracket& inner = FQuery.AddBracket(FQuery.RootBracket());
+    TDSField& city = *FModel.FieldByName(fnFullName, "Customers.City");
+    FQuery.AddSimpleCond(FQuery.RootBracket(), city, *FModel.OperatorByName("Equal"), "Berlin");
+    FQuery.AddSimpleCond(inner, city, *FModel.OperatorByName("Equal"), "Paris");
+    FInner = &inner;
+  }
+
+  /// The row that is found; "none" when none is within the time.
+  std::string Find() {
+    std::string found = "none";
+    const std::string text = FQuery.SaveToText();
+    FFinder.Find(
+        [&] {
+          auto copy = std::make_unique<TJQueryPanel>();
+          copy->SetDBStruct(&FModel);
+          copy->SetAllowSQLFragments(true);
+          copy->LoadFromText(text);
+          return copy;
+        },
+        "1", [&found](const std::string& rowID) { found = rowID; });
+    // As long as a fault may take; a row that is none must not come at all.
+    (void)QTest::qWaitFor([&found] { return found != "none"; }, 1000);
+    return found;
+  }
+
+  TJDBStructure FModel;
+  TJQueryPanel FQuery;
+  TFilterBracket* FInner = nullptr;
+  TFaultFinder FFinder;
+};
+
+TEST_F(FaultFinder, FindsTheConditionThatTheDatabaseRefuses) {
+  FQuery.AddSQLFragment(*FInner, "no_such_function(Customers.City) > 1");
+  EXPECT_EQ(Find(), ".1.2");
+  FInner->GetRow(1).SetEnabled(false);
+  EXPECT_EQ(Find(), "none") << "it does not take part";
+}
+
+TEST_F(FaultFinder, IsSilentWhenNoConditionIsAtFault) {
+  FQuery.RFields().AddBySQLExpr("no_such_function(Customers.City)");
+  EXPECT_EQ(Find(), "none");
+}
+
+}  // namespace
+}  // namespace tolvi

@@ -1,0 +1,152 @@
+#include "apps/workbench/workspace/workspace.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include "apps/workbench/workspace/sample.h"
+#include "apps/workbench/workspace/settings.h"
+#include <tolvi/foundation/files.h>
+#include <tolvi/ui/qtext.h>
+
+namespace tolvi {
+namespace {
+
+class Workspace : public testing::Test {
+ protected:
+  QString Path(const char* name) const { return FFolder.filePath(QLatin1String(name)); }
+  std::unique_ptr<TWorkspace> Open(const TSource& source) const {
+    return std::make_unique<TWorkspace>(source, std::string(), FolderOf(source, FFolder.path()), TFormatSettings{});
+  }
+  /// The sample's database, without its model and queries.
+  TSource Bare() {
+    QFile::copy(QStringLiteral(TOLVI_SHOP_DATABASE), Path("bare.sqlite"));
+    return {"sqlite:" + FromQString(Path("bare.sqlite"))};
+  }
+
+  QTemporaryDir FFolder;
+};
+
+TEST_F(Workspace, UnpacksTheSampleOnceAndKeepsWhatTheUserDidToIt) {
+  const QString folder = Path("sample");
+  const TSource source = UnpackSample(folder);
+  {
+    const auto workspace = Open(source);
+    EXPECT_EQ(workspace->Store().Count(), 40);
+    EXPECT_EQ(workspace->Panel().GetQueryName(), workspace->Store().GetCurrentQuery()->GetQueryName());
+    EXPECT_NE(workspace->Panel().GetQueryText(), "");
+    EXPECT_FALSE(workspace->IsModelModified());
+    workspace->Store().EraseQuery(3);
+  }
+  EXPECT_EQ(UnpackSample(folder), source);
+  EXPECT_EQ(Open(source)->Store().Count(), 39);
+  const QString kept = RestoreSample(folder);
+  EXPECT_TRUE(QFile::exists(kept + QStringLiteral("/shop.sqlite")));
+  EXPECT_EQ(Open(source)->Store().Count(), 40);
+}
+
+TEST_F(Workspace, FillsAModelAndMakesAFirstQueryForADatabaseThatHasNone) {
+  const TSource source = Bare();
+  {
+    const auto workspace = Open(source);
+    EXPECT_GE(workspace->Model().Fields().Count(), 100U);
+    ASSERT_EQ(workspace->Store().Count(), 1);
+    EXPECT_FALSE(workspace->IsQueryModified());
+    EXPECT_NE(workspace->Panel().GetQueryText().find("SELECT"), std::string::npos);
+    workspace->Model().GetTable(0).SetDisplayName("Renamed");
+    EXPECT_TRUE(workspace->IsModelModified());
+    workspace->SaveModel();
+    EXPECT_FALSE(workspace->IsModelModified());
+  }
+  const auto again = Open(source);
+  EXPECT_EQ(again->Model().GetTable(0).GetDisplayName(), "Renamed");
+  EXPECT_EQ(again->Store().Count(), 1);
+  EXPECT_TRUE(again->RefreshModel().AddedTables.Empty());
+}
+
+TEST_F(Workspace, KeepsQueriesInTheDatabaseWhenToldTo) {
+  TSource source = Bare();
+  source.QueriesInDatabase = true;
+  Open(source)->Store().AddQuery("In here", {});
+  EXPECT_GE(Open(source)->Store().IndexByName("In here"), 0);
+}
+
+TEST_F(Workspace, SaysWhichFileCannotBeRead) {
+  TSource source = Bare();
+  source.ModelFile = FromQString(Path("broken.model"));
+  WriteFileAtomically(source.ModelFile, "[FieldsCount]\nCount=many\n");
+  try {
+    Open(source);
+    FAIL() << "a broken model was opened";
+  } catch (const EFileError& error) {
+    EXPECT_NE(error.Message().find("broken.model: "), std::string::npos) << error.Message();
+  }
+  EXPECT_THROW(Open({"sqlite:" + FromQString(Path("none.sqlite"))}), EConnectError);
+}
+
+TEST_F(Workspace, PutsUnsavedWorkBackAlsoWhenItsQueryIsGone) {
+  const TSource source = UnpackSample(Path("sample"));
+  TUnsavedWork work;
+  {
+    const auto workspace = Open(source);
+    EXPECT_TRUE(workspace->Unsaved().IsEmpty());
+    workspace->Store().SetItemIndex(2);
+    workspace->Panel().AddCondition(workspace->Panel().RootBracket(),
+                                    *workspace->Model().FieldByName(fnFullName, "Customers.City"));
+    workspace->Model().GetTable(0).SetDisplayName("Edited");
+    work = workspace->Unsaved();
+    EXPECT_EQ(work, workspace->Unsaved());
+    EXPECT_TRUE(workspace->IsQueryModified());
+  }
+  const auto check = [&work](TWorkspace& workspace) {
+    workspace.Restore(work);
+    EXPECT_EQ(workspace.Model().GetTable(0).GetDisplayName(), "Edited");
+    EXPECT_TRUE(workspace.IsModelModified());
+    EXPECT_EQ(workspace.QueryText().find("[Row"), work.QueryText->find("[Row"));
+  };
+  const auto workspace = Open(source);
+  check(*workspace);
+  EXPECT_EQ(workspace->Store().GetItemIndex(), 2);
+  EXPECT_EQ(workspace->QueryText(), *work.QueryText);
+  EXPECT_TRUE(workspace->IsQueryModified());
+
+  const auto other = Open(source);
+  other->Store().EraseQuery(2);
+  check(*other);
+  EXPECT_EQ(other->Store().Count(), 40);
+  EXPECT_EQ(other->Store().GetCurrentQuery()->GetQueryName(), work.QueryName);
+}
+
+TEST_F(Workspace, RemembersSettingsAndKeepsAFileItCannotRead) {
+  const QString file = Path("settings.json");
+  const TSource source{"sqlite:a.db", "a.model", "queries", true};
+  {
+    TSettingsFile settings(file);
+    settings.Settings.Theme = thDark;
+    settings.Settings.MaxRows = 0;
+    settings.Settings.Orders.insert(QStringLiteral("a"), QStringLiteral("b"));
+    for (int i = 0; i < 20; ++i) settings.Settings.Remember({"sqlite:" + std::to_string(i)});
+    settings.Settings.Remember({"sqlite:a.db"});
+    settings.Settings.Remember(source);
+    settings.Save();
+  }
+  {
+    const TSettingsFile settings(file);
+    EXPECT_EQ(settings.Settings.Theme, thDark);
+    EXPECT_EQ(settings.Settings.MaxRows, 0);
+    EXPECT_EQ(settings.Settings.Orders.size(), 1);
+    EXPECT_EQ(settings.Settings.Recent.size(), 12U);
+    EXPECT_EQ(settings.Settings.Recent[0], source);
+    EXPECT_EQ(settings.Settings.Recent[1].Url, "sqlite:19");
+    EXPECT_TRUE(settings.GetNote().isEmpty());
+  }
+  WriteFileAtomically(ToPath(file), "{ half");
+  const TSettingsFile settings(file);
+  EXPECT_TRUE(settings.GetNote().contains(QStringLiteral("settings.json.broken")));
+  EXPECT_EQ(ReadFile(ToPath(file + QStringLiteral(".broken"))), "{ half");
+}
+
+}  // namespace
+}  // namespace tolvi
