@@ -5,12 +5,13 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/connect/api.h>
 #include <tolvi/foundation/errors.h>
 
 namespace tolvi {
 
 /// A connection cannot be opened, or a statement failed. The message holds what the database said, never a password.
-class EConnectError : public EException {
+class TOLVI_CONNECT_API EConnectError : public EException {
  public:
   using EException::EException;
 };
@@ -26,7 +27,7 @@ enum TDatabaseKind : std::uint8_t { dkSQLite, dkPostgreSQL, dkMySQL, dkODBC };
 /// Whatever else there is a driver for: "odbc:NAME" of a data source, or "odbc:" and the attributes of a connection,
 /// "odbc:Driver={SQLite3};Database=/home/anna/shop.sqlite;UID=anna;PWD=secret". They are taken as they stand, without
 /// "%20"; a value with ";" in it stands in braces.
-struct TConnectionUrl {
+struct TOLVI_CONNECT_API TConnectionUrl {
   TDatabaseKind Kind = dkSQLite;
   /// The file of `dkSQLite` (":memory:" for none); of `dkODBC` the name of the data source, or the attributes but for
   /// user and password; else the name of the database.
@@ -44,18 +45,18 @@ struct TConnectionUrl {
 };
 
 /// The preset of SQL formats that suits the kind (see `ApplyFormatPreset`).
-[[nodiscard]] std::string_view FormatPresetOf(TDatabaseKind kind);
+[[nodiscard]] TOLVI_CONNECT_API std::string_view FormatPresetOf(TDatabaseKind kind);
 
 /// A value for the attributes of ODBC, in braces where it would be misread.
-[[nodiscard]] std::string OdbcValue(std::string_view value);
+[[nodiscard]] TOLVI_CONNECT_API std::string OdbcValue(std::string_view value);
 
 /// Whether the text begins like a URL ("sqlite:", "postgresql://", also "other://"), and is not the name of a file.
-[[nodiscard]] bool IsConnectionUrl(std::string_view text);
+[[nodiscard]] TOLVI_CONNECT_API bool IsConnectionUrl(std::string_view text);
 
 /// The parts of a text that may be passwords, if it is a URL, right or wrong: for those who show what they were given.
-[[nodiscard]] std::vector<std::string_view> PasswordsIn(std::string_view url);
+[[nodiscard]] TOLVI_CONNECT_API std::vector<std::string_view> PasswordsIn(std::string_view url);
 
 /// Raises `EConnectError`, which says what is wrong and how such a URL looks, and does not repeat a password.
-[[nodiscard]] TConnectionUrl ParseConnectionUrl(std::string_view url);
+[[nodiscard]] TOLVI_CONNECT_API TConnectionUrl ParseConnectionUrl(std::string_view url);
 
 }  // namespace tolvi

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/connect/api.h>
 #include <tolvi/connect/connecturl.h>
 #include <tolvi/connect/sqlvalue.h>
 #include <tolvi/foundation/fieldtypes.h>
@@ -19,7 +20,7 @@ namespace tolvi {
 class TJQueryPanel;
 
 /// A statement was ended by `TJQueryRunner::Cancel`.
-class ECancelledError final : public EConnectError {
+class TOLVI_CONNECT_API ECancelledError final : public EConnectError {
  public:
   using EConnectError::EConnectError;
 };
@@ -32,7 +33,7 @@ class ECancelledError final : public EConnectError {
 ///
 /// Belongs to the thread of its connection, but for `Cancel`. While rows are being read, the connection is not used for
 /// anything else. Errors of the database are `EConnectError`s with its words and the statement.
-class TJQueryRunner final {
+class TOLVI_CONNECT_API TJQueryRunner final {
  public:
   /// Asked for the value of a parameter that has none, as text of the type in the locale of the query; nothing: do not
   /// run the query. The display name is what to ask a person for.

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include <tolvi/connect/api.h>
 #include <tolvi/connect/connecturl.h>
 
 namespace tolvi {
@@ -29,7 +30,7 @@ struct TSqlConnectOptions {
 ///
 /// The database drivers need a QCoreApplication. Where none exists, this makes one, which stays to the end of the
 /// program: a host that has its own makes it before.
-class TSqlConnection final {
+class TOLVI_CONNECT_API TSqlConnection final {
  public:
   /// Raises `EConnectError` with the database's words and what to do.
   explicit TSqlConnection(const TConnectionUrl& url, const TSqlConnectOptions& options = {});

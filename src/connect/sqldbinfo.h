@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/connect/api.h>
 #include <tolvi/connect/connecturl.h>
 #include <tolvi/model/modelfill.h>
 #include <tolvi/schema/dbinfo.h>
@@ -15,7 +16,7 @@ namespace tolvi {
 class TSqlCatalogue;
 
 /// How to fill a model from a database of that kind: the defaults, with names quoted where it would fold their case.
-[[nodiscard]] TFillOptions FillOptionsFor(TDatabaseKind kind);
+[[nodiscard]] TOLVI_CONNECT_API TFillOptions FillOptionsFor(TDatabaseKind kind);
 
 /// The catalogue of an open SQLite, PostgreSQL, MySQL or ODBC database. The connection is the host's own QSqlDatabase,
 /// or that of a `TSqlConnection`; it is found by its name at each question, in the thread of the question.
@@ -35,7 +36,7 @@ class TSqlCatalogue;
 ///
 /// Every question raises `EConnectError` when there is no open connection of that name or the database refuses; a table
 /// that is not in the catalogue has no fields.
-class TJSqlDBInfo final : public TJDBInfo {
+class TOLVI_CONNECT_API TJSqlDBInfo final : public TJDBInfo {
  public:
   explicit TJSqlDBInfo(std::string_view connectionName = {});
   ~TJSqlDBInfo() override;

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/connect/api.h>
 #include <tolvi/store/storedqueries.h>
 
 namespace tolvi {
@@ -27,7 +28,7 @@ namespace tolvi {
 ///
 /// `EConnectError`: there is no open connection of that name, or the database refuses, as when it is read-only, or
 /// locked by another for longer than the connection waits. Nothing was changed then, unless the connection broke.
-class TJSqlQueryBase final : public TJStoredQueryBase {
+class TOLVI_CONNECT_API TJSqlQueryBase final : public TJStoredQueryBase {
  public:
   explicit TJSqlQueryBase(std::string_view connectionName = {});
   std::string_view ClassName() const override { return "TJSqlQueryBase"; }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -16,7 +17,7 @@ class TComponent;
 
 /// What a component declares in `DefineProperties`: each published property with how to get and set it. Reading calls
 /// the setters of the properties that the stream holds, writing calls the getters and leaves out defaults.
-class TPropertyFiler {
+class TOLVI_CORE_API TPropertyFiler {
  public:
   virtual ~TPropertyFiler() = default;
   virtual void Boolean(std::string_view name, const std::function<bool()>& get, const std::function<void(bool)>& set,
@@ -40,7 +41,7 @@ class TPropertyFiler {
 /// it when it goes, and streams its published properties.
 ///
 /// Components stay at their address: neither copied nor moved.
-class TComponent {
+class TOLVI_CORE_API TComponent {
  public:
   TComponent() = default;
   TComponent(const TComponent&) = delete;
@@ -95,7 +96,7 @@ class TComponent {
 };
 
 /// The part of `TRef` that knows no type.
-class TRefBase {
+class TOLVI_CORE_API TRefBase {
  public:
   TRefBase(const TRefBase&) = delete;
   TRefBase& operator=(const TRefBase&) = delete;

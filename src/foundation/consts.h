@@ -3,6 +3,8 @@
 #include <span>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 /// A message shown to people: its name in code and its English text. "%s" and "%d" are placeholders for `Format`.
@@ -66,6 +68,6 @@ inline constexpr TMessage SStructureIsEmpty{"SStructureIsEmpty", "Structure is e
 inline constexpr TMessage SNoPathBetween{"SNoPathBetween", "No path between table \"%s\" and \"$s\""};
 
 /// Every message, in the order above.
-std::span<const TMessage> AllMessages();
+TOLVI_CORE_API std::span<const TMessage> AllMessages();
 
 }  // namespace tolvi

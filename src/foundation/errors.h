@@ -6,12 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/format.h>
 
 namespace tolvi {
 
 /// Base of every exception that the library raises. `what()` is the message, ready to be shown to a person.
-class EException : public std::runtime_error {
+class TOLVI_CORE_API EException : public std::runtime_error {
  public:
   explicit EException(const std::string& message) : std::runtime_error(message) {}
   EException(std::string_view message, std::initializer_list<TFormatArg> args)
@@ -21,13 +22,13 @@ class EException : public std::runtime_error {
 };
 
 /// Text that cannot be converted to a number, a date or an enumeration.
-class EConvertError : public EException {
+class TOLVI_CORE_API EConvertError : public EException {
  public:
   using EException::EException;
 };
 
 /// An index outside a list.
-class EListError : public EException {
+class TOLVI_CORE_API EListError : public EException {
  public:
   using EException::EException;
   /// "List index out of bounds (%d)" with the index.
@@ -35,19 +36,19 @@ class EListError : public EException {
 };
 
 /// A file that cannot be read or written; the message names it and the reason.
-class EFileError : public EException {
+class TOLVI_CORE_API EFileError : public EException {
  public:
   using EException::EException;
 };
 
 /// A component text that cannot be read; the message names the line.
-class EStreamError : public EException {
+class TOLVI_CORE_API EStreamError : public EException {
  public:
   using EException::EException;
 };
 
 /// Base of the errors that carry a code besides their message.
-class EJTarvelonError : public EException {
+class TOLVI_CORE_API EJTarvelonError : public EException {
  public:
   EJTarvelonError(std::int32_t errorCode, const std::string& message) : EException(message), FErrorCode(errorCode) {}
   EJTarvelonError(std::int32_t errorCode, std::string_view message, std::initializer_list<TFormatArg> args)
@@ -60,31 +61,31 @@ class EJTarvelonError : public EException {
 };
 
 /// Raised by the data model.
-class EJDBStructError : public EJTarvelonError {
+class TOLVI_CORE_API EJDBStructError : public EJTarvelonError {
  public:
   using EJTarvelonError::EJTarvelonError;
 };
 
 /// Raised by the query definition and the query panel.
-class EJQueryPanelError : public EJTarvelonError {
+class TOLVI_CORE_API EJQueryPanelError : public EJTarvelonError {
  public:
   using EJTarvelonError::EJTarvelonError;
 };
 
 /// Raised by the catalogue source.
-class EJDBInfoError : public EJTarvelonError {
+class TOLVI_CORE_API EJDBInfoError : public EJTarvelonError {
  public:
   using EJTarvelonError::EJTarvelonError;
 };
 
 /// Raised by the query store.
-class EJQueryBaseError : public EJTarvelonError {
+class TOLVI_CORE_API EJQueryBaseError : public EJTarvelonError {
  public:
   using EJTarvelonError::EJTarvelonError;
 };
 
 /// Raised by the SQL parser. The message ends with a line break, CR LF, and "Line:" with the number of the line.
-class ESQLParserError : public EException {
+class TOLVI_CORE_API ESQLParserError : public EException {
  public:
   ESQLParserError(std::string_view message, std::int32_t line);
 
@@ -96,7 +97,7 @@ class ESQLParserError : public EException {
 };
 
 /// Raised when a SELECT statement cannot be made a query. The message begins with the place: "Line 3, column 7: ...".
-class ESQLImportError : public EException {
+class TOLVI_CORE_API ESQLImportError : public EException {
  public:
   ESQLImportError(std::int32_t line, std::int32_t column, std::string_view reason);
 
@@ -112,19 +113,19 @@ class ESQLImportError : public EException {
 };
 
 /// Raised by the result fields panel.
-class ERFPanelError : public EException {
+class TOLVI_CORE_API ERFPanelError : public EException {
  public:
   using EException::EException;
 };
 
 /// Raised by the structure designer.
-class EStructureDesignError : public EException {
+class TOLVI_CORE_API EStructureDesignError : public EException {
  public:
   using EException::EException;
 };
 
 /// Raised by the drop-down label controls.
-class EDDLabelError : public EException {
+class TOLVI_CORE_API EDDLabelError : public EException {
  public:
   using EException::EException;
 };

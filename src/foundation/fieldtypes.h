@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/sets.h>
 
 namespace tolvi {
@@ -69,16 +70,16 @@ inline constexpr int FieldTypeCount = ftSingle + 1;
 using TFieldTypes = TSet<TFieldType>;
 
 /// The identifier of the type ("ftString").
-std::string_view FldTypeToStr(TFieldType fieldType);
+TOLVI_CORE_API std::string_view FldTypeToStr(TFieldType fieldType);
 
 /// The type of that identifier, ignoring case. Raises `EConvertError` for any other text.
-TFieldType StrToFldType(std::string_view text);
+TOLVI_CORE_API TFieldType StrToFldType(std::string_view text);
 
 /// As `StrToFldType`, with nothing for an unknown identifier.
-std::optional<TFieldType> TryStrToFldType(std::string_view text);
+TOLVI_CORE_API std::optional<TFieldType> TryStrToFldType(std::string_view text);
 
 /// The type with that ordinal, or nothing when there is none.
-std::optional<TFieldType> FieldTypeByOrdinal(std::int64_t ordinal);
+TOLVI_CORE_API std::optional<TFieldType> FieldTypeByOrdinal(std::int64_t ordinal);
 
 /// Types whose values are texts, whatever their length: `ftString`, `ftMemo`, `ftFmtMemo`, `ftFixedChar`,
 /// `ftWideString`. Comparison without regard to case applies to these.

@@ -7,10 +7,12 @@
 #include <string_view>
 #include <variant>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 /// One argument of `Format`: a text for "%s" or a whole number for "%d".
-class TFormatArg {
+class TOLVI_CORE_API TFormatArg {
  public:
   TFormatArg(std::string_view text) : FValue(text) {}
   TFormatArg(const std::string& text) : FValue(std::string_view(text)) {}
@@ -25,6 +27,6 @@ class TFormatArg {
 
 /// The message with each "%s" and "%d" replaced by the next argument and "%%" by "%". Any other "%" or "$" stands for
 /// itself; a placeholder without an argument is left as it is.
-std::string Format(std::string_view message, std::initializer_list<TFormatArg> args);
+TOLVI_CORE_API std::string Format(std::string_view message, std::initializer_list<TFormatArg> args);
 
 }  // namespace tolvi

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/foundation/text.h>
 
@@ -17,16 +18,16 @@ namespace tolvi {
 /// model text, the query text and the titles are written so.
 
 /// The key=value lines of the section of that name (the first one, ignoring case), up to the next header.
-TStrings XReadSLSectionValues(const TStrings& lines, std::string_view section);
+TOLVI_CORE_API TStrings XReadSLSectionValues(const TStrings& lines, std::string_view section);
 
 /// The section names of the lines, in order.
-TStrings ReadSLSections(const TStrings& lines);
+TOLVI_CORE_API TStrings ReadSLSections(const TStrings& lines);
 
 /// Whether the line is a header: its first character is "[" and its last "]".
-bool IsSectionHeader(std::string_view line);
+TOLVI_CORE_API bool IsSectionHeader(std::string_view line);
 
 /// One section of a `TSectionedText`. The views point into the text.
-class TSection {
+class TOLVI_CORE_API TSection {
  public:
   TSection(std::string_view name, std::string_view body, std::size_t headerLine)
       : FName(name), FBody(body), FHeaderLine(headerLine) {}
@@ -71,7 +72,7 @@ class TSection {
 ///
 /// Lines end with LF or CR LF; a leading byte order mark is skipped. A free section (SQL, a description) ends only at a
 /// header for which `isHeader` is true; a key=value section ends at any header.
-class TSectionedText {
+class TOLVI_CORE_API TSectionedText {
  public:
   using THeaderTest = bool (*)(std::string_view name);
 
@@ -113,7 +114,7 @@ class TSectionedText {
 };
 
 /// Writes sectioned text into one growing buffer with CR LF line breaks.
-class TSectionWriter {
+class TOLVI_CORE_API TSectionWriter {
  public:
   explicit TSectionWriter(TSectionedText::THeaderTest isHeader) : FIsHeader(isHeader) {}
 

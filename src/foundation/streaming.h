@@ -6,13 +6,14 @@
 #include <string_view>
 #include <unordered_map>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/foundation/text.h>
 
 namespace tolvi {
 
 /// The component classes that a text may name, each with the function that makes an empty component of it.
-class TComponentRegistry {
+class TOLVI_CORE_API TComponentRegistry {
  public:
   using TFactory = std::function<std::unique_ptr<TComponent>()>;
 
@@ -53,7 +54,7 @@ inline constexpr std::size_t MaxComponentNesting = 1000;
 ///
 /// Raises `EStreamError` when the text could not be read back: a reference leads out of the tree or to a component
 /// without a name, or the components nest too deep.
-std::string WriteComponentText(const TComponent& root);
+TOLVI_CORE_API std::string WriteComponentText(const TComponent& root);
 
 /// Makes the component tree of such a text. References are set when all components are there, in the order of the
 /// text; then `Loaded` is called for every component in the order of the text, owners before the components that
@@ -61,6 +62,6 @@ std::string WriteComponentText(const TComponent& root);
 ///
 /// Raises `EStreamError` for a text that cannot be read, and in place of any `EException` that a component raises
 /// while it is read; the message begins with "Line %d: ", counted from 1. What was made so far is destroyed.
-std::unique_ptr<TComponent> ReadComponentText(std::string_view text, const TComponentRegistry& registry);
+TOLVI_CORE_API std::unique_ptr<TComponent> ReadComponentText(std::string_view text, const TComponentRegistry& registry);
 
 }  // namespace tolvi

@@ -6,10 +6,12 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 /// A list of text lines. Indexes count from 0; one outside the list raises `EListError`.
-class TStrings {
+class TOLVI_CORE_API TStrings {
  public:
   TStrings() = default;
   TStrings(std::initializer_list<std::string_view> lines) : FLines(lines.begin(), lines.end()) {}

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/model/operators.h>
 #include <tolvi/model/table.h>
@@ -38,7 +39,7 @@ using TDSValueList = TJObjectList<TDSValue>;
 
 /// A predefined condition: a named SQL predicate with places for values. The model's `Conditions` own it; the setters
 /// tell the model, which fires `OnChange`.
-class TDSCondition final {
+class TOLVI_CORE_API TDSCondition final {
  public:
   explicit TDSCondition(TJCustomDBStructure* dbStruct = nullptr) : FDBStruct(dbStruct) {}
   TDSCondition(const TDSCondition&) = delete;
@@ -79,7 +80,7 @@ class TDSCondition final {
 };
 
 /// The predefined conditions of a model.
-class TDSConditionList final {
+class TOLVI_CORE_API TDSConditionList final {
  public:
   explicit TDSConditionList(TJCustomDBStructure& dbStruct) : FDBStruct(dbStruct) {}
 

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/model/conditions.h>
@@ -39,7 +40,7 @@ enum TFieldNameKind : std::uint8_t { fnFieldExpr, fnDisplayName, fnFullName, fnS
 
 /// What those who refer to parts of a model must know in time. All but `ModelChanged` are called in the middle of a
 /// change, before the part goes: they must not throw, nor look anything up in the model.
-class TDSListener {
+class TOLVI_CORE_API TDSListener {
  public:
   virtual void FieldRemoved(TDSField&) {}
   virtual void OperatorRemoved(TDSOperator&) {}
@@ -65,7 +66,7 @@ class TDSListener {
 /// 2. A part that is deleted leaves no reference in the model: links and data fields go with their table, fields and
 ///    groups forget a deleted operator or field.
 /// 3. Look-ups by name or number take constant time and give the first match in list order.
-class TJCustomDBStructure : public TComponent {
+class TOLVI_CORE_API TJCustomDBStructure : public TComponent {
  public:
   /// A handler that sets `processed` replaces the built-in loading or saving.
   using TInOutModelEvent = std::function<void(const TJCustomDBStructure&, TStrings& dataModelStrings, bool& processed)>;
@@ -389,10 +390,10 @@ class TJCustomDBStructure : public TComponent {
 };
 
 /// The formats of the model; the default formats without one.
-const TSQLFormats& FormatsOf(const TJCustomDBStructure* model);
+TOLVI_CORE_API const TSQLFormats& FormatsOf(const TJCustomDBStructure* model);
 
 /// The data model as hosts place it on a form: the same, with all its settings published.
-class TJDBStructure : public TJCustomDBStructure {
+class TOLVI_CORE_API TJDBStructure : public TJCustomDBStructure {
  public:
   std::string_view ClassName() const override { return "TJDBStructure"; }
 

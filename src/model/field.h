@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/global.h>
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/foundation/strings.h>
@@ -21,7 +22,7 @@ class TDSFieldGroup;
 
 /// A field that users choose: a column of a table, or a value computed by an SQL expression. The model owns it; every
 /// setter tells the model, which fires `OnChange`.
-class TDSField final {
+class TOLVI_CORE_API TDSField final {
  public:
   explicit TDSField(TJFieldKind kind = jfkData) : FFieldKind(kind) {}
   TDSField(const TDSField&) = delete;

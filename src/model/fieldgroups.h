@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/foundation/strings.h>
 
@@ -15,7 +16,7 @@ class TDSField;
 class TJCustomDBStructure;
 
 /// A named list of fields, as menus show them. Refers to the model's fields.
-class TDSFieldGroup final {
+class TOLVI_CORE_API TDSFieldGroup final {
  public:
   explicit TDSFieldGroup(TJCustomDBStructure* dbStruct = nullptr, std::string_view name = {})
       : FDBStruct(dbStruct), FGroupName(name) {}
@@ -52,7 +53,7 @@ class TDSFieldGroup final {
 };
 
 /// The named groups of a model, owned.
-class TDSFieldGroupList final {
+class TOLVI_CORE_API TDSFieldGroupList final {
  public:
   explicit TDSFieldGroupList(TJCustomDBStructure& dbStruct) : FDBStruct(dbStruct) {}
 

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -9,14 +10,14 @@ namespace tolvi {
 class TSQLFormats;
 
 /// The names of the presets: "generic", then the database engines ("sqlite", "postgresql", ...).
-TStrings FormatPresetNames();
+TOLVI_CORE_API TStrings FormatPresetNames();
 
 /// Sets all formats to what the engine of that name (ignoring case) wants; "generic" sets the defaults. An owner of the
 /// formats is told once, if anything differs. Raises `EJDBStructError` for an unknown name; the message lists the
 /// known ones.
-void ApplyFormatPreset(TSQLFormats& formats, std::string_view name);
+TOLVI_CORE_API void ApplyFormatPreset(TSQLFormats& formats, std::string_view name);
 
 /// The name of the SQL syntax that goes with the preset ("ssSQL2"). Raises as `ApplyFormatPreset`.
-std::string_view FormatPresetSyntax(std::string_view name);
+TOLVI_CORE_API std::string_view FormatPresetSyntax(std::string_view name);
 
 }  // namespace tolvi

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -15,7 +16,7 @@ class TJCustomDBStructure;
 enum TDSLinkType : std::uint8_t { ltInner, ltOuterLeft, ltOuterRight, ltOuterFull };
 
 /// "Inner", "Left", "Right" or "Full", as model texts write it.
-std::string_view LinkTypeToStr(TDSLinkType linkType);
+TOLVI_CORE_API std::string_view LinkTypeToStr(TDSLinkType linkType);
 
 /// How the join condition is written: for JOIN and comma style, or in the older notation with " (+)" on the columns of
 /// the side whose rows may be missing.
@@ -24,12 +25,12 @@ enum TLinkExprMode : std::uint8_t { lemPlain = 1, lemOuterMarks = 2 };
 /// Before an entry of a link's columns that is a constant.
 inline constexpr std::string_view LinkConstantPrefix = "val:";
 /// Whether an entry is a constant; the entry without its prefix.
-bool IsLinkConstant(std::string_view entry);
-std::string_view LinkEntryText(std::string_view entry);
+TOLVI_CORE_API bool IsLinkConstant(std::string_view entry);
+TOLVI_CORE_API std::string_view LinkEntryText(std::string_view entry);
 
 /// A join between two tables: pairs of columns with a comparison each. The model owns it and both tables know it.
 /// Every setter tells the model, which fires `OnChange`.
-class TDSLink final {
+class TOLVI_CORE_API TDSLink final {
  public:
   TDSLink() = default;
   /// Both tables must outlive the link or be removed through the model.

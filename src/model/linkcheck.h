@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/model/modelcheck.h>
 
@@ -16,7 +17,7 @@ namespace tolvi {
 class TDSLink;
 
 /// The symbols by which a pair can be compared; "=" first.
-std::span<const std::string_view> LinkSymbols();
+TOLVI_CORE_API std::span<const std::string_view> LinkSymbols();
 
 enum TLinkPart : std::uint8_t { lpSide1, lpSymbol, lpSide2 };
 
@@ -35,7 +36,7 @@ struct TLinkFinding {
 using TLinkFindings = std::vector<TLinkFinding>;
 
 /// What can be told from the pairs alone.
-TLinkFindings CheckLinkPairs(const TStrings& fields1, const TStrings& symbols, const TStrings& fields2);
+TOLVI_CORE_API TLinkFindings CheckLinkPairs(const TStrings& fields1, const TStrings& symbols, const TStrings& fields2);
 
 /// A link has no other effect than the first one between its tables.
 inline constexpr std::string_view LinkComesTooLate =
@@ -52,7 +53,8 @@ struct TLinkSideInfo {
 
 /// What can be told besides when the tables are known: columns that they lack, pairs that stand twice or join nothing,
 /// and, for the link `self` (null: a new one), a link before it. Pairs beyond the shorter list are not looked at.
-TLinkFindings CheckLinkSides(const TStrings& fields1, const TStrings& symbols, const TStrings& fields2,
-                             const TLinkSideInfo& side1, const TLinkSideInfo& side2, const TDSLink* self);
+TOLVI_CORE_API TLinkFindings CheckLinkSides(const TStrings& fields1, const TStrings& symbols, const TStrings& fields2,
+                                            const TLinkSideInfo& side1, const TLinkSideInfo& side2,
+                                            const TDSLink* self);
 
 }  // namespace tolvi

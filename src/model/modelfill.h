@@ -8,6 +8,7 @@
 
 #include <cstdint>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/model/link.h>
 
@@ -49,7 +50,7 @@ struct TFillOptions {
 
 /// What filling adds, and what it finds. Tables are given by alias, fields by alias and column, links by their join
 /// condition.
-struct TFillReport {
+struct TOLVI_CORE_API TFillReport {
   TStrings AddedTables, AddedFields, AddedLinks, AddedGroups;
   /// Fields that get a list of values.
   TStrings AddedLists;
@@ -80,9 +81,9 @@ struct TFillReport {
 /// The catalogue is asked before anything changes: when a handler raises, the model is as before. Answers that make no
 /// sense are noted and left out. A model without operators gets the default ones. `OnChange` fires once at the end, if
 /// anything changed. Raises `EJDBStructError` when a handler has changed the model, and when the IDs of fields run out.
-TFillReport FillModel(TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options);
+TOLVI_CORE_API TFillReport FillModel(TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options);
 
 /// What `FillModel` would report. Asks the catalogue the same questions, changes nothing.
-TFillReport PreviewFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options);
+TOLVI_CORE_API TFillReport PreviewFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options);
 
 }  // namespace tolvi

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/model/link.h>
@@ -61,7 +62,7 @@ struct TPlannedType {
   bool operator==(const TPlannedType&) const = default;
 };
 
-struct TFillPlan {
+struct TOLVI_CORE_API TFillPlan {
   /// That of the model for which the plan is.
   std::uint64_t Revision = 0;
   std::vector<TPlannedTable> Tables;
@@ -84,7 +85,7 @@ struct TFillPlan {
 };
 
 /// "ftString(20)".
-std::string TypeText(TFieldType type, int size);
+TOLVI_CORE_API std::string TypeText(TFieldType type, int size);
 
 /// A table of a catalogue.
 struct TFillTable {
@@ -95,13 +96,13 @@ struct TFillTable {
 };
 
 /// The tables of a catalogue, each once. It must be connected. What handlers raise goes through.
-std::vector<TFillTable> TablesForFill(const TJCustomDBStructure& model, TJDBInfo& info);
+TOLVI_CORE_API std::vector<TFillTable> TablesForFill(const TJCustomDBStructure& model, TJDBInfo& info);
 
 /// Asks the catalogue what filling would do. Raises as `FillModel`. The plan holds while the model stays as it is.
-TFillPlan PlanFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options);
+TOLVI_CORE_API TFillPlan PlanFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFillOptions& options);
 
 /// Carries out a plan, which may have been made smaller and its names and link types changed. Raises `EJDBStructError`
 /// when the model is not as it was planned for; nothing is changed then.
-void ApplyFillPlan(TJCustomDBStructure& model, const TFillPlan& plan);
+TOLVI_CORE_API void ApplyFillPlan(TJCustomDBStructure& model, const TFillPlan& plan);
 
 }  // namespace tolvi

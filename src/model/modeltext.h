@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 class TJCustomDBStructure;
@@ -11,7 +13,7 @@ class TJCustomDBStructure;
 inline constexpr double CurrentModelVersion = 3.6;
 
 /// The model as text in the current version of the format, lines ended by CR LF.
-std::string WriteModelText(const TJCustomDBStructure& model);
+TOLVI_CORE_API std::string WriteModelText(const TJCustomDBStructure& model);
 
 /// Reads a model text of any version into `model`, which is empty (as after `ClearStructure`) and is left half read
 /// when reading fails. Settings sections that the text lacks leave `SQLFormats` and `DMOptions` as they are; in one
@@ -20,6 +22,6 @@ std::string WriteModelText(const TJCustomDBStructure& model);
 /// Raises `EJDBStructError` 9 for a missing section, 4 for a table, 6 for an operator that the text does not hold;
 /// `EConvertError` for a value of the wrong kind and for a version newer than `CurrentModelVersion`. Messages name the
 /// section and the line.
-double ReadModelText(std::string_view text, TJCustomDBStructure& model);
+TOLVI_CORE_API double ReadModelText(std::string_view text, TJCustomDBStructure& model);
 
 }  // namespace tolvi

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 
 namespace tolvi {
@@ -18,8 +19,8 @@ class TJCustomDBStructure;
 enum TValueKind : std::uint8_t { vkScalar, vkList, vkSubQuery };
 
 /// "vkScalar", "vkList" or "vkSubQuery", and back (nothing for another text; case is ignored).
-std::string_view ValueKindToStr(TValueKind kind);
-std::optional<TValueKind> TryStrToValueKind(std::string_view text);
+TOLVI_CORE_API std::string_view ValueKindToStr(TValueKind kind);
+TOLVI_CORE_API std::optional<TValueKind> TryStrToValueKind(std::string_view text);
 
 /// Optional groups of the default operators.
 enum TExOperator : std::uint8_t { xoInList, xoBetween, xoStartsWith, xoContains };
@@ -35,7 +36,7 @@ inline constexpr TFieldTypes NullableFieldTypes = GeneralFieldTypes + TFieldType
 
 /// A comparison that users pick for a field: a phrase and an SQL template in which "@f" stands for the field's
 /// expression and "@1", "@2" for the values. The model owns it; every setter tells the model, which fires `OnChange`.
-class TDSOperator final {
+class TOLVI_CORE_API TDSOperator final {
  public:
   TDSOperator() = default;
   TDSOperator(const TDSOperator&) = delete;
@@ -92,7 +93,7 @@ class TDSOperator final {
 };
 
 /// The number of values of a template: "@1", "@2", ... counted up to the first missing one.
-std::size_t TemplateParamCount(std::string_view sqlTemplate);
+TOLVI_CORE_API std::size_t TemplateParamCount(std::string_view sqlTemplate);
 
 /// One row of the table of default operators.
 struct TDefOperator {
@@ -105,6 +106,6 @@ struct TDefOperator {
 };
 
 /// The default operators in the order in which they are added.
-std::span<const TDefOperator> DefaultOperators();
+TOLVI_CORE_API std::span<const TDefOperator> DefaultOperators();
 
 }  // namespace tolvi

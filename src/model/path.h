@@ -3,13 +3,15 @@
 #include <cstddef>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 class TDSTable;
 class TJCustomDBStructure;
 
 /// A chain of linked tables, first to last. Refers to tables that the model owns.
-class TDSPath final {
+class TOLVI_CORE_API TDSPath final {
  public:
   explicit TDSPath(const TJCustomDBStructure* dbStruct = nullptr) : FDBStruct(dbStruct) {}
 

@@ -4,13 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 
 namespace tolvi {
 
 /// How a database wants names and values written. Each setter tells the model that owns the formats, which fires
 /// `OnChange`. Copying copies all settings and leaves the target's owner as it is (`AssignTo` is assignment).
-class TSQLFormats final {
+class TOLVI_CORE_API TSQLFormats final {
  public:
   /// Called after each change of a setting.
   using TChanged = std::function<void()>;
@@ -103,7 +104,7 @@ class TSQLFormats final {
 };
 
 /// Which database and owner the tables' names are written for. Setters tell the model, which fires `OnChange`.
-class TDMOptions final {
+class TOLVI_CORE_API TDMOptions final {
  public:
   explicit TDMOptions(std::function<void()> changed = {}) : FChanged(std::move(changed)) {}
   TDMOptions(const TDMOptions& other) : FSettings(other.FSettings) {}

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 class TDSLink;
@@ -18,7 +20,7 @@ struct TDesignPositions {
 };
 
 /// A table of the model. The model owns it; every setter tells the model, which fires `OnChange`.
-class TDSTable final {
+class TOLVI_CORE_API TDSTable final {
  public:
   TDSTable() = default;
   TDSTable(const TDSTable&) = delete;
@@ -96,7 +98,7 @@ class TDSTable final {
 };
 
 /// A list of tables that belong to somebody else.
-class TSimpleDSTableList final {
+class TOLVI_CORE_API TSimpleDSTableList final {
  public:
   std::size_t Count() const { return FTables.size(); }
   bool Empty() const { return FTables.empty(); }

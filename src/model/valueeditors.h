@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/foundation/strings.h>
 
@@ -16,7 +17,7 @@ class TJCustomDBStructure;
 enum TDSEditType : std::uint8_t { etAuto, etEdit, etList, etCustom, etSQL };
 
 /// Base of the descriptions of how a value is entered. The field or value that holds an editor owns it.
-class TDSValueEditor {
+class TOLVI_CORE_API TDSValueEditor {
  public:
   virtual ~TDSValueEditor() = default;
   /// Fetches again what the editor offers. Does nothing in the base.
@@ -26,7 +27,7 @@ class TDSValueEditor {
 enum TTextEditorKind : std::uint8_t { tekSimple, tekMask, tekDate, tekTime };
 
 /// Free text, with an optional mask.
-class TDSTextEditor final : public TDSValueEditor {
+class TOLVI_CORE_API TDSTextEditor final : public TDSValueEditor {
  public:
   /// Option bits as stored: 1 upper case, 2 lower case.
   int GetOptions() const { return FOptions; }
@@ -61,7 +62,7 @@ class TDSTextEditor final : public TDSValueEditor {
 };
 
 /// A fixed list: the texts shown and, index by index, the values used in SQL.
-class TDSListEditor : public TDSValueEditor {
+class TOLVI_CORE_API TDSListEditor : public TDSValueEditor {
  public:
   TStrings& Items() { return FItems; }
   const TStrings& Items() const { return FItems; }
@@ -74,7 +75,7 @@ class TDSListEditor : public TDSValueEditor {
 };
 
 /// A list filled by a query through the model's database information.
-class TDSSQLEditor final : public TDSListEditor {
+class TOLVI_CORE_API TDSSQLEditor final : public TDSListEditor {
  public:
   explicit TDSSQLEditor(TJCustomDBStructure* dbStruct) : FDBStruct(dbStruct) {}
 
@@ -104,7 +105,7 @@ class TDSSQLEditor final : public TDSListEditor {
 };
 
 /// Data of the host's own.
-class TDSCustomEditor final : public TDSValueEditor {
+class TOLVI_CORE_API TDSCustomEditor final : public TDSValueEditor {
  public:
   TStrings& Data() { return FData; }
   const TStrings& Data() const { return FData; }
@@ -114,7 +115,7 @@ class TDSCustomEditor final : public TDSValueEditor {
 };
 
 /// A sub-query, stored as a query text.
-class TDSSubQueryEditor final : public TDSValueEditor {
+class TOLVI_CORE_API TDSSubQueryEditor final : public TDSValueEditor {
  public:
   TStrings& QueryData() { return FQueryData; }
   const TStrings& QueryData() const { return FQueryData; }
@@ -124,6 +125,6 @@ class TDSSubQueryEditor final : public TDSValueEditor {
 };
 
 /// A new editor of that type; null for `etAuto`.
-std::unique_ptr<TDSValueEditor> CreateValueEditor(TDSEditType editType, TJCustomDBStructure* dbStruct);
+TOLVI_CORE_API std::unique_ptr<TDSValueEditor> CreateValueEditor(TDSEditType editType, TJCustomDBStructure* dbStruct);
 
 }  // namespace tolvi

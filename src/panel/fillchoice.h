@@ -9,6 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/model/modelcheck.h>
 #include <tolvi/model/modelfill_plan.h>
@@ -25,7 +26,7 @@ enum TFillState : std::uint8_t { fsNone, fsSome, fsAll };
 ///    refers to it. Turning one of these on turns on what it needs; turning one off, what needs it.
 /// 2. Tables of the model stay as they are. Only their new fields can be chosen.
 /// 3. A new group is called as its table unless it has got a name of its own. Tables with groups of one name share it.
-class TFillChoice final {
+class TOLVI_CORE_API TFillChoice final {
  public:
   /// The model must outlive this and be the one of the plans.
   explicit TFillChoice(const TJCustomDBStructure& model) : FModel(model) {}

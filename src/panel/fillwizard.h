@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/panel/fillchoice.h>
 #include <tolvi/schema/dbinfo.h>
@@ -17,7 +18,7 @@ class TModelEditor;
 /// Asks the model's database information once in each step; errors of its handlers go through, and what was read before
 /// stays. Each of the steps raises `EJDBStructError` when the model has no database information, or that is not
 /// connected.
-class TFillWizard final {
+class TOLVI_CORE_API TFillWizard final {
  public:
   /// `options.Tables` and `options.Views` say which tables are on at first; without
   /// tables there, those that the model has or, when it has none of them, all.

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/model/linkcheck.h>
 
@@ -21,7 +22,7 @@ struct TLinkPair {
 
 /// Edits a copy of a link between tables of a model. `side` is 0 for the first table, 1 for the second one. An index
 /// outside the pairs does nothing.
-class TLinkEditor final {
+class TOLVI_CORE_API TLinkEditor final {
  public:
   /// The model must outlive the editor; the link is needed for `Apply` only, and to tell it from others. Where its
   /// lists differ in length, empty sides are added, and "=".

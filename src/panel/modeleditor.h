@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/panel/querysteps.h>
 
@@ -20,7 +21,7 @@ namespace tolvi {
 /// or
 ///    name. The model's listeners hear of it as of the loading of a model text.
 /// 3. The history is kept within a bound of memory: its oldest steps go first.
-class TModelEditor final {
+class TOLVI_CORE_API TModelEditor final {
  public:
   /// The model must live as long as the editor.
   explicit TModelEditor(TJCustomDBStructure& model);

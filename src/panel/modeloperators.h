@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 
 namespace tolvi {
@@ -24,16 +25,17 @@ inline constexpr TFieldTypes TypeGroups[] = {
 };
 
 /// Adds an operator "Operator1" (2, ...) with a template to begin with. Returns its index.
-std::size_t AddNewOperator(TJCustomDBStructure& model);
+TOLVI_CORE_API std::size_t AddNewOperator(TJCustomDBStructure& model);
 /// Copies each of the operators behind itself, with a name of its own; fields that offer it offer the copy, too.
 /// Returns the indexes of the copies.
-std::vector<std::size_t> DuplicateOperators(TJCustomDBStructure& model, std::vector<std::size_t> indexes);
-void DeleteOperators(TJCustomDBStructure& model, std::vector<std::size_t> indexes);
+TOLVI_CORE_API std::vector<std::size_t> DuplicateOperators(TJCustomDBStructure& model,
+                                                           std::vector<std::size_t> indexes);
+TOLVI_CORE_API void DeleteOperators(TJCustomDBStructure& model, std::vector<std::size_t> indexes);
 /// Moves the operators one place up (`step` -1) or down (1), as far as there is room. Returns where they are then.
-std::vector<std::size_t> StepModelOperators(TJCustomDBStructure& model, const std::vector<std::size_t>& indexes,
-                                            int step);
+TOLVI_CORE_API std::vector<std::size_t> StepModelOperators(TJCustomDBStructure& model,
+                                                           const std::vector<std::size_t>& indexes, int step);
 /// How many of the default operators that `ExOperators` enables the model lacks.
-std::size_t CountLackingDefaults(const TJCustomDBStructure& model);
+TOLVI_CORE_API std::size_t CountLackingDefaults(const TJCustomDBStructure& model);
 
 /// Which fields have a type to which the operator applies, and which of all fields offer it.
 struct TOperatorUse {
@@ -41,14 +43,14 @@ struct TOperatorUse {
   /// To which it applies and which do not offer it.
   std::vector<TDSField*> Lacking;
 };
-TOperatorUse UseOfOperator(const TJCustomDBStructure& model, const TDSOperator& op);
-void OfferToAll(TJCustomDBStructure& model, TDSOperator& op);
+TOLVI_CORE_API TOperatorUse UseOfOperator(const TJCustomDBStructure& model, const TDSOperator& op);
+TOLVI_CORE_API void OfferToAll(TJCustomDBStructure& model, TDSOperator& op);
 
 /// Adds a condition without SQL whose caption no other one has. Returns its index.
-std::size_t AddNewCondition(TJCustomDBStructure& model);
-void DeleteConditions(TJCustomDBStructure& model, std::vector<std::size_t> indexes);
+TOLVI_CORE_API std::size_t AddNewCondition(TJCustomDBStructure& model);
+TOLVI_CORE_API void DeleteConditions(TJCustomDBStructure& model, std::vector<std::size_t> indexes);
 /// Sets the display format; values without a place go.
-void ChangeDisplayFormat(TDSCondition& condition, std::string_view format);
+TOLVI_CORE_API void ChangeDisplayFormat(TDSCondition& condition, std::string_view format);
 
 /// A row of a query as users see it, and the SQL that it means; or why there is none.
 struct TSampleCondition {
@@ -56,8 +58,8 @@ struct TSampleCondition {
 };
 /// The operator on a field that fits it: one that offers it, else one to which it applies. The operator need not be
 /// the model's.
-TSampleCondition SampleOfOperator(TJCustomDBStructure& model, TDSOperator& op);
+TOLVI_CORE_API TSampleCondition SampleOfOperator(TJCustomDBStructure& model, TDSOperator& op);
 /// The condition need not be the model's.
-TSampleCondition SampleOfCondition(TJCustomDBStructure& model, TDSCondition& condition);
+TOLVI_CORE_API TSampleCondition SampleOfCondition(TJCustomDBStructure& model, TDSCondition& condition);
 
 }  // namespace tolvi

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/model/operators.h>
 #include <tolvi/model/sqlformats.h>
@@ -23,15 +24,15 @@ struct TModelSettings {
   bool operator==(const TModelSettings&) const = default;
 };
 
-TModelSettings SettingsOf(const TJCustomDBStructure& model);
+TOLVI_CORE_API TModelSettings SettingsOf(const TJCustomDBStructure& model);
 /// Sets what differs, as one change.
-void ApplySettings(TJCustomDBStructure& model, const TModelSettings& settings);
+TOLVI_CORE_API void ApplySettings(TJCustomDBStructure& model, const TModelSettings& settings);
 
 /// The preset whose formats these are; empty when there is none.
-std::string PresetOf(const TSQLFormats& formats);
+TOLVI_CORE_API std::string PresetOf(const TSQLFormats& formats);
 
 /// A statement as a model with these settings writes it: names of several databases, aliases, an outer join, and values
 /// of all kinds. Where it cannot be made, why.
-std::string SampleStatement(const TModelSettings& settings);
+TOLVI_CORE_API std::string SampleStatement(const TModelSettings& settings);
 
 }  // namespace tolvi

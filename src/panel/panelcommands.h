@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -72,14 +73,14 @@ struct TPanelCommandInfo {
 };
 
 /// All commands, each at the index of its value.
-std::span<const TPanelCommandInfo> PanelCommands();
+TOLVI_CORE_API std::span<const TPanelCommandInfo> PanelCommands();
 inline const TPanelCommandInfo& InfoOf(TPanelCommand command) { return PanelCommands()[command]; }
 /// Null when there is none of that name.
-const TPanelCommandInfo* CommandByName(std::string_view name);
+TOLVI_CORE_API const TPanelCommandInfo* CommandByName(std::string_view name);
 
 /// The texts of the commands that the panel's titles do not have: lines "cmdNAME=caption" and "hlpNAME=one line of
 /// help" in the section "[Query Panel Commands]", which a host may replace or translate. "&" marks a menu accelerator.
-class TCommandTitles final {
+class TOLVI_CORE_API TCommandTitles final {
  public:
   /// Starts with the default texts.
   TCommandTitles() : FLines(DefaultLines()) {}
@@ -97,20 +98,20 @@ class TCommandTitles final {
 };
 
 /// The commands as a help page: lines of name, keys and help, divided by tabs. Names are captions without accelerators.
-TStrings CommandHelp(const TCommandTitles& commandTitles, const TTitles& titles);
+TOLVI_CORE_API TStrings CommandHelp(const TCommandTitles& commandTitles, const TTitles& titles);
 
 /// Whether the command is possible for a row (null: none is current). `argument` is the index of the predefined
 /// condition for `pcAddCustomCond` (-1: any), the value's index, 1 or 2, for the kinds of values; else it means
 /// nothing. Commands about the parts of a row, and the choice among several predefined conditions, are the view's.
-bool CanRun(const TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument = -1);
+TOLVI_CORE_API bool CanRun(const TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument = -1);
 /// Whether the command is a switch, or one of several kinds of values, that is on for the row.
-bool IsOn(const TPanelEditor& editor, TPanelCommand command, const TFilterRow* row, int argument = -1);
+TOLVI_CORE_API bool IsOn(const TPanelEditor& editor, TPanelCommand command, const TFilterRow* row, int argument = -1);
 /// Runs the command; the panel may be gone then. False when it is not possible or for the view to do. Raises what
 /// `TPanelEditor` raises for texts that cannot be pasted.
-bool RunCommand(TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument = -1);
+TOLVI_CORE_API bool RunCommand(TPanelEditor& editor, TPanelCommand command, TFilterRow* row, int argument = -1);
 /// Whether the command is about a value of the row.
 constexpr bool IsValueCommand(TPanelCommand command) { return command >= pcConstant && command <= pcValueList; }
 /// Whether only a view can run the command.
-bool IsViewCommand(TPanelCommand command);
+TOLVI_CORE_API bool IsViewCommand(TPanelCommand command);
 
 }  // namespace tolvi

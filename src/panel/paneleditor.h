@@ -12,6 +12,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/panel/querysteps.h>
 #include <tolvi/query/querpnl.h>
@@ -26,9 +27,9 @@ struct TRowPlace {
 
 /// Behind the row; null bracket for the root. At the end of the bracket; null for what is none. Where a row is added by
 /// default: inside a bracket, behind another row, at the end of the panel for none.
-TRowPlace PlaceAfter(const TFilterRow& row);
-TRowPlace PlaceInside(TFilterRow& row);
-TRowPlace DefaultPlace(TJQueryPanel& panel, TFilterRow* row);
+TOLVI_CORE_API TRowPlace PlaceAfter(const TFilterRow& row);
+TOLVI_CORE_API TRowPlace PlaceInside(TFilterRow& row);
+TOLVI_CORE_API TRowPlace DefaultPlace(TJQueryPanel& panel, TFilterRow* row);
 
 /// What an end user does with the conditions of a query panel: whole operations with undo and redo, copies of rows as
 /// text, rows that the host has locked, brackets that are collapsed.
@@ -39,7 +40,7 @@ TRowPlace DefaultPlace(TJQueryPanel& panel, TFilterRow* row);
 /// 3. Undo and redo load the query anew: every row is then another object. What the query text does not hold follows
 ///    the row all the same: current row, locked, collapsed, hidden, prompts and hints, the host's objects. A panel that
 ///    a failed import has left inactive becomes active again.
-class TPanelEditor final {
+class TOLVI_CORE_API TPanelEditor final {
  public:
   using TRowEvent = std::function<void(TFilterRow&)>;
 

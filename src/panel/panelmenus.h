@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/panel/panelcommands.h>
 
 namespace tolvi {
@@ -24,11 +25,12 @@ struct TPanelMenuItem {
 using TPanelMenu = std::vector<TPanelMenuItem>;
 
 /// The menu of a row: add after and inside, predefined conditions, delete, enable; then what else can be done with it.
-TPanelMenu RowMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterRow& row);
+TOLVI_CORE_API TPanelMenu RowMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterRow& row);
 /// The menu of the label at the end of the panel: add to the panel, paste. Undo and redo for an inactive panel.
-TPanelMenu AddMenu(const TPanelEditor& editor, const TCommandTitles& titles);
+TOLVI_CORE_API TPanelMenu AddMenu(const TPanelEditor& editor, const TCommandTitles& titles);
 /// The menu of a value (1 or 2): what kind of value it is; the present one is checked. For a list that
 /// is typed, its values as lines, too.
-TPanelMenu ValueMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterCond& condition, int index);
+TOLVI_CORE_API TPanelMenu ValueMenu(const TPanelEditor& editor, const TCommandTitles& titles, TFilterCond& condition,
+                                    int index);
 
 }  // namespace tolvi

@@ -9,6 +9,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 class TFilterRow;
@@ -35,14 +37,14 @@ struct TQueryState {
 };
 
 /// The panel's query with the SQL options, without the titles. `keyOf` gives the key of each row, in display order.
-TQueryState TakeQueryState(TJQueryPanel& panel, const std::function<TRowKey(TFilterRow&)>& keyOf);
+TOLVI_CORE_API TQueryState TakeQueryState(TJQueryPanel& panel, const std::function<TRowKey(TFilterRow&)>& keyOf);
 /// The query text.
-std::string QueryStateText(const TQueryState& state);
+TOLVI_CORE_API std::string QueryStateText(const TQueryState& state);
 /// Calls for each row in display order, the root first.
-void ForEachRow(TFilterRow& row, const std::function<void(TFilterRow&)>& call);
+TOLVI_CORE_API void ForEachRow(TFilterRow& row, const std::function<void(TFilterRow&)>& call);
 
 /// The part of a text between what two states of it have in common at their beginnings and ends.
-struct TTextChange {
+struct TOLVI_CORE_API TTextChange {
   std::size_t Start = 0;
   std::string Before, After;
 
@@ -52,7 +54,7 @@ struct TTextChange {
 };
 
 /// The way from one state of a query to the next, and back.
-struct TQueryStep {
+struct TOLVI_CORE_API TQueryStep {
   struct TRowChange {
     TRowKey Key;
     TTextChange Text;

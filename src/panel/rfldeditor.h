@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/panel/rfldformula.h>
@@ -29,7 +30,7 @@ namespace tolvi {
 /// 4. A caption that is made from the fields follows them; one that the user has typed stays.
 /// 5. Fields that go from the model become unknown ones; the history is empty then. A model that is destroyed takes the
 ///    columns with it.
-class TRFieldEditor final : private TDSListener {
+class TOLVI_CORE_API TRFieldEditor final : private TDSListener {
  public:
   TRFieldEditor(const TRFieldList& fields, TTitles titles);
   TRFieldEditor(const TRFieldEditor&) = delete;

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 class TSQLFormats;
@@ -16,9 +18,9 @@ inline constexpr TRFAggregate AllAggregates[] = {agAsIs, agSum, agCount,   agCou
                                                  agMin,  agMax, agAverage, agList};
 
 /// The key of its text in the titles.
-std::string_view AggregateTitle(TRFAggregate aggregate);
+TOLVI_CORE_API std::string_view AggregateTitle(TRFAggregate aggregate);
 /// Its SQL with "@1" in the place of what it takes; empty for a list where the database has no function for it.
-std::string AggregatePattern(TRFAggregate aggregate, const TSQLFormats& formats);
+TOLVI_CORE_API std::string AggregatePattern(TRFAggregate aggregate, const TSQLFormats& formats);
 
 /// A formula taken apart. What is counted may be "*".
 struct TRFAggregated {
@@ -29,18 +31,18 @@ struct TRFAggregated {
 
 /// Tells the function that the formula is a call of; `agAsIs` with the whole formula when it is more or less than one
 /// call with one value.
-TRFAggregated SplitAggregate(std::string_view formula, const TSQLFormats& formats);
-std::string WithAggregate(TRFAggregate aggregate, std::string_view inner, const TSQLFormats& formats);
+TOLVI_CORE_API TRFAggregated SplitAggregate(std::string_view formula, const TSQLFormats& formats);
+TOLVI_CORE_API std::string WithAggregate(TRFAggregate aggregate, std::string_view inner, const TSQLFormats& formats);
 
 enum TRFOperation : std::uint8_t { opAdd, opSubtract, opMultiply, opDivide };
 
 /// How tightly an expression holds together: by the loosest operator outside brackets.
 enum TRFBinding : std::uint8_t { bdLoose, bdSum, bdProduct, bdOperand };
-TRFBinding BindingOf(std::string_view sql);
+TOLVI_CORE_API TRFBinding BindingOf(std::string_view sql);
 
 /// `left + right` and so on, with brackets round the sides that would be torn apart. The bindings are those of the SQL
 /// for which the sides stand.
-std::string Joined(TRFOperation operation, std::string_view left, TRFBinding leftBinding, std::string_view right,
-                   TRFBinding rightBinding);
+TOLVI_CORE_API std::string Joined(TRFOperation operation, std::string_view left, TRFBinding leftBinding,
+                                  std::string_view right, TRFBinding rightBinding);
 
 }  // namespace tolvi

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -20,12 +21,12 @@ class TResultField;
 class TRFieldList;
 
 /// The texts of the panel in English, lines "key=text".
-const TStrings& DefaultRFPanelTitles();
+TOLVI_CORE_API const TStrings& DefaultRFPanelTitles();
 /// Where they stand in a file of several panels' titles.
 inline constexpr std::string_view RFPanelTitlesHeader = "[Result Fields Panel]";
 /// Makes `titles` the default texts, replaced by those that `given` has under that header or before any header
 /// (`LoadTitlesFromStrings`). The lists may be the same ones.
-void LoadRFPanelTitles(TStrings& titles, const TStrings& given);
+TOLVI_CORE_API void LoadRFPanelTitles(TStrings& titles, const TStrings& given);
 
 // What rows show
 
@@ -37,13 +38,13 @@ struct TRFItem {
 
 /// The groups of a model in the order in which lists show them: the one without a name first or last, as the model
 /// says.
-std::vector<const TDSFieldGroup*> GroupsInOrder(const TJCustomDBStructure& model);
+TOLVI_CORE_API std::vector<const TDSFieldGroup*> GroupsInOrder(const TJCustomDBStructure& model);
 /// The fields that a column may show, by groups in that order. The values are the fields' IDs.
-std::vector<TRFItem> ResultFieldItems(const TJCustomDBStructure& model);
+TOLVI_CORE_API std::vector<TRFItem> ResultFieldItems(const TJCustomDBStructure& model);
 /// The first of them, as a field; null when there is none.
-TDSField* GetFirstResultField(const TJCustomDBStructure& model);
+TOLVI_CORE_API TDSField* GetFirstResultField(const TJCustomDBStructure& model);
 /// The ways to sort; the values are the ordinals of `TSortingType`.
-std::vector<TRFItem> SortingItems(const TStrings& titles);
+TOLVI_CORE_API std::vector<TRFItem> SortingItems(const TStrings& titles);
 
 /// The texts of a row from left to right. What is empty is not shown.
 struct TRFRowTexts {
@@ -60,10 +61,10 @@ struct TRFCaptionStyle {
 };
 
 /// The texts for the column in that row (counted from 0). `upperCase` is applied to what stands round the field.
-TRFRowTexts ResultRowTexts(const TResultField& field, std::size_t rowIndex, const TRFCaptionStyle& style,
-                           const std::function<std::string(std::string_view)>& upperCase);
+TOLVI_CORE_API TRFRowTexts ResultRowTexts(const TResultField& field, std::size_t rowIndex, const TRFCaptionStyle& style,
+                                          const std::function<std::string(std::string_view)>& upperCase);
 /// The row as people read it out: "2: SUM( Total ), Ascending".
-std::string ResultRowPhrase(const TRFRowTexts& texts, std::string_view sorting);
+TOLVI_CORE_API std::string ResultRowPhrase(const TRFRowTexts& texts, std::string_view sorting);
 
 // Where it stands, in pixels
 
@@ -97,11 +98,11 @@ struct TRFRowPlaces {
 };
 
 /// The places of a row (counted from 0) in a window scrolled by `scrolled`.
-TRFRowPlaces PlaceResultRow(std::size_t rowIndex, const TRFRowSizes& sizes, const TRFSpaces& spaces,
-                            TRFPoint scrolled = {});
+TOLVI_CORE_API TRFRowPlaces PlaceResultRow(std::size_t rowIndex, const TRFRowSizes& sizes, const TRFSpaces& spaces,
+                                           TRFPoint scrolled = {});
 /// The label that appends a row: its place below the button of the last row, if there is one, and its text.
-TRFPoint PlaceAddRowLabel(const std::optional<TRFBox>& lastButton, const TRFSpaces& spaces);
-std::string AddRowText(const TStrings& titles);
+TOLVI_CORE_API TRFPoint PlaceAddRowLabel(const std::optional<TRFBox>& lastButton, const TRFSpaces& spaces);
+TOLVI_CORE_API std::string AddRowText(const TStrings& titles);
 
 // The menu of a row
 
@@ -113,25 +114,25 @@ struct TRFMenuItem {
   bool operator==(const TRFMenuItem&) const = default;
 };
 
-std::vector<TRFMenuItem> ResultRowMenu(const TStrings& titles);
+TOLVI_CORE_API std::vector<TRFMenuItem> ResultRowMenu(const TStrings& titles);
 /// Whether the item can be chosen for that row.
-bool IsRowMenuItemEnabled(TRFMenuTag tag, std::size_t rowIndex, std::size_t rowCount);
+TOLVI_CORE_API bool IsRowMenuItemEnabled(TRFMenuTag tag, std::size_t rowIndex, std::size_t rowCount);
 /// Where the item moves that row; none for an item that moves nothing, or when it stands there already.
-std::optional<std::size_t> MovedRowIndex(TRFMenuTag tag, std::size_t rowIndex, std::size_t rowCount);
+TOLVI_CORE_API std::optional<std::size_t> MovedRowIndex(TRFMenuTag tag, std::size_t rowIndex, std::size_t rowCount);
 
 // Changes of the columns
 
 /// A new column at the end, of the model's first field that columns may use; unsorted. Raises `ERFPanelError`
 /// "DBStructure is not specified", or "Structure is empty" when the model has nothing to choose from.
-TResultField& AppendResultField(TRFieldList& fields, const TJCustomDBStructure* model);
+TOLVI_CORE_API TResultField& AppendResultField(TRFieldList& fields, const TJCustomDBStructure* model);
 /// Takes over what the labels of a row hold: the field whose ID is `fieldValue` becomes the column's first field, and
 /// its display name the caption of a column that is that field alone; an ID that the model lacks leaves both as they
 /// are. `sorting` goes to the column at the row's place in the list. Sort orders stay.
-void RefreshResultField(TRFieldList& fields, std::size_t rowIndex, TResultField& field,
-                        const std::optional<std::string>& fieldValue, int sorting);
+TOLVI_CORE_API void RefreshResultField(TRFieldList& fields, std::size_t rowIndex, TResultField& field,
+                                       const std::optional<std::string>& fieldValue, int sorting);
 /// Moves a column; the sorted ones then sort in column order.
-void MoveResultField(TRFieldList& fields, std::size_t from, std::size_t to);
+TOLVI_CORE_API void MoveResultField(TRFieldList& fields, std::size_t from, std::size_t to);
 /// Gives the sorted columns the sort orders 1, 2, 3, ...; the others keep theirs.
-void RenumberSortOrders(const TRFieldList& fields);
+TOLVI_CORE_API void RenumberSortOrders(const TRFieldList& fields);
 
 }  // namespace tolvi

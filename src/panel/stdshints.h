@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -11,12 +12,12 @@ namespace tolvi {
 enum TAddLinkStage : std::uint8_t { alsIdle, alsSelField1, alsSelField2 };
 
 /// The lines "key=text" of all hints, in English.
-const TStrings& DefaultActionHints();
+TOLVI_CORE_API const TStrings& DefaultActionHints();
 
 /// What the mouse is over while no link is being added.
 enum TDesignTarget : std::uint8_t { dtNothing, dtTable, dtLink };
 
 /// The key of the hint for the state.
-std::string_view ActionHintKey(TAddLinkStage stage, TDesignTarget target);
+TOLVI_CORE_API std::string_view ActionHintKey(TAddLinkStage stage, TDesignTarget target);
 
 }  // namespace tolvi

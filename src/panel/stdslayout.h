@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/panel/stdsgeometry.h>
 
 namespace tolvi {
@@ -20,7 +21,8 @@ struct TBoxLink {
 /// links give the same places.
 ///
 /// Links of a box with itself and those to boxes that do not exist count as none.
-std::vector<TDesignPoint> LayOutTables(std::span<const TDesignSize> boxes, std::span<const TBoxLink> links,
-                                       const TArrangeSettings& settings = {});
+TOLVI_CORE_API std::vector<TDesignPoint> LayOutTables(std::span<const TDesignSize> boxes,
+                                                      std::span<const TBoxLink> links,
+                                                      const TArrangeSettings& settings = {});
 
 }  // namespace tolvi

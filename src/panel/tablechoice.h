@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/model/dbstruc.h>
 
 namespace tolvi {
@@ -35,7 +36,7 @@ struct TLinkOffer {
 
 /// What of a catalogue is to be added to a model. The catalogue is asked each question once for a database; what its
 /// handlers raise goes through, and nothing has changed then.
-class TTableChoice final {
+class TOLVI_CORE_API TTableChoice final {
  public:
   /// The model and its catalogue must outlive this. Raises `EJDBInfoError` when there is no catalogue or it is not
   /// connected.

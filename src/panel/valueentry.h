@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/model/valueeditors.h>
@@ -45,17 +46,17 @@ struct TValueEntry {
 };
 
 /// Puts the way that is stored, and its settings, into `entry`; the settings of the other ways there stay.
-void ReadEntry(const TDSField& field, TValueEntry& entry);
-void ReadEntry(const TDSValue& value, TValueEntry& entry);
+TOLVI_CORE_API void ReadEntry(const TDSField& field, TValueEntry& entry);
+TOLVI_CORE_API void ReadEntry(const TDSValue& value, TValueEntry& entry);
 
 /// Stores the way with its settings and tells the model. `ewSubQuery` raises `EJDBStructError` for a field. The model
 /// is that of the condition that has the value.
-void WriteEntry(TDSField& field, const TValueEntry& entry);
-void WriteEntry(TDSValue& value, TJCustomDBStructure& model, const TValueEntry& entry);
+TOLVI_CORE_API void WriteEntry(TDSField& field, const TValueEntry& entry);
+TOLVI_CORE_API void WriteEntry(TDSValue& value, TJCustomDBStructure& model, const TValueEntry& entry);
 
 /// What is typed or pasted, a row a line and text and value divided by a tab; a row of one cell is its own value. Empty
 /// lines do not count.
-std::vector<TEntryItem> ItemsFromTable(std::string_view text);
+TOLVI_CORE_API std::vector<TEntryItem> ItemsFromTable(std::string_view text);
 
 /// What the query of `entry` gives: the first `limit` rows, and how many there are. Raises what asking the database
 /// raises, `EJDBStructError` 11 without database information; the model stays as it is.
@@ -63,6 +64,6 @@ struct TQueriedItems {
   std::vector<TEntryItem> Items;
   std::size_t Count = 0;
 };
-TQueriedItems RunEntry(TJCustomDBStructure& model, const TValueEntry& entry, std::size_t limit);
+TOLVI_CORE_API TQueriedItems RunEntry(TJCustomDBStructure& model, const TValueEntry& entry, std::size_t limit);
 
 }  // namespace tolvi

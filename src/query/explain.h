@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -16,9 +17,9 @@ class TJQueryPanel;
 /// A row that is off is marked "(off)". A parameter is shown as <Name>, with its value (<Name: 42>) where it has one,
 /// a value without text as <empty>; line breaks in values become blanks. The rows of a sub-query follow its condition.
 /// A field whose display name is not the only one in the model is shown with its group.
-TStrings Explain(const TJQueryPanel& panel);
+TOLVI_CORE_API TStrings Explain(const TJQueryPanel& panel);
 
 /// The line of one condition.
-std::string ExplainCondition(const TFilterCond& condition);
+TOLVI_CORE_API std::string ExplainCondition(const TFilterCond& condition);
 
 }  // namespace tolvi

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 class TFilterBracket;
@@ -9,7 +11,7 @@ class TFilterRow;
 
 /// What shows a query panel. Told of each completed change after the rows' indexes are up to date and before
 /// `OnChange` fires. Must not throw. Every method does nothing by default.
-class TQueryPanelView {
+class TOLVI_CORE_API TQueryPanelView {
  public:
   /// The row, with all that is in it, is now in its bracket.
   virtual void RowInserted(TFilterRow&) {}

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/foundation/objectlist.h>
 
@@ -15,7 +16,7 @@ class TFilterCond;
 
 /// A value of a condition that is given when the statement runs: in SQL it is ":" and the name. The query result owns
 /// it; it goes with its condition.
-class TSQLParam final {
+class TOLVI_CORE_API TSQLParam final {
  public:
   /// `valueIndex` is 1 or 2.
   TSQLParam(TFilterCond& condition, int valueIndex, std::string_view name)
@@ -60,7 +61,7 @@ class TSQLParam final {
 };
 
 /// The parameters of a query, in the order in which they were made.
-class TSQLParamList final {
+class TOLVI_CORE_API TSQLParamList final {
  public:
   std::size_t Count() const { return FItems.Count(); }
   TSQLParam& operator[](std::size_t index) const { return FItems[index]; }

@@ -5,6 +5,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/foundation/text.h>
 
@@ -29,19 +30,19 @@ struct TParamInfo {
 
 /// The parameters of a query and of the sub-queries that take part in its statement, by the names that the statement
 /// gives them. Raises `EJQueryPanelError` or `EConvertError` for a sub-query that cannot be read.
-std::vector<TParamInfo> ListParams(TJQueryPanel& panel);
+TOLVI_CORE_API std::vector<TParamInfo> ListParams(TJQueryPanel& panel);
 
 /// Gives all parameters of that name, ignoring case, the value; those of a sub-query by writing its text anew. False
 /// when there is none.
-bool SetParamValue(TJQueryPanel& panel, std::string_view name, std::string_view value);
+TOLVI_CORE_API bool SetParamValue(TJQueryPanel& panel, std::string_view name, std::string_view value);
 
 /// Raises `EJQueryPanelError` for a text that no parameter can be called.
-void CheckParamName(std::string_view name);
+TOLVI_CORE_API void CheckParamName(std::string_view name);
 
 using TParamNames = std::unordered_set<std::string, TFoldedHash, TFoldedEqual>;
 
 /// In a statement of the query, parameters of a text type are not missing when they were given an empty text; other
 /// types have no empty value. Raises as `ListParams`.
-void TakeEmptyTexts(TBoundStatement& statement, TJQueryPanel& panel, const TParamNames& given);
+TOLVI_CORE_API void TakeEmptyTexts(TBoundStatement& statement, TJQueryPanel& panel, const TParamNames& given);
 
 }  // namespace tolvi

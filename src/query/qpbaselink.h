@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/query/querpnl.h>
@@ -12,7 +13,7 @@ namespace tolvi {
 /// Links a query panel to a query base: the current query comes into the panel, the panel's query is what the base is
 /// given. Once the panel is destroyed, the link does nothing and hands nothing over. Attach it before the base opens,
 /// or call `LoadCurBaseQuery`: until then, the panel shows another query than the current one.
-class TJQPBaseLink : public TJQueryBaseLink {
+class TOLVI_CORE_API TJQPBaseLink : public TJQueryBaseLink {
  public:
   /// The panel is not owned.
   explicit TJQPBaseLink(TJQueryPanel& panel);

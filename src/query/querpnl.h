@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/foundation/numbers.h>
 #include <tolvi/model/dbstruc.h>
@@ -37,7 +38,7 @@ class TSQLBuilder;
 /// 2. After each completed change the order is: indexes, view, events, `OnChange` as the last. What an event's handler
 ///    does fires that event not again. A handler may destroy the panel.
 /// 3. When the model loses a field, operator or condition that a row names, the row stays and keeps its ID or name.
-class TJQueryPanel : public TComponent, private TDSListener {
+class TOLVI_CORE_API TJQueryPanel : public TComponent, private TDSListener {
  public:
   using TPanelEvent = std::function<void(TJQueryPanel&)>;
   /// May change the SQL of a condition.
@@ -347,6 +348,6 @@ struct TStoredQuery {
   std::string FileName;
   TStrings Lines;
 };
-std::vector<TStoredQuery> ReadQueries(const std::filesystem::path& folder);
+TOLVI_CORE_API std::vector<TStoredQuery> ReadQueries(const std::filesystem::path& folder);
 
 }  // namespace tolvi

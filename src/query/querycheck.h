@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/model/modelcheck.h>
 
 namespace tolvi {
@@ -12,6 +13,6 @@ class TJQueryPanel;
 /// lacks, operators and fields used where the model does not offer them, values that cannot be literals of their type
 /// or are empty, whatever keeps the statement from being built, and what it leaves out. What concerns only rows that
 /// are off is a warning. Sub-queries are checked too. Builds the statement.
-std::vector<TCheckFinding> CheckQuery(TJQueryPanel& panel);
+TOLVI_CORE_API std::vector<TCheckFinding> CheckQuery(TJQueryPanel& panel);
 
 }  // namespace tolvi

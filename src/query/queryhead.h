@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -17,10 +18,10 @@ struct TQueryHead {
 };
 
 /// A text that is no query has neither. Raises nothing.
-TQueryHead ReadQueryHead(std::string_view text);
+TOLVI_CORE_API TQueryHead ReadQueryHead(std::string_view text);
 
 /// The query text with another head, all else as it stands. A blank text becomes that of an empty query; a text that is
 /// no query stays as it is.
-TStrings WithQueryHead(const TStrings& lines, const TQueryHead& head);
+TOLVI_CORE_API TStrings WithQueryHead(const TStrings& lines, const TQueryHead& head);
 
 }  // namespace tolvi

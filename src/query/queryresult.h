@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/query/params.h>
@@ -28,7 +29,7 @@ struct TResultTable {
 };
 
 /// The tables of a statement, in join order.
-class TRTableList final {
+class TOLVI_CORE_API TRTableList final {
  public:
   std::size_t Count() const { return FItems.size(); }
   bool Empty() const { return FItems.empty(); }
@@ -61,7 +62,7 @@ struct TJTableFilter {
   std::string Filter;
 };
 
-class TJTableFilterList final {
+class TOLVI_CORE_API TJTableFilterList final {
  public:
   std::size_t Count() const { return FItems.size(); }
   const TJTableFilter& operator[](std::size_t index) const;
@@ -85,7 +86,7 @@ struct TQueryWarning {
 };
 
 /// Lines of SQL in one buffer: the last line can be appended to.
-class TSQLLines final {
+class TOLVI_CORE_API TSQLLines final {
  public:
   void Clear();
   bool Empty() const { return FStarts.empty(); }
@@ -108,7 +109,7 @@ class TSQLLines final {
 };
 
 /// The statement of a query panel: its columns and parameters, and the clauses as of the last `BuildQuery`.
-class TQueryResult final {
+class TOLVI_CORE_API TQueryResult final {
  public:
   explicit TQueryResult(TJQueryPanel& panel);
   TQueryResult(const TQueryResult&) = delete;

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -16,21 +17,21 @@ class TJQueryPanel;
 inline constexpr double CurrentQueryVersion = 3.6;
 
 /// The panel's query as text in the current version of the format, lines ended by CR LF.
-std::string WriteQueryText(const TJQueryPanel& panel);
+TOLVI_CORE_API std::string WriteQueryText(const TJQueryPanel& panel);
 
 /// Reads a query text of any version into the panel, which has been cleared. Fields, operators and conditions that the
 /// model lacks are kept as unknown ones and told by `panel.AddLoadWarning`.
 ///
 /// Raises `EJQueryPanelError` for a text that is no query, `EConvertError` for a value of the wrong kind; the message
 /// names section and line.
-void ReadQueryText(std::string_view text, TJQueryPanel& panel);
+TOLVI_CORE_API void ReadQueryText(std::string_view text, TJQueryPanel& panel);
 
 /// Some rows as a query text of its own, without columns and options. Automatic names of parameters are left out.
-std::string WriteRowsText(const TJQueryPanel& panel, const std::vector<const TFilterRow*>& rows);
+TOLVI_CORE_API std::string WriteRowsText(const TJQueryPanel& panel, const std::vector<const TFilterRow*>& rows);
 /// Reads the rows of a query text, and how its root links them, into an empty bracket of a panel that is loading.
 /// Errors and warnings as in `ReadQueryText`.
-void ReadRowsText(std::string_view text, TFilterBracket& bracket);
+TOLVI_CORE_API void ReadRowsText(std::string_view text, TFilterBracket& bracket);
 /// Whether the text is a query text with rows. Does not read them.
-bool HasRows(std::string_view text);
+TOLVI_CORE_API bool HasRows(std::string_view text);
 
 }  // namespace tolvi

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/query/uniquenames.h>
@@ -28,7 +29,7 @@ enum TSortingType : std::uint8_t { stNoSort, stAscending, stDescending };
 
 /// A column of the statement: a formula over fields of the model, a caption for people, an alias for SQL. Its list
 /// owns it; setters tell the list, which fires its `OnChange`.
-class TResultField final {
+class TOLVI_CORE_API TResultField final {
  public:
   TResultField() = default;
   TResultField(const TResultField&) = delete;
@@ -157,7 +158,7 @@ class TResultField final {
 };
 
 /// The columns of a query.
-class TRFieldList final {
+class TOLVI_CORE_API TRFieldList final {
  public:
   explicit TRFieldList(TJCustomDBStructure* dbStruct = nullptr, TJQueryPanel* panel = nullptr)
       : FDBStruct(dbStruct), FQueryPanel(panel) {}

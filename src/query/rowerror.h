@@ -2,12 +2,13 @@
 
 #include <string>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/errors.h>
 
 namespace tolvi {
 
 /// Building the statement failed at a row of the query; for what fails in a sub-query, at the row that holds it.
-class EQueryRowError final : public EJQueryPanelError {
+class TOLVI_CORE_API EQueryRowError final : public EJQueryPanelError {
  public:
   EQueryRowError(const EJQueryPanelError& error, std::string rowID)
       : EJQueryPanelError(error.ErrorCode(), error.Message()), FRowID(std::move(rowID)) {}

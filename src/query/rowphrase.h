@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/text.h>
 
 namespace tolvi {
@@ -36,7 +37,7 @@ using TPhrase = std::vector<TPhrasePart>;
 
 /// How people tell the fields of a model apart: by their display names; a field whose display name is not the only one
 /// is called by its compound name. Holds while the model stays as it is (`GetRevision`).
-class TFieldNames final {
+class TOLVI_CORE_API TFieldNames final {
  public:
   /// `model` may be null.
   explicit TFieldNames(const TJCustomDBStructure* model);
@@ -53,16 +54,16 @@ class TFieldNames final {
 ///
 /// A parameter is shown as <Name>, with its value (<Name: 42>) where it has one; a value without text as <empty>; what
 /// the model lacks as the query names it, in angle brackets.
-TPhrase RowPhrase(const TFilterRow& row, const TFieldNames& names);
+TOLVI_CORE_API TPhrase RowPhrase(const TFilterRow& row, const TFieldNames& names);
 
 /// The text with blanks for its line breaks and tabs.
-std::string OneLine(std::string_view text);
+TOLVI_CORE_API std::string OneLine(std::string_view text);
 
 /// The parts as one line.
-std::string PhraseText(const TPhrase& phrase);
+TOLVI_CORE_API std::string PhraseText(const TPhrase& phrase);
 
 /// The sentences of the bracket's rows as one line, divided by "; ", with those of inner brackets in round ones. Rows
 /// that are off or hidden are left out; it ends with "…" where it would get longer than about `limit` bytes.
-std::string RowsText(const TFilterBracket& bracket, const TFieldNames& names, std::size_t limit);
+TOLVI_CORE_API std::string RowsText(const TFilterBracket& bracket, const TFieldNames& names, std::size_t limit);
 
 }  // namespace tolvi

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/foundation/strings.h>
@@ -36,7 +37,7 @@ inline constexpr int MaxRowLevel = 1000;
 
 /// A row of the condition tree. Its bracket owns it; the root belongs to the panel. Every change that a setter makes
 /// tells the panel's view and fires the panel's `OnChange`.
-class TFilterRow {
+class TOLVI_CORE_API TFilterRow {
  public:
   TFilterRow(const TFilterRow&) = delete;
   TFilterRow& operator=(const TFilterRow&) = delete;
@@ -119,7 +120,7 @@ class TFilterRow {
 };
 
 /// A group of rows. Owns them.
-class TFilterBracket final : public TFilterRow {
+class TOLVI_CORE_API TFilterBracket final : public TFilterRow {
  public:
   explicit TFilterBracket(TJQueryPanel& panel) : TFilterRow(frtBracket, panel) {}
   ~TFilterBracket() override;
@@ -202,7 +203,7 @@ class TFilterBracket final : public TFilterRow {
 
 /// Base of conditions. Values are numbered 1 and 2 and kept as text: numbers in the panel's locale or with a point,
 /// dates as a day number or in the panel's locale, booleans as 0, 1, true, false, yes or no, lists as comma text.
-class TFilterCond : public TFilterRow {
+class TOLVI_CORE_API TFilterCond : public TFilterRow {
  public:
   /// An index other than 1 or 2 raises `EListError`, here and below.
   const std::string& GetValue(int index) const { return Slot(index).value; }
@@ -276,7 +277,7 @@ class TFilterCond : public TFilterRow {
 };
 
 /// A condition on a field of the model.
-class TSimpleCond final : public TFilterCond {
+class TOLVI_CORE_API TSimpleCond final : public TFilterCond {
  public:
   explicit TSimpleCond(TJQueryPanel& panel);
 
@@ -326,7 +327,7 @@ class TSimpleCond final : public TFilterCond {
 };
 
 /// A predefined condition of the model.
-class TCustomCond final : public TFilterCond {
+class TOLVI_CORE_API TCustomCond final : public TFilterCond {
  public:
   TCustomCond(TJQueryPanel& panel, TDSCondition& condition);
 
@@ -359,7 +360,7 @@ class TCustomCond final : public TFilterCond {
 
 /// A condition as SQL, written into the statement as it stands: no values, nothing replaced. Only panels that allow it
 /// (`AllowSQLFragments`) build statements with it.
-class TSQLFragment final : public TFilterCond {
+class TOLVI_CORE_API TSQLFragment final : public TFilterCond {
  public:
   explicit TSQLFragment(TJQueryPanel& panel) : TFilterCond(frtSQLFragment, panel) {}
 

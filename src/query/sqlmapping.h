@@ -2,10 +2,12 @@
 
 #include <string>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 /// Something of an SQL statement that an import dropped, guessed or replaced.
-struct TImportWarning {
+struct TOLVI_CORE_API TImportWarning {
   /// Counted from 1; 0 where it is not known.
   int Line = 0;
   /// The piece of the statement.

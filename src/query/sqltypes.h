@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/sets.h>
 
 namespace tolvi {
@@ -34,7 +35,7 @@ using TSQLOptions = TSet<TSQLOption>;
 
 /// The number by which query texts store options: 2 distinct, 8 quoted aliases, 16 bracketed joins, 32 bracketed
 /// conditions, 64 sort by names. Reading ignores all other bits.
-int SQLOptionsToInt(TSQLOptions options);
-TSQLOptions IntToSQLOptions(std::int64_t number);
+TOLVI_CORE_API int SQLOptionsToInt(TSQLOptions options);
+TOLVI_CORE_API TSQLOptions IntToSQLOptions(std::int64_t number);
 
 }  // namespace tolvi

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 
 namespace tolvi {
@@ -11,11 +12,11 @@ namespace tolvi {
 /// in the section of the same name (anywhere, when the defaults have no sections), unless that is empty. Line breaks in
 /// texts become blanks, keys that only `given` holds are dropped. The section "[PanelTitles]" is read as the older name
 /// of "[Query Panel]". The lists may be the same ones.
-void LoadTitlesFromStrings(const TStrings& defaults, TStrings& titles, const TStrings& given);
+TOLVI_CORE_API void LoadTitlesFromStrings(const TStrings& defaults, TStrings& titles, const TStrings& given);
 
 /// The texts of the query panel and of the result fields editor: lines "key=text" in two sections, which a host may
 /// replace or translate. "@" marks the place of a link word, "%s" that of a field name, "&" a menu accelerator.
-class TTitles final {
+class TOLVI_CORE_API TTitles final {
  public:
   /// Starts with the default texts.
   TTitles() { LoadDefTitles(); }

@@ -5,12 +5,13 @@
 #include <string_view>
 #include <unordered_map>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/text.h>
 
 namespace tolvi {
 
 /// The names in use, compared ignoring case. A name may be in use several times; empty names do not count.
-class TUniqueNames final {
+class TOLVI_CORE_API TUniqueNames final {
  public:
   void Add(std::string_view name);
   /// Takes one use of the name back.
@@ -33,10 +34,10 @@ class TUniqueNames final {
 
 /// A name that SQL can hold without quotes, made from a text of people: blanks become "_", and every other character
 /// that is no letter, digit or "_" is left out; a first digit gets a "C" before it. Empty when nothing is left.
-std::string MakeSQLName(std::string_view text);
+TOLVI_CORE_API std::string MakeSQLName(std::string_view text);
 
 /// A name that SQL can hold between quote symbols, made from a text of people: control characters, and bytes outside
 /// ASCII in a text that is no UTF-8, are left out.
-std::string MakeQuotableName(std::string_view text);
+TOLVI_CORE_API std::string MakeQuotableName(std::string_view text);
 
 }  // namespace tolvi

@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/foundation/numbers.h>
 #include <tolvi/query/sqltypes.h>
@@ -59,22 +60,24 @@ struct TBoundStatement {
 ///
 /// `before` and `after` are what stands beside the value within the template's quotes (wildcards): they are put inside
 /// the literal, which then is one of text.
-void AppendLiteral(std::string& out, std::string_view value, TFieldType type, const TValueContext& context,
-                   std::string_view before = {}, std::string_view after = {});
+TOLVI_CORE_API void AppendLiteral(std::string& out, std::string_view value, TFieldType type,
+                                  const TValueContext& context, std::string_view before = {},
+                                  std::string_view after = {});
 
 /// The literals of the items of a comma text, joined by ",". An empty list is an error.
-void AppendLiteralList(std::string& out, std::string_view list, TFieldType type, const TValueContext& context,
-                       std::string_view before = {}, std::string_view after = {});
+TOLVI_CORE_API void AppendLiteralList(std::string& out, std::string_view list, TFieldType type,
+                                      const TValueContext& context, std::string_view before = {},
+                                      std::string_view after = {});
 
 /// The same conversion for a bound statement; `Name` is left empty. With text beside it, the value is one of text.
-TBoundValue ToBoundValue(std::string_view value, TFieldType type, const TValueContext& context,
-                         std::string_view before = {}, std::string_view after = {});
+TOLVI_CORE_API TBoundValue ToBoundValue(std::string_view value, TFieldType type, const TValueContext& context,
+                                        std::string_view before = {}, std::string_view after = {});
 
 /// The value in words: dates as the locale writes them, anything else, also what cannot be read, as it stands.
-std::string ValueToDisplay(std::string_view value, TFieldType type, const TFormatSettings& settings);
+TOLVI_CORE_API std::string ValueToDisplay(std::string_view value, TFieldType type, const TFormatSettings& settings);
 
 /// The value written anew in the stored form of its type (a date as day number); what cannot be read stays.
-std::string NormalizeValue(std::string_view value, TFieldType type, const TFormatSettings& settings);
+TOLVI_CORE_API std::string NormalizeValue(std::string_view value, TFieldType type, const TFormatSettings& settings);
 
 /// Types whose values are whole numbers, numbers with digits after the point.
 inline constexpr TFieldTypes IntegerFieldTypes{ftSmallint, ftInteger,  ftWord,     ftAutoInc,

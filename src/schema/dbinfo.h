@@ -14,6 +14,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/fieldtypes.h>
@@ -58,7 +59,7 @@ class TDBFieldInfo final {
 
 /// The fields of one table, in the catalogue's order. Owns its entries, which do not change while they are in it.
 /// Indexes count from 0; one outside the list raises `EListError`.
-class TDBFieldList final {
+class TOLVI_CORE_API TDBFieldList final {
  public:
   std::size_t Count() const { return FItems.Count(); }
   bool Empty() const { return FItems.Empty(); }
@@ -114,7 +115,7 @@ using TGetSQLValueEvent =
 /// nothing to any list.
 ///
 /// Whatever handlers and descendants raise reaches the caller.
-class TJDBInfo : public TComponent {
+class TOLVI_CORE_API TJDBInfo : public TComponent {
  public:
   std::string_view ClassName() const override { return "TJDBInfo"; }
 

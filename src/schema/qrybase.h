@@ -17,6 +17,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/components.h>
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/objectlist.h>
@@ -39,7 +40,7 @@ enum TQueryBaseErrorCode : std::int32_t {
 enum TQBOperation : std::uint8_t { qboListLoaded, qboListCleared, qboItemAdded, qboItemDeleted };
 
 /// A named query. Descendants know where its text is kept.
-class TJQueryItem {
+class TOLVI_CORE_API TJQueryItem {
  public:
   TJQueryItem() = default;
   explicit TJQueryItem(std::string_view queryName, std::string_view description = {})
@@ -89,7 +90,7 @@ class TJQueryItem {
 ///
 /// Its operations may destroy links, queries and the base, or change them; while one of them runs, it is not called
 /// again.
-class TJQueryBaseLink {
+class TOLVI_CORE_API TJQueryBaseLink {
  public:
   TJQueryBaseLink() = default;
   TJQueryBaseLink(const TJQueryBaseLink&) = delete;
@@ -127,7 +128,7 @@ using TQueryBaseEvent = std::function<void(TJQueryBase& sender)>;
 ///    while an operation of a link runs, this operation of this link is not called again.
 /// 3. What a handler of a `Before` event raises prevents the operation and reaches the caller. What links and handlers
 ///    of `After` events raise stops nothing: the operation is done to its end, then the first error reaches the caller.
-class TJQueryBase : public TComponent {
+class TOLVI_CORE_API TJQueryBase : public TComponent {
  public:
   ~TJQueryBase() override;
   std::string_view ClassName() const override { return "TJQueryBase"; }

@@ -15,6 +15,8 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 class TStrings;
@@ -49,7 +51,7 @@ enum TTokenType : std::uint8_t {
 };
 
 /// A set of words that are looked up ignoring case.
-class TKeywordList final {
+class TOLVI_CORE_API TKeywordList final {
  public:
   void Add(std::string_view word);
   void Clear();
@@ -82,7 +84,7 @@ struct TJScannerBookmark {
 
 /// Reads a text token by token. The text is copied once; tokens are views of it, which the next SetSource ends.
 /// Not safe for use by several threads at once, not even through const operations.
-class TJScanner final {
+class TOLVI_CORE_API TJScanner final {
  public:
   /// Selects the lexical rules; `ssSQL` by default. Takes effect at FirstToken.
   void SetSourceStyle(TSourceStyle style) { FStyle = style; }

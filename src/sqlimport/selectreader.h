@@ -9,12 +9,13 @@
 #include <string>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/sqlimport/selecttext.h>
 
 namespace tolvi {
 
 /// A condition: a predicate, or conditions of which all or any apply.
-struct TSelectCondition {
+struct TOLVI_CORE_API TSelectCondition {
   enum TKind : std::uint8_t { ckAll, ckAny, ckPredicate };
 
   TKind Kind = ckPredicate;
@@ -111,9 +112,10 @@ struct TSelectSkipped {
 /// Raises `ESQLImportError` for what is no SELECT, and for what a query cannot say: WITH, UNION and the like, a select
 /// or a function in FROM, OFFSET, FETCH, FOR, WINDOW, DISTINCT ON, NULLS FIRST, LIMIT other than with numbers. With
 /// `skipped`, what follows the last clause that can be read, and NULLS FIRST, goes there instead.
-TSelectStatement ReadSelect(const TSelectText& text, TTokenRange range, std::vector<TSelectSkipped>* skipped = nullptr);
+TOLVI_CORE_API TSelectStatement ReadSelect(const TSelectText& text, TTokenRange range,
+                                           std::vector<TSelectSkipped>* skipped = nullptr);
 
 /// Reads a condition on its own, such as the SQL of a link.
-TSelectCondition ReadSelectCondition(const TSelectText& text, TTokenRange range);
+TOLVI_CORE_API TSelectCondition ReadSelectCondition(const TSelectText& text, TTokenRange range);
 
 }  // namespace tolvi

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
+
 namespace tolvi {
 
 /// What a token of a statement is. Names are words that SQL does not reserve, and what stands in quotes for names.
@@ -86,7 +88,7 @@ enum TSelectWord : std::uint8_t {
   swCompare,
 };
 
-struct TSelectToken {
+struct TOLVI_CORE_API TSelectToken {
   /// As written, quotes included.
   std::string_view Text;
   std::size_t Pos = 0;  // in bytes
@@ -113,7 +115,7 @@ struct TTokenRange {
 
 /// A statement and its tokens. Comments are no tokens; nor is a ";" behind everything else. Operators of several
 /// characters, such as "||" and "->>", are one token each.
-class TSelectText final {
+class TOLVI_CORE_API TSelectText final {
  public:
   /// Copies the text. Names may stand in double quotes, and between `open` and `close` ("[" and "]", "`" and "`"). The
   /// statement's first line has the number `firstLine`. Raises `ESQLImportError` for a literal, a quoted name or a

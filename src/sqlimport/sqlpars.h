@@ -21,6 +21,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/sqlimport/scanner.h>
@@ -30,7 +31,7 @@
 namespace tolvi {
 
 /// Reads one statement after the other; the result is reused. Not safe for use by several threads at once.
-class TJSQLParser {
+class TOLVI_CORE_API TJSQLParser {
  public:
   TJSQLParser();
   virtual ~TJSQLParser() = default;

@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/objectlist.h>
 
 namespace tolvi {
@@ -48,7 +49,7 @@ class TSQLText final {
 };
 
 /// An item of the select list, or a name that only ORDER BY has.
-class TSQLResultField final {
+class TOLVI_CORE_API TSQLResultField final {
  public:
   /// The name after "as", without double quotes; empty if there is none.
   [[nodiscard]] std::string_view GetAlias() const { return FAlias.Get(); }
@@ -80,7 +81,7 @@ class TSQLResultField final {
   int FSortOrder = 0;
 };
 
-class TSQLResultFieldList final : public TJObjectList<TSQLResultField> {
+class TOLVI_CORE_API TSQLResultFieldList final : public TJObjectList<TSQLResultField> {
  public:
   /// Whether the list holds nothing but the names in ORDER BY, as after "select *".
   [[nodiscard]] bool GetJustSorting() const { return FJustSorting; }
@@ -95,7 +96,7 @@ class TSQLResultFieldList final : public TJObjectList<TSQLResultField> {
 };
 
 /// A table of the FROM clause.
-class TSQLTable final {
+class TOLVI_CORE_API TSQLTable final {
  public:
   /// As written, its parts joined by "."; double quotes are kept.
   [[nodiscard]] std::string_view GetTableName() const { return FTableName.Get(); }
@@ -118,7 +119,7 @@ class TSQLTable final {
 using TSQLTableList = TJObjectList<TSQLTable>;
 
 /// A bracket or a comparison.
-class TSQLNode {
+class TOLVI_CORE_API TSQLNode {
  public:
   virtual ~TSQLNode() = default;
   TSQLNode(const TSQLNode&) = delete;
@@ -200,7 +201,7 @@ class TSQLConditionNodeList final : private TJObjectList<TSQLNode> {
 };
 
 /// Nodes joined by "and" or by "or".
-class TSQLBracket final : public TSQLNode {
+class TOLVI_CORE_API TSQLBracket final : public TSQLNode {
  public:
   TSQLBracket() : TSQLNode(true), FNodes(*this) {}
   explicit TSQLBracket(std::string boolOperator) : TSQLBracket() { FBoolOperator = std::move(boolOperator); }
@@ -227,7 +228,7 @@ class TSQLBracket final : public TSQLNode {
 };
 
 /// A comparison: left value, operation, right value.
-class TSQLCondition final : public TSQLNode {
+class TOLVI_CORE_API TSQLCondition final : public TSQLNode {
  public:
   TSQLCondition() : TSQLNode(false) {}
 
@@ -277,7 +278,7 @@ struct TSQLDropped {
 };
 
 /// All that was read of a statement.
-class TJParserResult final {
+class TOLVI_CORE_API TJParserResult final {
  public:
   [[nodiscard]] bool GetDistinct() const { return FDistinct; }
   void SetDistinct(bool distinct) { FDistinct = distinct; }

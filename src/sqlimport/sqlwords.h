@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/sqlimport/scanner.h>
 
 namespace tolvi {
@@ -53,6 +54,6 @@ constexpr bool EndsTable(TSQLWord word) { return word >= wdEnd && word <= wdOrde
 constexpr bool EndsValue(TSQLWord word) { return word >= wdCompare && word <= wdNot; }
 
 /// The meaning of a token as written, in any case of letters. `ttUnknown` is wdEnd.
-[[nodiscard]] TSQLWord SQLWordOf(TTokenType type, std::string_view text);
+[[nodiscard]] TOLVI_CORE_API TSQLWord SQLWordOf(TTokenType type, std::string_view text);
 
 }  // namespace tolvi

@@ -9,16 +9,17 @@
 #include <unordered_set>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/sqlimport/selecttext.h>
 
 namespace tolvi {
 
 /// Where the select in brackets that begins at the token ends, behind its closing bracket; the token for any other.
-[[nodiscard]] std::size_t EndOfSubSelect(const TSelectText& text, std::size_t token);
+[[nodiscard]] TOLVI_CORE_API std::size_t EndOfSubSelect(const TSelectText& text, std::size_t token);
 
 /// Which tables the selects in a range have in their FROM, by their aliases or, without one, by their names.
-class TSubSelects final {
+class TOLVI_CORE_API TSubSelects final {
  public:
   TSubSelects(const TSelectText& text, TTokenRange range);
 

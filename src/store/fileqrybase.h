@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/store/storedqueries.h>
 
@@ -24,7 +25,7 @@ namespace tolvi {
 /// 5. Writes remove what writers that were killed have left behind (`IsQueryRemnant`).
 /// 6. A write-protected file is neither written nor erased. Of a symbolic link, the file that it names is written, and
 ///    the link is erased.
-class TJFileQueryBase final : public TJStoredQueryBase {
+class TOLVI_CORE_API TJFileQueryBase final : public TJStoredQueryBase {
  public:
   std::string_view ClassName() const override { return "TJFileQueryBase"; }
 

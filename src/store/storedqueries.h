@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tolvi/foundation/api.h>
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/schema/qrybase.h>
@@ -23,7 +24,7 @@ class TJStoredQueryBase;
 
 /// A store cannot do what it was asked for: a name is taken or none at all, the place cannot be read or written.
 /// Nothing was changed.
-class EQueryStoreError : public EException {
+class TOLVI_CORE_API EQueryStoreError : public EException {
  public:
   using EException::EException;
 };
@@ -42,7 +43,7 @@ struct TQueryEntry {
 };
 
 /// Another query of the store has that name, or would have the same file.
-class EQueryNameTakenError final : public EQueryStoreError {
+class TOLVI_CORE_API EQueryNameTakenError final : public EQueryStoreError {
  public:
   explicit EQueryNameTakenError(std::string_view name);
 };
@@ -61,7 +62,7 @@ struct TQueryCopy {
 ///   }
 ///
 /// or stores the own text as another query, by `AddQuery`.
-class EQueryConflictError final : public EQueryStoreError {
+class TOLVI_CORE_API EQueryConflictError final : public EQueryStoreError {
  public:
   EQueryConflictError(std::string_view name, std::string ownText, std::optional<TQueryCopy> stored);
 
@@ -77,7 +78,7 @@ class EQueryConflictError final : public EQueryStoreError {
 
 /// A query of a `TJStoredQueryBase`. `SetQueryName` and `SetDescription` change the list alone; the next save stores
 /// the name.
-class TJStoredQuery final : public TJQueryItem {
+class TOLVI_CORE_API TJStoredQuery final : public TJQueryItem {
  public:
   /// The stored text, with the query's name in it. Raises `EQueryStoreError` when somebody has erased it.
   void LoadContent(TStrings& strings) override;
@@ -123,7 +124,7 @@ struct TStoreChanges {
 /// 3. A write raises `EQueryConflictError` instead of replacing what has not been seen.
 /// 4. Other than in `TJQueryBase`, the current query stays the current one when one before it goes; and when it goes
 ///    itself, the one that becomes the current one does so as by `SetItemIndex`: what views show is what a save stores.
-class TJStoredQueryBase : public TJQueryBase {
+class TOLVI_CORE_API TJStoredQueryBase : public TJQueryBase {
  public:
   /// As `GetQuery`.
   TJStoredQuery& GetStoredQuery(int index) const;

@@ -7,6 +7,7 @@
 
 #include <tolvi/foundation/errors.h>
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/xml/api.h>
 
 namespace tolvi {
 
@@ -16,7 +17,7 @@ namespace tolvi {
 inline constexpr std::int32_t CurrentModelXmlVersion = 1;
 
 /// Raised when a document cannot be read. The message begins with the place: "Line 3, column 7: ...".
-class EModelXmlError : public EException {
+class TOLVI_XML_API EModelXmlError : public EException {
  public:
   EModelXmlError(std::int64_t line, std::int64_t column, std::string_view reason)
       : EException("Line %d, column %d: %s", {line, column, reason}), FLine(line), FColumn(column), FReason(reason) {}
@@ -33,21 +34,21 @@ class EModelXmlError : public EException {
 };
 
 /// The whole model as a document in UTF-8, lines ended by LF.
-std::string ModelToXml(const TJCustomDBStructure& model);
+TOLVI_XML_API std::string ModelToXml(const TJCustomDBStructure& model);
 
 /// Replaces the model's content by that of the document; `OnChange` fires once, `OnLoadModel` does not. Settings
 /// elements that the document lacks leave `SQLFormats` and `DMOptions` as they are. Raises `EModelXmlError` for a
 /// document that is no XML, has a document type, is no data model or is of a newer version; the model is then left as
 /// it was.
-void LoadModelFromXml(TJCustomDBStructure& model, std::string_view xml);
+TOLVI_XML_API void LoadModelFromXml(TJCustomDBStructure& model, std::string_view xml);
 
 /// The same with files; also raise `EFileError`. The file is written whole or not at all.
-void SaveModelToXmlFile(const TJCustomDBStructure& model, const std::filesystem::path& file);
-void LoadModelFromXmlFile(TJCustomDBStructure& model, const std::filesystem::path& file);
+TOLVI_XML_API void SaveModelToXmlFile(const TJCustomDBStructure& model, const std::filesystem::path& file);
+TOLVI_XML_API void LoadModelFromXmlFile(TJCustomDBStructure& model, const std::filesystem::path& file);
 
 /// Whether the text is XML rather than a model text: its first byte that is no white space is "<".
-bool IsModelXml(std::string_view text);
+TOLVI_XML_API bool IsModelXml(std::string_view text);
 /// Loads a document or a model text, whichever it is.
-void LoadModelFromAnyText(TJCustomDBStructure& model, std::string_view text);
+TOLVI_XML_API void LoadModelFromAnyText(TJCustomDBStructure& model, std::string_view text);
 
 }  // namespace tolvi

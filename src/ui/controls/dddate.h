@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/controls/ddlabel.h>
 
 namespace tolvi {
@@ -7,7 +8,7 @@ namespace tolvi {
 /// A label that takes a date, a time or both: typed, or chosen in a calendar. The value is "yyyy-mm-dd", "hh:nn:ss", or
 /// both with a blank between; the caption is written by the display format. Both may be empty. A text that is no date
 /// can be accepted: it is kept as typed, in value and caption, and the label has a fault.
-class TDropDownDate : public TDropDownLabel {
+class TOLVI_WIDGETS_API TDropDownDate : public TDropDownLabel {
   Q_OBJECT
   Q_PROPERTY(QString displayFormat READ GetDisplayFormat WRITE SetDisplayFormat)
   Q_PROPERTY(TDateKind kind READ GetKind WRITE SetKind)

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/controls/ddlabel.h>
 
 namespace tolvi {
 
 /// A label that is edited as one line, in place. Value and caption are the text.
-class TDropDownEdit : public TDropDownLabel {
+class TOLVI_WIDGETS_API TDropDownEdit : public TDropDownLabel {
   Q_OBJECT
   Q_PROPERTY(QString inputMask READ GetInputMask WRITE SetInputMask)
   Q_PROPERTY(bool keepsMask READ GetKeepsMask WRITE SetKeepsMask)
@@ -53,7 +54,7 @@ using TTextCase = TDropDownEdit::TTextCase;
 
 /// A label that is edited as several lines, in place. Enter begins a line, Ctrl+Enter accepts. The label shows the text
 /// as one line.
-class TDropDownMemo : public TDropDownLabel {
+class TOLVI_WIDGETS_API TDropDownMemo : public TDropDownLabel {
   Q_OBJECT
  public:
   using TDropDownLabel::TDropDownLabel;

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+
+#include <tolvi/ui/api.h>
 class QKeyEvent;
 
 namespace tolvi {
@@ -23,7 +25,7 @@ using TAfterDropUpEvent = std::function<void(TDropDownLabel& sender, bool accept
 ///
 /// The caption is what is shown, the value what it stands for; either may be set without the other, no event fires
 /// then. The size is that of the caption (`sizeHint`), in the widget's font; whoever places the label gives it that.
-class TDropDownLabel : public QWidget {
+class TOLVI_WIDGETS_API TDropDownLabel : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QString caption READ GetCaption WRITE SetCaption)
   Q_PROPERTY(QString value READ GetValue WRITE SetValue)

@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/controls/ddlabel.h>
 
 namespace tolvi {
@@ -18,7 +19,7 @@ struct TDropDownItem {
 
 /// A label that opens a list. A line above the list finds items as you type: those that hold the text anywhere,
 /// ignoring case and accents; the arrow keys choose among them.
-class TDropDownList : public TDropDownLabel {
+class TOLVI_WIDGETS_API TDropDownList : public TDropDownLabel {
   Q_OBJECT
   Q_PROPERTY(QStringList items READ GetItemLines WRITE SetItemLines)
   Q_PROPERTY(int itemIndex READ GetItemIndex WRITE SetItemIndex)
@@ -70,7 +71,7 @@ class TDropDownList : public TDropDownLabel {
 };
 
 /// Shows the items as one list; the group stands beside the text.
-class TDropDownListBox : public TDropDownList {
+class TOLVI_WIDGETS_API TDropDownListBox : public TDropDownList {
   Q_OBJECT
  public:
   using TDropDownList::TDropDownList;
@@ -78,7 +79,7 @@ class TDropDownListBox : public TDropDownList {
 
 /// Shows each group as a section with a heading, in the order of their first items; a line is above the items without a
 /// group when they are not the first.
-class TDropDownPopup : public TDropDownList {
+class TOLVI_WIDGETS_API TDropDownPopup : public TDropDownList {
   Q_OBJECT
  public:
   using TDropDownList::TDropDownList;
@@ -90,7 +91,7 @@ class TDropDownPopup : public TDropDownList {
 /// Chooses any number of items. The value is the comma text of the values chosen, the caption their texts with ", "
 /// between, both in the order of the list. Values that no item has are kept at the end. A click switches an item, and
 /// so does Space while nothing is typed or an arrow key was the last one.
-class TDropDownCheckList : public TDropDownList {
+class TOLVI_WIDGETS_API TDropDownCheckList : public TDropDownList {
   Q_OBJECT
  public:
   using TDropDownList::TDropDownList;

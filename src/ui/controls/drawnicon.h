@@ -1,12 +1,14 @@
-// Icons that are drawn, not stored: sharp at every size.
 #pragma once
 
 #include <QIconEngine>
 
+#include <tolvi/ui/api.h>
+
 namespace tolvi {
 
-/// Draws on a square field that is scaled to the size of the icon.
-class TDrawnIconEngine : public QIconEngine {
+/// Icons that are drawn, not stored: sharp at every size. Draws on a square field that is scaled to the size of the
+/// icon.
+class TOLVI_WIDGETS_API TDrawnIconEngine : public QIconEngine {
  public:
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;

@@ -3,10 +3,12 @@
 #include <QCheckBox>
 #include <functional>
 
+#include <tolvi/ui/api.h>
+
 namespace tolvi {
 
 /// A check box that stands in a line of text: as high as the font, drawn flat in the colours of the palette.
-class TJFlatCheckBox : public QCheckBox {
+class TOLVI_WIDGETS_API TJFlatCheckBox : public QCheckBox {
   Q_OBJECT
 
  public:

@@ -3,10 +3,12 @@
 #include <QPushButton>
 #include <functional>
 
+#include <tolvi/ui/api.h>
+
 namespace tolvi {
 
 /// A push button with a short text: flat or raised, with round ends or not. Colours come from the palette.
-class TJRndBtn : public QPushButton {
+class TOLVI_WIDGETS_API TJRndBtn : public QPushButton {
   Q_OBJECT
   Q_PROPERTY(bool flat READ GetFlat WRITE SetFlat)
   Q_PROPERTY(bool rounded READ GetRounded WRITE SetRounded)

@@ -4,6 +4,8 @@
 #include <functional>
 #include <string>
 #include <vector>
+
+#include <tolvi/ui/api.h>
 class QAbstractButton;
 class QBoxLayout;
 class QCheckBox;
@@ -25,7 +27,7 @@ class TTableChoice;
 ///
 /// Keys: what is typed first is searched; Down or Enter goes from there to the tables, Space checks those selected,
 /// Ctrl+A selects all, Ctrl+Enter is OK.
-class T_dlgAddTables final : public QDialog {
+class TOLVI_WIDGETS_API T_dlgAddTables final : public QDialog {
   Q_OBJECT
 
  public:
@@ -71,6 +73,6 @@ class T_dlgAddTables final : public QDialog {
 /// Lets the user choose tables of the catalogue, and adds them to the model, as one step of the editor. Whether any
 /// were added; `addedAliases` are theirs then, in the order of the model. Without a connected catalogue it tells so and
 /// returns false.
-bool AddTables(QWidget* parent, TModelEditor& editor, std::vector<std::string>& addedAliases);
+TOLVI_WIDGETS_API bool AddTables(QWidget* parent, TModelEditor& editor, std::vector<std::string>& addedAliases);
 
 }  // namespace tolvi

@@ -4,6 +4,8 @@
 #include <array>
 #include <functional>
 
+#include <tolvi/ui/api.h>
+
 class QLabel;
 class QPushButton;
 class QStackedWidget;
@@ -20,7 +22,7 @@ struct TFillOptions;
 /// catalogue says when it fails is shown on the page, with a button to try again.
 ///
 /// Keys: Enter goes on, Alt+Left goes back, Escape cancels; in the lists, Space switches the selected rows, F2 renames.
-class T_dlgFill final : public QDialog {
+class TOLVI_WIDGETS_API T_dlgFill final : public QDialog {
   Q_OBJECT
 
  public:
@@ -55,6 +57,6 @@ class T_dlgFill final : public QDialog {
 
 /// Fills the model from its database information by the wizard, as one step of the editor. Whether something was
 /// filled. `options` are what the wizard begins with.
-bool FillFromDatabase(QWidget* parent, TModelEditor& editor, const TFillOptions& options);
+TOLVI_WIDGETS_API bool FillFromDatabase(QWidget* parent, TModelEditor& editor, const TFillOptions& options);
 
 }  // namespace tolvi

@@ -3,6 +3,7 @@
 #include <QDialog>
 
 #include <tolvi/panel/linkeditor.h>
+#include <tolvi/ui/api.h>
 class QButtonGroup;
 class QComboBox;
 class QGridLayout;
@@ -18,7 +19,7 @@ class TLinkPairs;
 /// filled in.
 ///
 /// Keys: Ctrl+N new pair, Delete, Alt+Up and Alt+Down move, Ctrl+Enter is OK.
-class T_dlgLinkEdit final : public QDialog {
+class TOLVI_WIDGETS_API T_dlgLinkEdit final : public QDialog {
   Q_OBJECT
 
  public:
@@ -53,6 +54,6 @@ class T_dlgLinkEdit final : public QDialog {
 
 /// Lets the user edit a link. Whether OK was chosen; the link is changed then, which is no step of a history by itself.
 /// The model and the link must live until the dialog is closed.
-bool EditLink(QWidget* parent, TJCustomDBStructure& model, TDSLink& link);
+TOLVI_WIDGETS_API bool EditLink(QWidget* parent, TJCustomDBStructure& model, TDSLink& link);
 
 }  // namespace tolvi

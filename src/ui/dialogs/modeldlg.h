@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <tolvi/model/dbstruc.h>
+#include <tolvi/ui/api.h>
 
 class QAction;
 class QSplitter;
@@ -35,7 +36,7 @@ struct TModelFormat {
 /// Keys: Ctrl+Z and Ctrl+Y undo and redo, Ctrl+Tab goes to the next page, F7 opens the list of what is wrong, F9 the
 /// pane in which the model is tried, F1 Help, Ctrl+Enter is OK. Escape asks before changes are lost. A model that is
 /// destroyed meanwhile closes the dialog.
-class T_dlgModelEdit final : public QDialog {
+class TOLVI_WIDGETS_API T_dlgModelEdit final : public QDialog {
   Q_OBJECT
 
  public:
@@ -112,6 +113,6 @@ class T_dlgModelEdit final : public QDialog {
 
 /// Lets the developer edit the model. Whether OK was chosen; the model then has the new content, in one change, if that
 /// differs. It must live until the dialog is closed, be it by the destruction of `parent`.
-bool EditModel(QWidget* parent, TJCustomDBStructure& model, std::vector<TModelFormat> formats = {});
+TOLVI_WIDGETS_API bool EditModel(QWidget* parent, TJCustomDBStructure& model, std::vector<TModelFormat> formats = {});
 
 }  // namespace tolvi

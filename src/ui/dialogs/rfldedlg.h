@@ -6,6 +6,7 @@
 #include <memory>
 
 #include <tolvi/query/titles.h>
+#include <tolvi/ui/api.h>
 
 class QAction;
 class QLineEdit;
@@ -28,7 +29,7 @@ using TRFHelpEvent = std::function<void(QWidget& dialog)>;
 /// one; Ctrl+N new, Delete, Ctrl+T sorts, Alt+Up and Alt+Down move; Ctrl+Z and Ctrl+Y undo and redo, Ctrl+Tab
 /// goes to the other page, Ctrl+Enter is OK, F1 Help. Escape asks before changes are lost. A model that is destroyed
 /// meanwhile closes the dialog.
-class T_dlgRFieldEdit final : public QDialog {
+class TOLVI_WIDGETS_API T_dlgRFieldEdit final : public QDialog {
   Q_OBJECT
 
  public:
@@ -72,6 +73,7 @@ class T_dlgRFieldEdit final : public QDialog {
 
 /// Lets the user edit the columns. Whether OK was chosen; `fields` then holds them, in one change if they are others,
 /// else it stays. It must live until the dialog is closed, be it by the destruction of `parent`.
-bool EditResultFields(QWidget* parent, TRFieldList& fields, const TTitles& titles, TRFHelpEvent onHelp = {});
+TOLVI_WIDGETS_API bool EditResultFields(QWidget* parent, TRFieldList& fields, const TTitles& titles,
+                                        TRFHelpEvent onHelp = {});
 
 }  // namespace tolvi

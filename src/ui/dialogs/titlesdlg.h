@@ -4,6 +4,7 @@
 #include <functional>
 
 #include <tolvi/foundation/strings.h>
+#include <tolvi/ui/api.h>
 
 class QLabel;
 class QLineEdit;
@@ -19,7 +20,7 @@ class TTitlesModel;
 /// default text, from a file, into a file. A text that has lost the place of a word is marked and can be kept.
 ///
 /// Keys: F2, Enter or typing changes a text, an empty one becomes the default text.
-class T_dlgTitlesEdit final : public QDialog {
+class TOLVI_WIDGETS_API T_dlgTitlesEdit final : public QDialog {
   Q_OBJECT
 
  public:
@@ -66,6 +67,6 @@ class T_dlgTitlesEdit final : public QDialog {
 
 /// Lets the user edit the titles. Whether OK was chosen; `titles` then holds the lines of the defaults with the edited
 /// texts, else it stays.
-bool EditTitles(QWidget* parent, const TStrings& defaults, TStrings& titles);
+TOLVI_WIDGETS_API bool EditTitles(QWidget* parent, const TStrings& defaults, TStrings& titles);
 
 }  // namespace tolvi

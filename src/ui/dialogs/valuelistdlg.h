@@ -5,6 +5,7 @@
 
 #include <tolvi/foundation/strings.h>
 #include <tolvi/query/titles.h>
+#include <tolvi/ui/api.h>
 
 class QLabel;
 class QPlainTextEdit;
@@ -16,7 +17,7 @@ using TValueCheck = std::function<QString(const QString& value)>;
 
 /// Lets the user edit a list of values as lines, into which a column of a spreadsheet can be pasted. Blanks round a
 /// value and empty lines do not count. A wrong value is marked, and can be kept. Ctrl+Enter is OK.
-class T_dlgValueList final : public QDialog {
+class TOLVI_WIDGETS_API T_dlgValueList final : public QDialog {
   Q_OBJECT
 
  public:
@@ -37,7 +38,7 @@ class T_dlgValueList final : public QDialog {
 };
 
 /// Lets the user edit the values. Whether OK was chosen; else `values` stays.
-bool EditValueList(QWidget* parent, TStrings& values, const QString& caption, const TTitles& titles,
-                   const TValueCheck& check);
+TOLVI_WIDGETS_API bool EditValueList(QWidget* parent, TStrings& values, const QString& caption, const TTitles& titles,
+                                     const TValueCheck& check);
 
 }  // namespace tolvi

@@ -3,10 +3,12 @@
 #include <QAbstractButton>
 #include <QColor>
 
+#include <tolvi/ui/api.h>
+
 namespace tolvi {
 
 /// A text that does something when it is clicked: looks like a link, works as a button (Space, Enter).
-class TLinkLabel final : public QAbstractButton {
+class TOLVI_WIDGETS_API TLinkLabel final : public QAbstractButton {
   Q_OBJECT
   Q_PROPERTY(QColor linkColor READ GetLinkColor WRITE SetLinkColor RESET ResetLinkColor)
 

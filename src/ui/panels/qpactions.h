@@ -10,13 +10,14 @@
 
 #include <tolvi/panel/panelcommands.h>
 #include <tolvi/panel/panelmenus.h>
+#include <tolvi/ui/api.h>
 class QKeyEvent;
 
 namespace tolvi {
 
 /// One action for each command: named like it, with its caption, keys and help. They are no short cuts of a window: the
 /// view looks up which one a key means.
-class TQPActions final : public QObject {
+class TOLVI_WIDGETS_API TQPActions final : public QObject {
   Q_OBJECT
 
  public:

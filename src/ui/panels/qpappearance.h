@@ -6,13 +6,14 @@
 #include <functional>
 
 #include <tolvi/query/rowphrase.h>
+#include <tolvi/ui/api.h>
 
 namespace tolvi {
 
 /// How a query panel looks. Colours that are not set are those of the palette; all are adjusted where they could not be
 /// read on the background. What a font does not set, such as its size, is that of the view's font. Sizes are in pixels;
 /// -1, the default, fits the view's font. The view takes changes at once.
-class TQPAppearance final : public QObject {
+class TOLVI_WIDGETS_API TQPAppearance final : public QObject {
   Q_OBJECT
   Q_PROPERTY(QColor linkWordColor READ GetLinkWordColor WRITE SetLinkWordColor RESET ResetLinkWordColor)
   Q_PROPERTY(QColor fieldColor READ GetFieldColor WRITE SetFieldColor RESET ResetFieldColor)

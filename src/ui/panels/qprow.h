@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <tolvi/query/rowphrase.h>
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/controls/ddlabel.h>
 #include <tolvi/ui/controls/flatcheckbox.h>
 #include <tolvi/ui/controls/rndbtn.h>
@@ -23,7 +24,7 @@ class TQPTriangle;
 /// can be changed as labels.
 ///
 /// The parts that can have the focus are numbered from 0, the button.
-class TQPRow final : public QWidget {
+class TOLVI_WIDGETS_API TQPRow final : public QWidget {
   Q_OBJECT
 
  public:

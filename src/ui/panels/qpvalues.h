@@ -6,6 +6,7 @@
 
 #include <tolvi/query/rowphrase.h>
 #include <tolvi/query/rows.h>
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/controls/ddlabel.h>
 
 namespace tolvi {
@@ -31,10 +32,10 @@ enum class TQPValueKind : std::uint8_t {
 };
 
 /// By the value's kind, the field's editor, and the type.
-TQPValueKind ValueKindOf(const TFilterCond& condition, int index);
+TOLVI_WIDGETS_API TQPValueKind ValueKindOf(const TFilterCond& condition, int index);
 
 /// A label whose editor is a window of the host's or the view's.
-class TQPActionLabel final : public TDropDownLabel {
+class TOLVI_WIDGETS_API TQPActionLabel final : public TDropDownLabel {
   Q_OBJECT
 
  public:
@@ -49,7 +50,7 @@ class TQPActionLabel final : public TDropDownLabel {
 };
 
 /// A label for name and prompt of a parameter.
-class TQPParamLabel final : public TDropDownLabel {
+class TOLVI_WIDGETS_API TQPParamLabel final : public TDropDownLabel {
   Q_OBJECT
 
  public:
@@ -69,25 +70,26 @@ class TQPParamLabel final : public TDropDownLabel {
 };
 
 /// A label of that kind without a value. The caller sets its events.
-TDropDownLabel* MakeValueLabel(TQPValueKind kind, QWidget* parent);
+TOLVI_WIDGETS_API TDropDownLabel* MakeValueLabel(TQPValueKind kind, QWidget* parent);
 /// Shows the value, worded as in the row's sentence, with what is wrong with it.
-void ShowValue(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index,
-               const TPhrasePart& part);
+TOLVI_WIDGETS_API void ShowValue(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index,
+                                 const TPhrasePart& part);
 /// The value as the label keeps it.
-QString LabelValue(TQPValueKind kind, const TFilterCond& condition, int index);
+TOLVI_WIDGETS_API QString LabelValue(TQPValueKind kind, const TFilterCond& condition, int index);
 /// Whether two values of a label are the same; for several items, in whatever order.
-bool IsSameValue(TQPValueKind kind, const QString& value, const QString& other);
+TOLVI_WIDGETS_API bool IsSameValue(TQPValueKind kind, const QString& value, const QString& other);
 /// What the label offers, set when it opens; the default value where there is none. Lists fetched by SQL are marked as
 /// busy until `ShowFetched`.
-void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index);
-void ShowFetched(TDropDownLabel& label, const TFilterCond& condition, int index, const QString& fault);
+TOLVI_WIDGETS_API void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index);
+TOLVI_WIDGETS_API void ShowFetched(TDropDownLabel& label, const TFilterCond& condition, int index,
+                                   const QString& fault);
 /// Gives the condition the value that the user has chosen. Raises `EJQueryPanelError` for a parameter's name that is
 /// none.
-void TakeValue(const TDropDownLabel& label, TQPValueKind kind, TFilterCond& condition, int index);
+TOLVI_WIDGETS_API void TakeValue(const TDropDownLabel& label, TQPValueKind kind, TFilterCond& condition, int index);
 
 /// Why the text cannot be a value of the condition; empty when it can.
-QString FaultOfText(const TFilterCond& condition, int index, const QString& text);
+TOLVI_WIDGETS_API QString FaultOfText(const TFilterCond& condition, int index, const QString& text);
 /// The same of one value of a list.
-QString FaultOfItem(const TFilterCond& condition, int index, const QString& item);
+TOLVI_WIDGETS_API QString FaultOfItem(const TFilterCond& condition, int index, const QString& item);
 
 }  // namespace tolvi

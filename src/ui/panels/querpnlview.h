@@ -12,6 +12,7 @@
 #include <tolvi/foundation/components.h>
 #include <tolvi/panel/paneleditor.h>
 #include <tolvi/query/rowphrase.h>
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/controls/ddlist.h>
 #include <tolvi/ui/panels/qpactions.h>
 #include <tolvi/ui/panels/qpappearance.h>
@@ -44,7 +45,7 @@ struct TQPMetrics {
 /// 4. Handlers of the panel's and the view's events may destroy both.
 ///
 /// Keys are those of the commands (`PanelCommands`). The commands are actions, too (`GetAction`), named like them.
-class TJQueryPanelView : public QAbstractScrollArea {
+class TOLVI_WIDGETS_API TJQueryPanelView : public QAbstractScrollArea {
   Q_OBJECT
   Q_PRIVATE_PROPERTY(FAppearance,
                      QColor linkWordColor READ GetLinkWordColor WRITE SetLinkWordColor RESET ResetLinkWordColor)

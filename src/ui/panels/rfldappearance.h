@@ -6,11 +6,12 @@
 #include <functional>
 
 #include <tolvi/panel/rfldrows.h>
+#include <tolvi/ui/api.h>
 
 namespace tolvi {
 
 /// How a result fields panel looks. The setters only store: rows take the settings when they are placed the next time.
-class TRFPAppearance final : public QObject {
+class TOLVI_WIDGETS_API TRFPAppearance final : public QObject {
   Q_OBJECT
   Q_PROPERTY(int leftMargin READ GetLeftMargin WRITE SetLeftMargin)
   Q_PROPERTY(int topMargin READ GetTopMargin WRITE SetTopMargin)

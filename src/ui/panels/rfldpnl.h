@@ -15,6 +15,7 @@
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/query/resultfields.h>
 #include <tolvi/query/titles.h>
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/dialogs/rfldedlg.h>
 #include <tolvi/ui/panels/linklabel.h>
 #include <tolvi/ui/panels/rfldappearance.h>
@@ -36,7 +37,7 @@ using TRFPanelChangeEvent = std::function<void(TJResultFieldsPanel& sender)>;
 ///
 /// Keys: Tab, Left and Right go through the elements of a row, Up, Down, Home and End from row to row; Space, Enter or
 /// the menu key open the row menu on a button; Delete deletes the row, Alt+Up and Alt+Down on its button move it.
-class TJResultFieldsPanel final : public QScrollArea, private TDSListener {
+class TOLVI_WIDGETS_API TJResultFieldsPanel final : public QScrollArea, private TDSListener {
   Q_OBJECT
   Q_PROPERTY(QStringList titles READ GetTitleLines WRITE SetTitleLines)
   Q_PRIVATE_PROPERTY(FAppearance, int leftMargin READ GetLeftMargin WRITE SetLeftMargin)

@@ -8,6 +8,7 @@
 
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/panel/rfldrows.h>
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/controls/ddlist.h>
 #include <tolvi/ui/controls/rndbtn.h>
 
@@ -19,7 +20,7 @@ class TResultFieldRow;
 class TResultFieldRows;
 
 /// The numbered button of a row; it opens the row menu.
-class TRFRowButton final : public TJRndBtn {
+class TOLVI_WIDGETS_API TRFRowButton final : public TJRndBtn {
   Q_OBJECT
 
  public:
@@ -38,7 +39,7 @@ enum TRFRowPart : std::uint8_t { rpButton, rpField, rpSorting };
 
 /// A row of the panel, which shows one column: button, text, field label, text, sort label. It owns these widgets; the
 /// two texts and the field label are made anew whenever the row is placed.
-class TResultFieldRow final {
+class TOLVI_WIDGETS_API TResultFieldRow final {
  public:
   /// Raises `ERFPanelError` "DBStructure is not specified" when the panel has no model.
   explicit TResultFieldRow(TResultFieldRows& list);
@@ -103,7 +104,7 @@ class TResultFieldRow final {
 };
 
 /// The rows of the panel, owned, in the order of its columns.
-class TResultFieldRows final {
+class TOLVI_WIDGETS_API TResultFieldRows final {
  public:
   explicit TResultFieldRows(TJResultFieldsPanel& panel) : FPanel(panel) {}
 

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include <tolvi/panel/stdsgeometry.h>
+#include <tolvi/ui/api.h>
 
 namespace tolvi {
 
@@ -12,7 +13,7 @@ class TDesignMinimap;
 
 /// A view of a diagram that scrolls, zooms (Ctrl with the wheel or +, -, 0) and is pushed (middle button, or Space and
 /// the left one). What else mouse and keys do is its owner's matter.
-class TJDesignArea final : public QGraphicsView {
+class TOLVI_WIDGETS_API TJDesignArea final : public QGraphicsView {
   Q_OBJECT
 
  public:
@@ -78,7 +79,7 @@ class TJDesignArea final : public QGraphicsView {
 };
 
 /// The whole diagram in small, over a corner of the area; a click or drag goes there.
-class TDesignMinimap final : public QWidget {
+class TOLVI_WIDGETS_API TDesignMinimap final : public QWidget {
   Q_OBJECT
 
  public:

@@ -10,6 +10,7 @@
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/panel/stdsgeometry.h>
+#include <tolvi/ui/api.h>
 
 namespace tolvi {
 
@@ -18,7 +19,7 @@ class TTableRep;
 struct TDesignStyle;
 
 /// A line between the linked fields of two boxes.
-class TLinkRep final : public QGraphicsItem {
+class TOLVI_WIDGETS_API TLinkRep final : public QGraphicsItem {
  public:
   TLinkRep(TDSLink& link, TTableRep& table1, TTableRep& table2, const TDesignStyle& style);
 
@@ -65,6 +66,6 @@ class TLinkRep final : public QGraphicsItem {
 using TLinkRepList = TJObjectList<TLinkRep>;
 
 /// The first link in list order that the point of the content is over; null when it is over none.
-TLinkRep* IsOverSomeLink(const TLinkRepList& links, TDesignPoint point);
+TOLVI_WIDGETS_API TLinkRep* IsOverSomeLink(const TLinkRepList& links, TDesignPoint point);
 
 }  // namespace tolvi

@@ -20,6 +20,7 @@
 #include <tolvi/panel/modeleditor.h>
 #include <tolvi/panel/stdsgeometry.h>
 #include <tolvi/panel/stdshints.h>
+#include <tolvi/ui/api.h>
 #include <tolvi/ui/panels/stdsarea.h>
 #include <tolvi/ui/panels/stdslink.h>
 #include <tolvi/ui/panels/stdstable.h>
@@ -55,7 +56,7 @@ using TDesignEvent = std::function<void(TJStructDesignPanel& sender)>;
 /// Tab goes through the boxes; arrows move them, by single pixels with Ctrl, and size them with Shift; PageUp and
 /// PageDown scroll the fields, with Ctrl they go through the links; Enter edits the link, Delete deletes what was
 /// selected last; while a link is added, Up and Down choose a field and Enter takes it. The menu has the other keys.
-class TJStructDesignPanel final : public QFrame, private TDSListener {
+class TOLVI_WIDGETS_API TJStructDesignPanel final : public QFrame, private TDSListener {
   Q_OBJECT
   Q_PROPERTY(bool showActionHints READ GetShowActionHints WRITE SetShowActionHints)
   Q_PROPERTY(bool showFullScreenButton READ GetShowFullScreenButton WRITE SetShowFullScreenButton)

@@ -15,6 +15,7 @@
 #include <tolvi/foundation/objectlist.h>
 #include <tolvi/foundation/strings.h>
 #include <tolvi/panel/stdsgeometry.h>
+#include <tolvi/ui/api.h>
 
 namespace tolvi {
 
@@ -22,7 +23,7 @@ class TDSTable;
 class TTableRep;
 
 /// What all boxes and lines of a diagram look like. Sizes are those at a zoom of 1, in pixels.
-struct TDesignStyle {
+struct TOLVI_WIDGETS_API TDesignStyle {
   QPalette Palette;
   QFont Font;
   int TitleHeight = 18, ItemHeight = 16;
@@ -36,7 +37,7 @@ struct TDesignStyle {
 };
 
 /// The fields in a box, and how far they are scrolled. Indexes count from 0.
-class TTableRepListBox final {
+class TOLVI_WIDGETS_API TTableRepListBox final {
  public:
   enum TMark : std::uint8_t { mkNone = 0, mkKey = 1, mkLinked = 2 };
 
@@ -86,7 +87,7 @@ class TTableRepListBox final {
 
 /// A box: a title bar with the table's title and, below it, its fields. It stands in the co-ordinates of the diagram's
 /// content, which its place says; the model's stored place is the panel's matter.
-class TTableRep final : public QGraphicsItem {
+class TOLVI_WIDGETS_API TTableRep final : public QGraphicsItem {
  public:
   /// What is at a point of a box.
   enum TPart : std::uint8_t { bpTitle, bpField, bpList, bpScrollBar, bpEdge };
@@ -164,6 +165,6 @@ class TTableRep final : public QGraphicsItem {
 using TTableRepList = TJObjectList<TTableRep>;
 
 /// Whether the point of the content is over a box: the first in list order; null when it is over none.
-TTableRep* IsOverSomeTable(const TTableRepList& boxes, TDesignPoint point);
+TOLVI_WIDGETS_API TTableRep* IsOverSomeTable(const TTableRepList& boxes, TDesignPoint point);
 
 }  // namespace tolvi

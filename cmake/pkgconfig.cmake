@@ -1,0 +1,21 @@
+# tolvi_pkgconfig(TARGET COMPONENT DESCRIPTION [REQUIRES PACKAGE...] [STATIC_REQUIRES PACKAGE...] [STATIC_LIBS FLAG...]):
+# the file with which pkg-config finds the installed library, wherever the installed tree has been moved to. What only
+# a static library is linked with is named only by that one, but without `pkg-config --static` too: there is no other.
+function(tolvi_pkgconfig target component description)
+  cmake_parse_arguments(PARSE_ARGV 3 arg "" "" "REQUIRES;STATIC_REQUIRES;STATIC_LIBS")
+  set(flags "")
+  set(libs "")
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "STATIC_LIBRARY")
+    list(APPEND arg_REQUIRES ${arg_STATIC_REQUIRES})
+    set(flags " -DTOLVI_STATIC")
+    list(TRANSFORM arg_STATIC_LIBS PREPEND " " OUTPUT_VARIABLE libs)
+  endif()
+  list(JOIN arg_REQUIRES ", " requires)
+  set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  file(RELATIVE_PATH tolvi_prefix /${folder} /)
+  string(REGEX REPLACE "/$" "" tolvi_prefix "${tolvi_prefix}")
+  string(REPLACE _ - package ${target})
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/tolvi.pc.in ${PROJECT_BINARY_DIR}/${package}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${folder} COMPONENT dev)
+endfunction()
