@@ -154,18 +154,16 @@ const TCommandInfo& FindCommand(std::string_view name) {
 }
 
 const TOptionInfo& FindOption(const TCommandInfo& command, std::string_view name) {
-  for (const TOptionInfo& option : OptionTable) {
-    if (option.Name == name && (IsListed(command.Required, name) || IsListed(command.Optional, name))) return option;
+  for (const TOptionInfo* option : OptionsOf(command)) {
+    if (option->Name == name) return *option;
   }
   throw EUsageError(std::string(command.Name) + " has no option --" + std::string(name));
 }
 
 void CheckChoice(const TOptionInfo& option, std::string_view value) {
   if (option.Choices.empty()) return;
-  for (std::string_view rest = option.Choices; !rest.empty();) {
-    const std::string_view choice = rest.substr(0, rest.find('|'));
+  for (const std::string& choice : SplitWords(option.Choices, "|")) {
     if (choice == value) return;
-    rest.remove_prefix(std::min(rest.size(), choice.size() + 1));
   }
   throw EUsageError("--" + std::string(option.Name) + " is one of " + std::string(option.Choices) + ", not \"" +
                     std::string(value) + "\"");
@@ -175,9 +173,9 @@ void CheckChoice(const TOptionInfo& option, std::string_view value) {
 void CheckWhole(const TArguments& arguments) {
   const TCommandInfo& command = *arguments.Command;
   const std::string name(command.Name);
-  for (const TOptionInfo& option : OptionTable) {
-    if (IsListed(command.Required, option.Name) && !arguments.Has(option.Name)) {
-      throw EUsageError(name + " needs --" + std::string(option.Name) + " " + std::string(option.Argument));
+  for (const TOptionInfo* option : OptionsOf(command)) {
+    if (IsRequired(command, *option) && !arguments.Has(option->Name)) {
+      throw EUsageError(name + " needs " + Spelled(*option));
     }
   }
   if (arguments.Operands.size() < command.MinOperands) {
@@ -225,6 +223,31 @@ std::vector<std::string> Words(std::string_view text) {
 
 std::span<const TCommandInfo> Commands() { return CommandTable; }
 std::span<const TOptionInfo> Options() { return OptionTable; }
+
+std::vector<const TOptionInfo*> OptionsOf(const TCommandInfo& command) {
+  std::vector<const TOptionInfo*> options;
+  for (const TOptionInfo& option : OptionTable) {
+    if (IsRequired(command, option) || IsListed(command.Optional, option.Name)) options.push_back(&option);
+  }
+  return options;
+}
+
+bool IsRequired(const TCommandInfo& command, const TOptionInfo& option) {
+  return IsListed(command.Required, option.Name);
+}
+
+std::string Spelled(const TOptionInfo& option) {
+  return "--" + std::string(option.Name) + (option.Argument.empty() ? "" : " ") + std::string(option.Argument);
+}
+
+std::vector<std::string> SplitWords(std::string_view text, std::string_view separator) {
+  std::vector<std::string> words;
+  while (!text.empty()) {
+    words.emplace_back(text.substr(0, text.find(separator)));
+    text.remove_prefix(std::min(text.size(), words.back().size() + separator.size()));
+  }
+  return words;
+}
 
 const std::string* TArguments::Find(std::string_view option) const {
   for (const auto& [name, value] : FOptions) {
@@ -305,23 +328,24 @@ std::string HelpText() {
   return text;
 }
 
-std::string HelpText(const TCommandInfo& command) {
-  const auto spelled = [](const TOptionInfo& option) {
-    return "--" + std::string(option.Name) + (option.Argument.empty() ? "" : " ") + std::string(option.Argument);
-  };
-  std::string usage = "usage: tolvi " + std::string(command.Name), list;
-  for (const TOptionInfo& option : OptionTable) {
-    const bool required = IsListed(command.Required, option.Name);
-    if (!required && !IsListed(command.Optional, option.Name)) continue;
-    usage += required ? " " + spelled(option) : " [" + spelled(option) + "]";
-    if (option.Repeatable) usage += "...";
-    list += "  " + Padded(spelled(option), 20) + std::string(option.Help) + "\n";
+std::string UsageText(const TCommandInfo& command) {
+  std::string usage(command.Name);
+  for (const TOptionInfo* option : OptionsOf(command)) {
+    usage += IsRequired(command, *option) ? " " + Spelled(*option) : " [" + Spelled(*option) + "]";
+    if (option->Repeatable) usage += "...";
   }
-  if (!command.Operands.empty()) usage += " " + std::string(command.Operands);
+  return command.Operands.empty() ? usage : usage + " " + std::string(command.Operands);
+}
+
+std::string HelpText(const TCommandInfo& command) {
+  std::string list;
+  for (const TOptionInfo* option : OptionsOf(command)) {
+    list += "  " + Padded(Spelled(*option), 20) + std::string(option->Help) + "\n";
+  }
   std::string summary(command.Summary);
   summary.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(summary.front())));
   if (!list.empty()) list = "\n" + list;
-  return usage + "\n\n" + summary + ".\n" + list + "\n" + std::string(command.Help);
+  return "usage: tolvi " + UsageText(command) + "\n\n" + summary + ".\n" + list + "\n" + std::string(command.Help);
 }
 
 std::string TopClause(std::string_view argument) {

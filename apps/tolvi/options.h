@@ -38,6 +38,14 @@ struct TCommandInfo {
 
 std::span<const TCommandInfo> Commands();
 std::span<const TOptionInfo> Options();
+/// Those that the command takes, in the order of the table.
+std::vector<const TOptionInfo*> OptionsOf(const TCommandInfo& command);
+bool IsRequired(const TCommandInfo& command, const TOptionInfo& option);
+
+/// The option as it is typed, with the name of its argument: "--query FILE".
+std::string Spelled(const TOptionInfo& option);
+/// The parts between separators; none of an empty text.
+std::vector<std::string> SplitWords(std::string_view text, std::string_view separator);
 
 /// A command line in parts, checked against the tables.
 class TArguments {
@@ -63,6 +71,8 @@ class TArguments {
 /// `EUsageError` for what the tables do not allow, and when "-" stands for more than one file.
 TArguments ParseArguments(std::span<const std::string> arguments);
 
+/// What follows the name of the program: "query [--model FILE] QUERY".
+std::string UsageText(const TCommandInfo& command);
 /// The help on all commands, on one.
 std::string HelpText();
 std::string HelpText(const TCommandInfo& command);
