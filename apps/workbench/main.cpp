@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QIcon>
 #include <cstdio>
 
 #include "apps/workbench/script/player.h"
@@ -14,7 +15,9 @@ using namespace tolvi;
 
 namespace {
 
-QString Text(const char* text) { return QCoreApplication::translate("tolvi::main", text); }
+struct TTexts {
+  Q_DECLARE_TR_FUNCTIONS(tolvi::main)
+};
 
 /// Says what Qt wants to say, but for what the offscreen platform says of every window.
 void TellUnlessUsual(QtMsgType, const QMessageLogContext&, const QString& text) {
@@ -46,24 +49,27 @@ int main(int argc, char** argv) try {
   QGuiApplication::setApplicationDisplayName(QStringLiteral("Tolvi Workbench"));
   QCoreApplication::setApplicationVersion(QStringLiteral(TOLVI_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("tolvi-workbench"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tolvi-workbench.svg")));
 
   QCommandLineParser arguments;
-  arguments.setApplicationDescription(Text("Ask databases in sentences."));
+  arguments.setApplicationDescription(TTexts::tr("Ask databases in sentences."));
   arguments.addHelpOption();
   arguments.addVersionOption();
-  arguments.addPositionalArgument(QStringLiteral("DATABASE"),
-                                  Text("An SQLite file, or a URL as docs/databases.md tells; without it, what was open "
-                                       "the last time, at first the sample."),
-                                  QStringLiteral("[DATABASE]"));
+  arguments.addPositionalArgument(
+      QStringLiteral("DATABASE"),
+      TTexts::tr("An SQLite file, or a URL as docs/databases.md tells; without it, what was open "
+                 "the last time, at first the sample."),
+      QStringLiteral("[DATABASE]"));
   const QString file = QStringLiteral("FILE"), folder = QStringLiteral("FOLDER");
-  arguments.addOptions({{QStringLiteral("model"), Text("The data model: a model text or XML."), file},
-                        {QStringLiteral("queries"), Text("The folder of the queries."), folder},
-                        {QStringLiteral("queries-in-database"), Text("The queries are in the database.")},
-                        {QStringLiteral("home"), Text("Keep settings, unsaved work and the sample there."), folder},
-                        {QStringLiteral("script"),
-                         Text("Play the script with keys and clicks, then quit; see docs/workbench.md."), file},
-                        {QStringLiteral("screenshot"),
-                         Text("Write a picture of the window, at the end of the script, then quit."), file}});
+  arguments.addOptions(
+      {{QStringLiteral("model"), TTexts::tr("The data model: a model text or XML."), file},
+       {QStringLiteral("queries"), TTexts::tr("The folder of the queries."), folder},
+       {QStringLiteral("queries-in-database"), TTexts::tr("The queries are in the database.")},
+       {QStringLiteral("home"), TTexts::tr("Keep settings, unsaved work and the sample there."), folder},
+       {QStringLiteral("script"), TTexts::tr("Play the script with keys and clicks, then quit; see docs/workbench.md."),
+        file},
+       {QStringLiteral("screenshot"), TTexts::tr("Write a picture of the window, at the end of the script, then quit."),
+        file}});
   arguments.process(application);
   if (arguments.positionalArguments().size() > 1) throw EException("only one database can be opened");
 

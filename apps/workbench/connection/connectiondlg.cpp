@@ -53,7 +53,7 @@ T_dlgConnection::T_dlgConnection(TSecrets& secrets, QWidget* parent)
       FFindTimer(new QTimer(this)),
       FConnectionTest(std::make_unique<TConnectionTest>()) {
   setObjectName(QStringLiteral("connection"));
-  setWindowTitle(tr("Connect to a Database"));
+  setWindowTitle(tr("Connect to a database"));
   setAcceptDrops(true);
   FRecentList->setObjectName(QStringLiteral("connection.recent"));
   FRecentList->setAccessibleName(tr("Recent connections"));

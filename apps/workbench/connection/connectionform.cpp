@@ -104,7 +104,7 @@ void TConnectionForm::MakePasswordRows() {
 
 void TConnectionForm::Browse() {
   const QString file =
-      QFileDialog::getOpenFileName(this, tr("Open a Database"), FFile->text(),
+      QFileDialog::getOpenFileName(this, tr("Open a database"), FFile->text(),
                                    tr("SQLite databases (*.sqlite *.sqlite3 *.db *.db3);;All files (*)"));
   if (file.isEmpty()) return;
   FFile->setText(file);

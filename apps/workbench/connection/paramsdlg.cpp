@@ -63,7 +63,7 @@ TParamsDialog::TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<T
   constexpr double MostOfScreen = 0.8;
   setObjectName(QStringLiteral("params"));
   const QString name = ToQString(panel.GetQueryName());
-  setWindowTitle(name.isEmpty() ? QObject::tr("Values of the Query") : QObject::tr("Values of “%1”").arg(name));
+  setWindowTitle(name.isEmpty() ? QObject::tr("Values of the query") : QObject::tr("Values of “%1”").arg(name));
   auto* form = new QWidget(this);
   auto* rows = new QVBoxLayout(form);
   for (const TParamInfo& param : params) {

@@ -128,8 +128,8 @@ QWidget* TChartPane::MakeBar() {
     return result;
   };
   layout->addStretch(1);
-  FCopy = button(tr("&Copy Picture"), "chart.copy", &TChartPane::CopyPicture);
-  FSave = button(tr("&Save Picture..."), "chart.save", &TChartPane::SaveByDialog);
+  FCopy = button(tr("&Copy picture"), "chart.copy", &TChartPane::CopyPicture);
+  FSave = button(tr("&Save picture..."), "chart.save", &TChartPane::SaveByDialog);
   return bar;
 }
 
@@ -370,7 +370,7 @@ void TChartPane::SaveTo(const QString& file) {
 
 void TChartPane::SaveByDialog() {
   const QString key = QStringLiteral("chart.folder");
-  QFileDialog dialog(this, tr("Save Picture"), FMemory.Get ? FMemory.Get(key).toString() : QString());
+  QFileDialog dialog(this, tr("Save picture"), FMemory.Get ? FMemory.Get(key).toString() : QString());
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setNameFilters({tr("Picture (*.png)"), tr("Drawing (*.svg)")});
   dialog.setDefaultSuffix(QStringLiteral("png"));
@@ -384,7 +384,7 @@ void TChartPane::SaveByDialog() {
   try {
     SaveTo(file);
   } catch (const EFileError& error) {
-    QMessageBox box(QMessageBox::Critical, tr("Save Picture"), ToQString(error.Message()), QMessageBox::Ok, this);
+    QMessageBox box(QMessageBox::Critical, tr("Save picture"), ToQString(error.Message()), QMessageBox::Ok, this);
     box.exec();
   }
 }

@@ -35,7 +35,7 @@ TRowFileFormat FormatOf(const QString& file, const TRowFileKind& chosen) {
 }
 
 void Tell(QWidget* parent, const QString& fault) {
-  QMessageBox box(QMessageBox::Critical, TTexts::tr("Export Rows"), fault, QMessageBox::Ok, parent);
+  QMessageBox box(QMessageBox::Critical, TTexts::tr("Export rows"), fault, QMessageBox::Ok, parent);
   box.setTextFormat(Qt::PlainText);
   box.exec();
 }
@@ -69,7 +69,7 @@ class TExportWait final {
     QProgressDialog dialog(TTexts::tr("Writing \"%1\"...").arg(QFileInfo(file).fileName()), TTexts::tr("Stop"), 0,
                            count, parent);
     dialog.setObjectName(QStringLiteral("export.progress"));
-    dialog.setWindowTitle(TTexts::tr("Export Rows"));
+    dialog.setWindowTitle(TTexts::tr("Export rows"));
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.setAutoReset(false);
     QObject::connect(&dialog, &QProgressDialog::canceled, &dialog, [this] {
@@ -122,7 +122,7 @@ bool ExportRows(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::v
   const std::vector<TRowFileKind> kinds = RowFileKinds();
   const QVariant folder = memory.Get ? memory.Get(QStringLiteral("export.folder")) : QVariant();
   const QVariant format = memory.Get ? memory.Get(QStringLiteral("export.format")) : QVariant();
-  QFileDialog dialog(parent, TTexts::tr("Export Rows"), folder.toString());
+  QFileDialog dialog(parent, TTexts::tr("Export rows"), folder.toString());
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   QStringList filters;
   for (const TRowFileKind& kind : kinds) filters << FilterOf(kind);

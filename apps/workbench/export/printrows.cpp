@@ -150,10 +150,10 @@ std::size_t AskCount(QWidget* parent, std::size_t count) {
   if (count <= PrintedRowsUnasked) return count;
   const QLocale locale;
   const QString all = locale.toString(qulonglong{count}), some = locale.toString(qulonglong{PrintedRowsUnasked});
-  QMessageBox box(QMessageBox::Question, TTexts::tr("Print Rows"),
+  QMessageBox box(QMessageBox::Question, TTexts::tr("Print rows"),
                   TTexts::tr("There are %1 rows. Print them all, or the first %2?").arg(all, some), {}, parent);
   QPushButton* first = box.addButton(TTexts::tr("&First %1 Rows").arg(some), QMessageBox::AcceptRole);
-  QPushButton* whole = box.addButton(TTexts::tr("&All Rows"), QMessageBox::AcceptRole);
+  QPushButton* whole = box.addButton(TTexts::tr("&All rows"), QMessageBox::AcceptRole);
   box.addButton(QMessageBox::Cancel);
   box.setDefaultButton(first);
   box.exec();

@@ -213,14 +213,14 @@ void TResultGrid::FillColumnMenu(QMenu& menu, int column) {
     action.setCheckable(true);
     action.setChecked(isOn);
   };
-  addSort(tr("Sort &Ascending"), "results.sortUp", column, Qt::AscendingOrder, sorted(Qt::AscendingOrder));
-  addSort(tr("Sort &Descending"), "results.sortDown", column, Qt::DescendingOrder, sorted(Qt::DescendingOrder));
-  addSort(tr("&Order of the Database"), "results.sortNone", -1, Qt::AscendingOrder, FModel->GetSortColumn() < 0);
+  addSort(tr("Sort &ascending"), "results.sortUp", column, Qt::AscendingOrder, sorted(Qt::AscendingOrder));
+  addSort(tr("Sort &descending"), "results.sortDown", column, Qt::DescendingOrder, sorted(Qt::DescendingOrder));
+  addSort(tr("&Order of the database"), "results.sortNone", -1, Qt::AscendingOrder, FModel->GetSortColumn() < 0);
   menu.addSeparator();
-  Add(menu, tr("&Hide Column"), "results.hideColumn", [this, column] {
+  Add(menu, tr("&Hide column"), "results.hideColumn", [this, column] {
     hideColumn(column);
   }).setEnabled(VisibleColumns() > 1);
-  QMenu& shown = *menu.addMenu(tr("&Show Columns"));
+  QMenu& shown = *menu.addMenu(tr("&Show columns"));
   for (int i = 0; i < FModel->columnCount(); ++i) {
     QString text = FModel->headerData(i, Qt::Horizontal).toString();
     QAction& action = Add(shown, text.replace(u'&', QLatin1String("&&")), "results.showColumn",
@@ -230,10 +230,10 @@ void TResultGrid::FillColumnMenu(QMenu& menu, int column) {
     action.setEnabled(isColumnHidden(i) || VisibleColumns() > 1);
   }
   menu.addSeparator();
-  Add(menu, tr("&Fit Width"), "results.fitColumn", [this, column] { FitColumn(column); });
-  Add(menu, tr("Fit &All Widths"), "results.fitColumns", [this] { FitColumns(); });
+  Add(menu, tr("&Fit width"), "results.fitColumn", [this, column] { FitColumn(column); });
+  Add(menu, tr("Fit &all widths"), "results.fitColumns", [this] { FitColumns(); });
   menu.addSeparator();
-  Add(menu, tr("Copy Column &Name"), "results.copyName", [name] { QGuiApplication::clipboard()->setText(name); });
+  Add(menu, tr("Copy column &name"), "results.copyName", [name] { QGuiApplication::clipboard()->setText(name); });
 }
 
 std::unique_ptr<QMenu> TResultGrid::MakeColumnMenu(int column) {
@@ -252,9 +252,9 @@ void TResultGrid::contextMenuEvent(QContextMenuEvent* event) {
   QAction& copyWithHeaders = Add(menu, tr("Copy with &Headers"), "results.copyWithHeaders", [this] { Copy(true); });
   copyWithHeaders.setShortcut(CopyWithHeadersKey);
   copyWithHeaders.setEnabled(hasSelection);
-  Add(menu, tr("Select &All"), "results.selectAll", [this] { selectAll(); }).setShortcut(QKeySequence::SelectAll);
+  Add(menu, tr("Select &all"), "results.selectAll", [this] { selectAll(); }).setShortcut(QKeySequence::SelectAll);
   menu.addSeparator();
-  QAction& show = Add(menu, tr("&Show Value"), "results.showValue", [this] { ShowValue(); });
+  QAction& show = Add(menu, tr("&Show value"), "results.showValue", [this] { ShowValue(); });
   show.setShortcut(Qt::Key_F2);
   show.setEnabled(current.isValid());
   if (current.isValid()) FillColumnMenu(*menu.addMenu(tr("Co&lumn")), current.column());

@@ -141,7 +141,7 @@ void TResultPane::TParts::MakeBar() {
   Stop = MakeAction(rsStop, tr("S&top"), "results.stop");
   Stop->setShortcut(Qt::Key_Escape);
   Stop->setToolTip(tr("Stop the query that runs (Esc)"));
-  Preview = MakeAction(rsPreview, tr("Live &Preview"), "results.preview");
+  Preview = MakeAction(rsPreview, tr("Live &preview"), "results.preview");
   Preview->setCheckable(true);
   Preview->setChecked(true);
   Preview->setToolTip(tr("Show the first rows whenever the query changes"));

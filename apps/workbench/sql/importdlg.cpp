@@ -99,7 +99,7 @@ T_dlgImportSql::T_dlgImportSql(TJCustomDBStructure& model, const TImportOptions&
   FTold->setTextFormat(Qt::PlainText);
   FTold->setWordWrap(true);
   FButtons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  FButtons->button(QDialogButtonBox::Ok)->setText(tr("&Make Query"));
+  FButtons->button(QDialogButtonBox::Ok)->setText(tr("&Make query"));
   connect(FButtons, &QDialogButtonBox::accepted, this, &T_dlgImportSql::accept);
   connect(FButtons, &QDialogButtonBox::rejected, this, &T_dlgImportSql::reject);
   auto* layout = new QVBoxLayout(this);

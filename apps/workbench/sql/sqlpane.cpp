@@ -126,8 +126,8 @@ void TSqlPane::FillCopyMenu() {
     const char* name;
   };
   const TMarkers markers[] = {{msQuestion, tr("Copy with &Parameters as ?"), "sql.copy.question"},
-                              {msColonName, tr("Copy with Parameters as :&Name"), "sql.copy.colon"},
-                              {msDollarNumber, tr("Copy with Parameters as $&1"), "sql.copy.dollar"}};
+                              {msColonName, tr("Copy with parameters as :&Name"), "sql.copy.colon"},
+                              {msDollarNumber, tr("Copy with parameters as $&1"), "sql.copy.dollar"}};
   for (const TMarkers& entry : markers) {
     QAction* action = menu->addAction(entry.caption);
     action->setObjectName(QLatin1String(entry.name));

@@ -56,7 +56,7 @@ class TSqlPane final : public QWidget {
   std::function<void()> OnPaste;
   /// "Show in query" was chosen at a fault or a warning.
   std::function<void(const std::string& rowID)> OnShowRow;
-  /// The statement with markers in place of its values, for "Copy with Parameters"; without it the menu item is off.
+  /// The statement with markers in place of its values, for "Copy with parameters"; without it the menu item is off.
   /// What it throws is shown as a fault's words.
   std::function<std::string(TMarkerStyle)> OnMarkersRequest;
 

@@ -66,7 +66,7 @@ class TConflictDialog final : public QDialog {
 TConflictDialog::TConflictDialog(QWidget* parent, const EQueryConflictError& error, TJCustomDBStructure* model)
     : QDialog(parent) {
   constexpr int Columns = 100, Lines = 26;
-  setWindowTitle(QObject::tr("Changed by Somebody Else"));
+  setWindowTitle(QObject::tr("Changed by somebody else"));
   setObjectName(QStringLiteral("store.conflict"));
   auto* told = new QLabel(ToQString(error.Message()), this);
   told->setTextFormat(Qt::PlainText);
@@ -87,15 +87,15 @@ TConflictDialog::TConflictDialog(QWidget* parent, const EQueryConflictError& err
   layout->setRowStretch(2, 1);
 
   auto* buttons = new QDialogButtonBox(this);
-  AddButton(*buttons, QStringLiteral("store.conflict.saveMine"), QObject::tr("&Save Mine"),
+  AddButton(*buttons, QStringLiteral("store.conflict.saveMine"), QObject::tr("&Save mine"),
             isStored ? QObject::tr("What is stored now is replaced by your query")
                      : QObject::tr("Your query is stored again"),
             ccSaveMine);
   AddButton(*buttons, QStringLiteral("store.conflict.takeTheirs"),
-            isStored ? QObject::tr("Take T&heirs") : QObject::tr("&Delete Mine, Too"),
+            isStored ? QObject::tr("Take t&heirs") : QObject::tr("&Delete mine, too"),
             isStored ? QObject::tr("Your changes are lost") : QObject::tr("Your query is lost"), ccTakeTheirs);
   if (isStored) {
-    AddButton(*buttons, QStringLiteral("store.conflict.keepBoth"), QObject::tr("&Keep Both"),
+    AddButton(*buttons, QStringLiteral("store.conflict.keepBoth"), QObject::tr("&Keep both"),
               QObject::tr("Yours is stored as another query"), ccKeepBoth);
   }
   QPushButton* cancel = buttons->addButton(QDialogButtonBox::Cancel);

@@ -149,7 +149,7 @@ void TStorePane::MakeActions() {
     return action;
   };
   QAction* created =
-      add("new", tr("&New Query"), SignIcon(sgNew, *this), QKeySequence(QKeySequence::New), &TStorePane::NewQuery);
+      add("new", tr("&New query"), SignIcon(sgNew, *this), QKeySequence(QKeySequence::New), &TStorePane::NewQuery);
   created->setShortcutContext(Qt::WindowShortcut);
   add("rename", tr("&Rename"), StoreIcon(stRename, *this), QKeySequence(Qt::Key_F2), &TStorePane::Rename);
   add("duplicate", tr("&Duplicate"), StoreIcon(stDuplicate, *this), QKeySequence(Qt::CTRL | Qt::Key_D),
@@ -158,11 +158,11 @@ void TStorePane::MakeActions() {
       &TStorePane::Describe);
   add("delete", tr("De&lete..."), SignIcon(sgDelete, *this), QKeySequence(Qt::Key_Delete), &TStorePane::Erase);
   FMenu->addSeparator();
-  add("copy", tr("&Copy Query Text"), {}, QKeySequence(QKeySequence::Copy), &TStorePane::CopyText);
-  add("paste", tr("&Paste Query Text"), {}, QKeySequence(QKeySequence::Paste), &TStorePane::PasteText);
+  add("copy", tr("&Copy query text"), {}, QKeySequence(QKeySequence::Copy), &TStorePane::CopyText);
+  add("paste", tr("&Paste query text"), {}, QKeySequence(QKeySequence::Paste), &TStorePane::PasteText);
   FMenu->addSeparator();
-  add("up", tr("Move &Up"), SignIcon(sgUp, *this), QKeySequence(Qt::ALT | Qt::Key_Up), &TStorePane::MoveUp);
-  add("down", tr("Move Do&wn"), SignIcon(sgDown, *this), QKeySequence(Qt::ALT | Qt::Key_Down), &TStorePane::MoveDown);
+  add("up", tr("Move &up"), SignIcon(sgUp, *this), QKeySequence(Qt::ALT | Qt::Key_Up), &TStorePane::MoveUp);
+  add("down", tr("Move do&wn"), SignIcon(sgDown, *this), QKeySequence(Qt::ALT | Qt::Key_Down), &TStorePane::MoveDown);
   FMenu->addSeparator();
   add("refresh", tr("Re&fresh"), StoreIcon(stRefresh, *this), QKeySequence(Qt::CTRL | Qt::Key_R), &TStorePane::Refresh);
 }

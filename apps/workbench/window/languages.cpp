@@ -40,7 +40,9 @@ QString UseLanguage(const QString& code) {
   };
   // The toolkit's own texts, where they are installed.
   add(QStringLiteral("qtbase_") + used, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-  add(QStringLiteral("tolvi_") + used, QStringLiteral(":/i18n"));
+  for (const auto& part : {QStringLiteral("widgets_"), QStringLiteral("workbench_")}) {
+    add(part + used, QStringLiteral(":/i18n"));
+  }
   QGuiApplication::setLayoutDirection(QLocale(used).textDirection());
   return used;
 }

@@ -176,7 +176,7 @@ void TMainWindow::BuildEditMenu() {
     refresh();
   }
   menu.addSeparator();
-  AddCommand(menu, QStringLiteral("edit.columns"), tr("Result &columns..."), QKeySequence(Qt::CTRL | Qt::Key_L),
+  AddCommand(menu, QStringLiteral("edit.columns"), tr("Result &columns..."), QKeySequence(Qt::CTRL | Qt::Key_E),
              [this] { Try([this] { FQueryArea->Columns().EditFields(); }); });
 }
 

@@ -14,7 +14,9 @@
 namespace tolvi {
 namespace {
 
-QString Text(const char* text) { return QCoreApplication::translate("tolvi::TSettingsDialog", text); }
+struct TTexts {
+  Q_DECLARE_TR_FUNCTIONS(tolvi::TSettingsDialog)
+};
 
 QSpinBox* MakeNumber(const QString& name, int low, int high, int step, int value) {
   auto* box = new QSpinBox;
@@ -38,36 +40,37 @@ QCheckBox* MakeCheck(const QString& name, const QString& caption, bool isOn) {
 bool EditSettings(QWidget* parent, TSettings& settings) {
   QDialog dialog(parent);
   dialog.setObjectName(QStringLiteral("settings"));
-  dialog.setWindowTitle(Text("Settings"));
+  dialog.setWindowTitle(TTexts::tr("Settings"));
   auto* theme = new QComboBox;
   theme->setObjectName(QStringLiteral("settings.theme"));
-  theme->addItems({Text("Those of the system"), Text("Light"), Text("Dark")});
+  theme->addItems({TTexts::tr("Those of the system"), TTexts::tr("Light"), TTexts::tr("Dark")});
   theme->setCurrentIndex(settings.Theme);
   QSpinBox* size =
       MakeNumber(QStringLiteral("settings.size"), 5, 48, 1, settings.FontSize == 0 ? 5 : settings.FontSize);
-  size->setSpecialValueText(Text("That of the system"));
+  size->setSpecialValueText(TTexts::tr("That of the system"));
   QCheckBox* preview = MakeCheck(QStringLiteral("settings.preview"),
-                                 Text("Show the &first rows while a query is edited"), settings.Preview);
+                                 TTexts::tr("Show the &first rows while a query is edited"), settings.Preview);
   QSpinBox* previewRows = MakeNumber(QStringLiteral("settings.previewRows"), 1, 10'000, 100, settings.PreviewRows);
   QSpinBox* maxRows =
       MakeNumber(QStringLiteral("settings.maxRows"), 0, INT32_MAX, 100'000, static_cast<int>(settings.MaxRows));
-  maxRows->setSpecialValueText(Text("All"));
-  QCheckBox* fragments = MakeCheck(QStringLiteral("settings.fragments"),
-                                   Text("&Queries may hold conditions written in SQL"), settings.AllowSQLFragments);
+  maxRows->setSpecialValueText(TTexts::tr("All"));
+  QCheckBox* fragments =
+      MakeCheck(QStringLiteral("settings.fragments"), TTexts::tr("&Queries may hold conditions written in SQL"),
+                settings.AllowSQLFragments);
   auto* warning =
-      new QLabel(Text("Such a condition reaches the database as it is. Allow it only for queries that come "
-                      "from people whom you trust."));
+      new QLabel(TTexts::tr("Such a condition reaches the database as it is. Allow it only for queries that come "
+                            "from people whom you trust."));
   warning->setWordWrap(true);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
 
   auto* form = new QFormLayout(&dialog);
-  form->addRow(Text("&Colours:"), theme);
-  form->addRow(Text("&Size of letters:"), size);
+  form->addRow(TTexts::tr("&Colours:"), theme);
+  form->addRow(TTexts::tr("&Size of letters:"), size);
   form->addRow(preview);
-  form->addRow(Text("&Rows of the preview:"), previewRows);
-  form->addRow(Text("Rows of a run at &most:"), maxRows);
+  form->addRow(TTexts::tr("&Rows of the preview:"), previewRows);
+  form->addRow(TTexts::tr("Rows of a run at &most:"), maxRows);
   form->addRow(fragments);
   form->addRow(warning);
   form->addRow(buttons);

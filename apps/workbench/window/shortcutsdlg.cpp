@@ -1,6 +1,7 @@
 #include "apps/workbench/window/shortcutsdlg.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -17,7 +18,9 @@
 namespace tolvi {
 namespace {
 
-QString Text(const char* text) { return QCoreApplication::translate("tolvi::TShortcuts", text); }
+struct TTexts {
+  Q_DECLARE_TR_FUNCTIONS(tolvi::TShortcuts)
+};
 
 /// Without accelerators.
 QString Plain(QString caption) {
@@ -47,7 +50,7 @@ void Fill(QTreeWidget& tree, QMainWindow& window, TJQueryPanelView& conditions) 
     QTreeWidgetItem* group = AddGroup(tree, Plain(top->text()));
     for (const QAction* action : top->menu()->actions()) AddLine(*group, *action);
   }
-  QTreeWidgetItem* group = AddGroup(tree, Text("Among the conditions"));
+  QTreeWidgetItem* group = AddGroup(tree, TTexts::tr("Among the conditions"));
   for (const TPanelCommandInfo& info : PanelCommands()) AddLine(*group, conditions.GetAction(info.Command));
   for (int i = tree.topLevelItemCount() - 1; i >= 0; --i) {
     if (tree.topLevelItem(i)->childCount() == 0) delete tree.takeTopLevelItem(i);
@@ -73,15 +76,15 @@ void ShowFound(QTreeWidget& tree, const QString& wanted) {
 void ShowShortcuts(QMainWindow& window, TJQueryPanelView& conditions) {
   QDialog dialog(&window);
   dialog.setObjectName(QStringLiteral("shortcuts"));
-  dialog.setWindowTitle(Text("Keyboard short cuts"));
+  dialog.setWindowTitle(TTexts::tr("Keyboard short cuts"));
   auto* search = new QLineEdit;
   search->setObjectName(QStringLiteral("shortcuts.search"));
-  search->setPlaceholderText(Text("Search"));
+  search->setPlaceholderText(TTexts::tr("Search"));
   search->setClearButtonEnabled(true);
   search->setAccessibleName(search->placeholderText());
   auto* tree = new QTreeWidget;
   tree->setObjectName(QStringLiteral("shortcuts.list"));
-  tree->setHeaderLabels({Text("Command"), Text("Keys")});
+  tree->setHeaderLabels({TTexts::tr("Command"), TTexts::tr("Keys")});
   tree->setRootIsDecorated(false);
   tree->setAllColumnsShowFocus(true);
   tree->setUniformRowHeights(true);

@@ -1,0 +1,164 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include "apps/workbench/results/resultpane.h"
+#include "apps/workbench/script/widgettext.h"
+#include "apps/workbench/sql/sqlpane.h"
+#include "apps/workbench/store/storepane.h"
+#include "apps/workbench/window/mainwindow.h"
+#include "apps/workbench/window/notebar.h"
+#include "apps/workbench/window/program.h"
+#include "apps/workbench/window/queryarea.h"
+#include <tolvi/panel/paneleditor.h>
+#include <tolvi/ui/qtext.h>
+
+namespace tolvi {
+namespace {
+
+/// The program with a home of its own, on the sample.
+class Workbench : public testing::Test {
+ protected:
+  Workbench() { Start(); }
+  ~Workbench() override {
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    FProgram.reset();
+  }
+
+  void Start() {
+    FProgram.reset();
+    FProgram = std::make_unique<TProgram>(TProgram::TOptions{FHome.path()});
+    FProgram->Start();
+    Wait([this] { return Window().ResultPane().GetRows() && !Window().ResultPane().IsRunning(); }, "rows");
+  }
+
+  TMainWindow& Window() { return FProgram->Window(); }
+  TJQueryPanel& Panel() { return Window().GetWorkspace()->Panel(); }
+  void Wait(const std::function<bool()>& condition, const char* what) {
+    ASSERT_TRUE(QTest::qWaitFor(condition, 10'000)) << what;
+  }
+  QString Shown(const char* name) {
+    const auto* widget = Window().findChild<QWidget*>(QLatin1String(name));
+    return widget == nullptr || !widget->isVisible() ? QString() : TextOf(*widget);
+  }
+  /// Clicks the button in the dialog that opens next.
+  void Answer(const char* button) {
+    QTimer::singleShot(0, &Window(), [this, button] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      if (dialog == nullptr) return Answer(button);
+      auto* found = dialog->findChild<QAbstractButton*>(QLatin1String(button));
+      FAnswered = found != nullptr ? TextOf(*dialog) : QStringLiteral("no such button");
+      if (found == nullptr) {
+        dialog->close();
+      } else {
+        QTest::mouseClick(found, Qt::LeftButton);
+      }
+    });
+  }
+  void AddCondition() {
+    TSimpleCond& added = Panel().AddSimpleCond(
+        Panel().RootBracket(), *Window().GetWorkspace()->Model().FieldByName(fnFullName, "Products.ProductName"),
+        *Window().GetWorkspace()->Model().OperatorByName("Equal"), "Atlantis");
+    Wait([this] { return Window().isWindowModified(); }, "modified");
+    EXPECT_NE(Panel().RootBracket().RowByID(added.GetRowID()), nullptr);
+  }
+
+  QTemporaryDir FHome;
+  std::unique_ptr<TProgram> FProgram;
+  QString FAnswered;
+};
+
+TEST_F(Workbench, ChangesTheLanguageWithoutLosingWhatIsEdited) {
+  AddCondition();
+  const std::string text = Window().GetWorkspace()->QueryText();
+  for (const auto& [code, direction, word] :
+       {std::tuple{"de", Qt::LeftToRight, "alle"}, {"ar", Qt::RightToLeft, ""}, {"en", Qt::LeftToRight, "all"}}) {
+    Window().Requests.UseLanguage(QLatin1String(code));
+    Wait([this] { return Window().isWindowModified(); }, code);
+    EXPECT_EQ(Window().GetWorkspace()->QueryText(), text) << code;
+    EXPECT_EQ(Window().layoutDirection(), direction) << code;
+    Wait([this] { return Shown("query.conditions").contains(QStringLiteral("Atlantis")); }, code);
+    EXPECT_TRUE(Shown("query.conditions").contains(QLatin1String(word))) << code;
+  }
+}
+
+TEST_F(Workbench, LeadsToTheConditionThatTheDatabaseRefuses) {
+  Panel().SetAllowSQLFragments(true);
+  Panel().AddSQLFragment(Panel().RootBracket(), "no_such_function(Products.ProductName) = 1");
+  const std::string rowID = Panel().RootBracket().LastRow()->GetRowID();
+  Panel().SetCurrentRow(&Panel().RootBracket());
+  Wait([this] { return Shown("results.fault").contains(QStringLiteral("refuses the condition")); }, "fault");
+  EXPECT_TRUE(Shown("results.fault").contains(QStringLiteral("no_such_function")));
+  QTest::mouseClick(Window().findChild<QAbstractButton*>(QStringLiteral("results.faultAction")), Qt::LeftButton);
+  EXPECT_EQ(Panel().GetCurrentRow()->GetRowID(), rowID);
+}
+
+TEST_F(Workbench, AsksBeforeChangesAreLost) {
+  AddCondition();
+  Answer("ask.cancel");
+  Window().close();
+  EXPECT_TRUE(FAnswered.contains(QStringLiteral("About this price"))) << FAnswered.toStdString();
+  EXPECT_TRUE(Window().isVisible());
+  Answer("ask.save");
+  Window().StorePane().Action(QStringLiteral("store.new"))->trigger();
+  EXPECT_TRUE(FAnswered.contains(QStringLiteral("Save query"))) << FAnswered.toStdString();
+  Wait([this] { return Panel().GetQueryName() == "New query"; }, "the new query");
+  TJStoredQueryBase& store = Window().GetWorkspace()->Store();
+  store.SetItemIndex(store.IndexByName("About this price"));
+  Wait([this] { return Shown("query.conditions").contains(QStringLiteral("Atlantis")); }, "stored");
+}
+
+TEST_F(Workbench, OpensTheSameQueryInTheSameSyntaxTheNextTime) {
+  TJStoredQueryBase& store = Window().GetWorkspace()->Store();
+  store.SetItemIndex(store.IndexByName("Best customers"));
+  Window().SqlPane().SetSyntax(ssOracle);
+  Window().SqlPane().OnSyntaxChange(ssOracle);
+  Window().close();
+  Start();
+  EXPECT_EQ(Panel().GetQueryName(), "Best customers");
+  EXPECT_EQ(Window().SqlPane().GetSyntax(), ssOracle);
+  Wait([this] { return Window().SqlPane().GetStatement().find("JOIN") == std::string::npos; }, "syntax");
+  EXPECT_GT(Window().ResultPane().GetRows()->GetRowCount(), 0U) << "its rows come in the syntax of the database";
+}
+
+TEST_F(Workbench, KeepsTheSourceOpenWhenAnotherCannotBeOpened) {
+  const TSource sample = Window().GetWorkspace()->GetSource();
+  for (const char* url : {"sqlite:/nowhere/at/all.sqlite", "nonsense://"}) {
+    QTimer::singleShot(50, &Window(), [] {
+      if (QWidget* box = QApplication::activeModalWidget()) box->close();
+    });
+    EXPECT_FALSE(FProgram->Open({url}));
+    EXPECT_EQ(Window().GetWorkspace()->GetSource(), sample);
+  }
+  TSource database = sample;
+  database.QueriesInDatabase = true;
+  EXPECT_TRUE(FProgram->Open(database));
+  EXPECT_EQ(Window().GetWorkspace()->Store().Count(), 1) << "a first query is made in the database";
+  EXPECT_EQ(FProgram->Settings().Recent.size(), 1U);
+}
+
+TEST_F(Workbench, PutsWorkBackOnlyIfTheUserWants) {
+  AddCondition();
+  const TUnsavedWork work = *Window().Unsaved();
+  Start();
+  EXPECT_FALSE(Window().isWindowModified());
+  Window().Restore(work);
+  Wait([this] { return Window().isWindowModified(); }, "modified");
+  EXPECT_TRUE(Shown("query.conditions").contains(QStringLiteral("Atlantis")));
+  auto* note = Window().findChild<TNoteBar*>();
+  ASSERT_TRUE(note->GetWords().contains(QStringLiteral("About this price")));
+  for (QAbstractButton* button : note->findChildren<QAbstractButton*>()) {
+    if (button->text() == QStringLiteral("Discard")) QTest::mouseClick(button, Qt::LeftButton);
+  }
+  Wait([this] { return !Window().isWindowModified(); }, "as stored");
+  EXPECT_FALSE(Shown("query.conditions").contains(QStringLiteral("Atlantis")));
+}
+
+}  // namespace
+}  // namespace tolvi
