@@ -42,8 +42,11 @@ macro(tolvi_package component package section summary)
     set(CPACK_DEBIAN_${upper}_PACKAGE_ARCHITECTURE all)
     set(CPACK_DEBIAN_${upper}_PACKAGE_SHLIBDEPS OFF)
   endif()
-  install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} RENAME copyright
-          COMPONENT ${component})
+  set(licence ${PROJECT_SOURCE_DIR}/share/${package}.copyright)
+  if(NOT EXISTS ${licence})
+    set(licence ${PROJECT_SOURCE_DIR}/LICENSE)
+  endif()
+  install(FILES ${licence} DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} RENAME copyright COMPONENT ${component})
 endmacro()
 
 set(abi ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
@@ -71,14 +74,13 @@ endif()
 if(TOLVI_BUILD_APPS)
   tolvi_package(
     tolvi tolvi database "Make SQL from a data model and a query in its words, and run it"
-    COMPONENTS connect xml
+    COMPONENTS core connect xml
     DEPENDS libqt6sql6-sqlite
     RECOMMENDS libqt6sql6-psql libqt6sql6-mysql)
 endif()
-if(TARGET tolvi_workbench)
+if(TARGET tolvi-workbench)
   tolvi_package(
     workbench tolvi-workbench database "Compose queries on databases, see and keep their rows"
-    COMPONENTS connect xml widgets translations
     DEPENDS libqt6sql6-sqlite
     RECOMMENDS libqt6sql6-psql libqt6sql6-mysql
     SUGGESTS libqt6sql6-odbc)

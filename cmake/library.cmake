@@ -21,7 +21,8 @@ function(tolvi_library target name)
 endfunction()
 
 # tolvi_whole_library(TARGET LIBRARIES...): TARGET_whole is the same with its private parts, for what is built together
-# with it: tests and programs that reach behind the public headers. LIBRARIES are what it links to.
+# with it: tests and programs that reach behind the public headers. LIBRARIES are what it links to. It is always static;
+# so that a program has each library once, it links to the whole ones of Tolvi or to none.
 function(tolvi_whole_library target)
   get_target_property(type ${target} TYPE)
   if(type STREQUAL "STATIC_LIBRARY")

@@ -24,6 +24,9 @@ LIBRARIES = [
 
 FUNCTIONS = {"FunctionDecl", "CXXMethodDecl", "CXXConstructorDecl", "CXXDestructorDecl", "CXXConversionDecl"}
 # What a compiler makes for a class or function besides its functions.
+# Qt keeps it to the library; linkers mark the ends of a library.
+KEPT_BY_QT = re.compile(r"::qt_static_metacall\(")
+MADE_BY_LINKERS = {"__bss_start", "_edata", "_end", "_init", "_fini"}
 MADE_FOR = re.compile(r"^(?:vtable for|typeinfo for|typeinfo name for|VTT for|construction vtable for|guard variable for|"
                       r"non-virtual thunk to|virtual thunk to|covariant return thunk to) ")
 
@@ -138,9 +141,16 @@ def exported_by(library):
     return {name: line[1] in "WVu" for name, line in zip(names, lines)}
 
 
-def check_library(library, root, headers, flags):
-    """HEADERS and the places in messages are below ROOT; what other headers declare is not of this library."""
-    found = declarations_of(headers, flags)
+def is_declared(entity, found):
+    """Whether ENTITY, for which a compiler has made something, is a declared class, or within one."""
+    names = re.split(r"[<(]", entity)[0].split("::")
+    return any("::".join(names[:length]) in found.classes for length in range(2, len(names) + 1))
+
+
+def check_library(library, root, headers, flags, others=()):
+    """HEADERS and the places in messages are below ROOT; what other headers declare is not of this library. OTHERS are
+    headers of libraries that it needs."""
+    found = declarations_of([*headers, *others], flags)
     exported = exported_by(library)
     known = dict(zip(demangled(list(found.functions)), found.functions.values()))
     ours = {os.path.realpath(os.path.join(root, header)) for header in headers}
@@ -150,16 +160,14 @@ def check_library(library, root, headers, flags):
         return f"{os.path.relpath(os.path.realpath(where[0]), os.path.realpath(root))}:{where[1]}"
 
     for symbol, (name, where, required) in known.items():
-        if required and symbol not in exported and os.path.realpath(where[0]) in ours:
+        if required and symbol not in exported and not KEPT_BY_QT.search(symbol) and os.path.realpath(where[0]) in ours:
             faults.append(f"{place(where)}: {symbol} is not exported")
     for name, (where, polymorphic, visible) in found.classes.items():
         if polymorphic and not visible and os.path.realpath(where[0]) in ours:
             faults.append(f"{place(where)}: the type of {name} is not exported: objects of it cannot be caught or cast")
     for symbol, merged in exported.items():
-        if symbol in known:
-            continue
         entity = MADE_FOR.sub("", symbol)
-        if entity in known or entity in found.classes or re.split(r"[<(]", entity)[0] in found.classes:
+        if symbol in MADE_BY_LINKERS or entity in known or (entity != symbol and is_declared(entity, found)):
             continue
         template = entity.split("<")[0]
         if merged and (not entity.startswith("tolvi::") or ("<" in entity and template.rpartition("::")[0] != "tolvi")):
@@ -172,6 +180,7 @@ def check(prefix):
     faults, checked = [], 0
     config = glob.glob(os.path.join(prefix, "lib", "**", "pkgconfig"), recursive=True)
     os.environ["PKG_CONFIG_PATH"] = ":".join(config + [os.environ.get("PKG_CONFIG_PATH", "")])
+    core = []
     for package, name, folders in LIBRARIES:
         libraries = glob.glob(os.path.join(prefix, "lib", "**", name), recursive=True)
         if not libraries:
@@ -180,7 +189,8 @@ def check(prefix):
         headers = [os.path.relpath(path, include) for folder in folders
                    for path in sorted(glob.glob(os.path.join(include, "tolvi", folder, "**", "*.h"), recursive=True))]
         flags = output_of("pkg-config", "--cflags", package).split()
-        faults += check_library(libraries[0], include, headers, [f"-I{include}", *flags])
+        faults += check_library(libraries[0], include, headers, [f"-I{include}", *flags], core)
+        core = core or headers
         checked += 1
     return faults if checked else [f"{prefix}: no shared library of Tolvi"]
 

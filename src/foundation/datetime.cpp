@@ -16,7 +16,7 @@ namespace {
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-constexpr std::int64_t MSecsPerDay = 24 * 60 * 60 * 1000;
+constexpr std::int64_t MSecsPerDay = std::int64_t{24} * 60 * 60 * 1000;
 constexpr sys_days DayZero = std::chrono::year(1899) / 12 / 30;
 constexpr std::string_view MonthNames[] = {"January", "February", "March",     "April",   "May",      "June",
                                            "July",    "August",   "September", "October", "November", "December"};

@@ -8,6 +8,7 @@
 
 #include <tolvi/foundation/consts.h>
 #include <tolvi/foundation/errors.h>
+#include <tolvi/foundation/listtext.h>
 #include <tolvi/foundation/numbers.h>
 #include <tolvi/foundation/sections.h>
 #include <tolvi/model/dbstruc.h>

@@ -6,6 +6,7 @@
 
 #include <tolvi/foundation/format.h>
 #include <tolvi/foundation/global.h>
+#include <tolvi/foundation/listtext.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/model/modeltext_format.h>
 #include <tolvi/model/modeltext_legacy.h>

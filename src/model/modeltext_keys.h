@@ -34,12 +34,6 @@ std::int32_t ReadInt32(const TSection& section, std::string_view key, std::int32
                        std::int32_t max = std::numeric_limits<std::int32_t>::max(),
                        std::string_view what = "integer value");
 
-/// Adds an item to a list joined by commas. An item that is empty, holds a comma or a double quote, or has a blank at
-/// an end is written in double quotes with inner ones doubled, so that plain names stand as they are.
-void AppendListItem(std::string& list, std::string_view item);
-/// The inverse; blanks round an item without quotes do not count, nor do empty items without quotes.
-std::vector<std::string> SplitList(std::string_view list);
-
 /// Types by identifier, joined by commas.
 std::string TypesToList(TFieldTypes types);
 /// The types that the key lists; a missing key gives `byDefault`.

@@ -1,3 +1,4 @@
+#include <tolvi/foundation/listtext.h>
 #include <tolvi/foundation/numbers.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/model/modeltext_legacy.h>

@@ -285,6 +285,7 @@ std::vector<TOffered> OfferedOperators(const std::vector<TDSField*>& fields) {
     }
   }
   std::vector<TOffered> offered;
+  offered.reserve(order.size());
   for (TDSOperator* op : order) offered.push_back({op, counts[op] >= fields.size()});
   return offered;
 }

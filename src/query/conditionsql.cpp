@@ -70,7 +70,7 @@ TBoundValue ToBoundParam(const TSQLParam& param, std::string_view value, const T
                          std::string_view before, std::string_view after) {
   const std::string& format = param.GetValueFormat();
   if (format.empty()) return ToBoundValue(value, param.GetParamType(), context, before, after);
-  const TBoundValue plain = ToBoundValue(value, param.GetParamType(), context);
+  TBoundValue plain = ToBoundValue(value, param.GetParamType(), context);
   if (format == "@v") return plain;
   return ToBoundValue(ReplaceStr(format, "@v", plain.Text), ftString, context);
 }

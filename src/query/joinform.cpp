@@ -97,7 +97,7 @@ void TJoinForm::JoinLeft(TJoinForm other, TJoinComparisons comparisons) {
   MoveTo(FOuter, std::move(outer));
 }
 
-void TJoinForm::JoinFull(TJoinForm other, const TJoinComparisons& comparisons) {
+void TJoinForm::JoinFull(const TJoinForm& other, const TJoinComparisons& comparisons) {
   std::string operand = "full(" + SortedText({Text(), other.Text()}) + SortedText(KeysOf(comparisons)) + ")";
   FOperands = {std::move(operand)};
   FTables.clear();
@@ -161,7 +161,7 @@ class TJoinForm::TBuilder {
     if (type == ltInner) {
       form.JoinInner(std::move(other), std::move(comparisons));
     } else if (type == ltOuterFull) {
-      form.JoinFull(std::move(other), comparisons);
+      form.JoinFull(other, comparisons);
     } else if ((type == ltOuterLeft) == leftSide) {
       form.JoinLeft(std::move(other), std::move(comparisons));
     } else {

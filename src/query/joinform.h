@@ -40,7 +40,7 @@ class TJoinForm final {
   /// Joins the other side to this one; keeps the rows of this side that have no match; those of both sides.
   void JoinInner(TJoinForm other, TJoinComparisons comparisons);
   void JoinLeft(TJoinForm other, TJoinComparisons comparisons);
-  void JoinFull(TJoinForm other, const TJoinComparisons& comparisons);
+  void JoinFull(const TJoinForm& other, const TJoinComparisons& comparisons);
   /// Keeps only the rows that fulfil the comparisons.
   void Restrict(TJoinComparisons comparisons);
 

@@ -125,12 +125,11 @@ TJQueryPanel::TInsertedRows TJQueryPanel::InsertRowsFromText(TFilterBracket& bra
   if (read->GetRowCount() == 0) throw EJQueryPanelError(0, "The text holds no conditions");
   const bool isJoinOfAll = read->GetLinkType() == fltAll || (read->GetLinkType() == fltAny && read->GetRowCount() == 1);
   Together([&] {
-    if (!isJoinOfAll) {
+    // What is too deep raises the error before the first row is in its place.
+    if (!isJoinOfAll || bracket.GetRowLevel() + read->Depth() > MaxRowLevel) {
       result.Rows.push_back(&bracket.InsertRow(index, std::move(read)));
       return;
     }
-    // Raises the error before the first row is in its place.
-    if (bracket.GetRowLevel() + read->Depth() > MaxRowLevel) bracket.InsertRow(index, std::move(read));
     while (read->GetRowCount() > 0) result.Rows.push_back(&bracket.InsertRow(index++, read->TakeRow(0)));
   });
   return result;

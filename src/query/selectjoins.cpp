@@ -121,7 +121,7 @@ TJoinForm TSelectJoins::FormOf(const TSelectSource& source) {
       right.JoinLeft(std::move(left), std::move(comparisons));
       return right;
     case sjFull:
-      left.JoinFull(std::move(right), comparisons);
+      left.JoinFull(right, comparisons);
       return left;
     default:
       left.JoinInner(std::move(right), std::move(comparisons));

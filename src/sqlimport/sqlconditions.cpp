@@ -29,7 +29,7 @@ void TJSQLParser::ProcessWhere() {
   std::unique_ptr<TSQLNode> node = ProcessBoolExpr();
   std::unique_ptr<TSQLBracket> root;
   if (TSQLBracket* bracket = node->AsBracket()) {
-    node.release();
+    static_cast<void>(node.release());  // owned by the root from here on
     root.reset(bracket);
   } else {
     root = std::make_unique<TSQLBracket>();

@@ -72,7 +72,7 @@ constexpr std::array<std::uint8_t, 33> Starts = MakeStarts();
 constexpr std::array<TSQLWord, 128> MakeSymbols() {
   std::array<TSQLWord, 128> symbols{};
   for (const TWordName& name : SymbolNames) {
-    if (name.Text.size() == 1) symbols[static_cast<std::size_t>(name.Text.front())] = name.Word;
+    if (name.Text.size() == 1) symbols[static_cast<unsigned char>(name.Text.front())] = name.Word;
   }
   return symbols;
 }

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include <tolvi/foundation/consts.h>
+#include <tolvi/foundation/listtext.h>
 #include <tolvi/foundation/numbers.h>
 #include <tolvi/foundation/text.h>
-#include <tolvi/model/modeltext_keys.h>
 #include <tolvi/xml/modelxml.h>
 #include <tolvi/xml/modelxml_parts.h>
 #include <tolvi/xml/xmlcursor.h>

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include <tolvi/model/modeltext_keys.h>
+#include <tolvi/foundation/listtext.h>
 #include <tolvi/xml/modelxml.h>
 #include <tolvi/xml/modelxml_parts.h>
 #include <tolvi/xml/xmlproperties.h>
