@@ -1,13 +1,14 @@
 #!/bin/sh
 # Builds programs that are not part of Tolvi against it: one with find_package from an install tree (and those that
-# use databases, panels and XML, if the build has these parts), one with add_subdirectory. Says nothing when both work.
+# use databases, panels and XML, if the build has these parts), the same with pkg-config alone, one with
+# add_subdirectory. Compares what shared libraries export with their headers. Says nothing when all is well.
 #
 #   check_package.sh [BUILD-DIR]     the build to install; default: build/release, which `./run build` makes
 set -eu
 cd "$(dirname "$0")/.."
 root=$PWD
 build=${1:-build/release}
-work=$root/build/package
+work=$root/build/check-package
 rm -rf "$work/installed" "$work/embed" "$work/connect" "$work/widgets" "$work/wrong" "$work/xml" # the host's build stays: it compiles the core once more
 mkdir -p "$work/host" "$work/wrong"
 
@@ -61,6 +62,30 @@ TEXT
   expect_success cmake -G Ninja -S "$work/xml" -B "$work/xml/build" -D CMAKE_PREFIX_PATH="$work/installed"
   expect_success cmake --build "$work/xml/build"
   expect_success "$work/xml/build/xml"
+fi
+
+# with_pkg_config PACKAGE SOURCE PROGRAM: compiles and links a program of one file.
+with_pkg_config() {
+  folder=$(dirname "$(find "$work/installed" -name tolvi-core.pc)")
+  flags=$(PKG_CONFIG_PATH=$folder pkg-config --cflags --libs "$1")
+  # shellcheck disable=SC2086 # words
+  expect_success c++ -std=c++20 -fPIC -o "$3" "$2" $flags "-Wl,-rpath,$folder/.."
+}
+with_pkg_config tolvi-core examples/embed/main.cpp "$work/embed/with-pkg-config"
+expect_success "$work/embed/with-pkg-config"
+if [ -n "$(find "$work/installed" -name tolvi-connect.pc)" ]; then
+  with_pkg_config tolvi-connect examples/connect/main.cpp "$work/connect/with-pkg-config"
+  with_pkg_config tolvi-xml "$work/xml/main.cpp" "$work/xml/with-pkg-config"
+  with_pkg_config tolvi-widgets examples/widgets/main.cpp "$work/widgets/with-pkg-config"
+fi
+
+if [ -x "$work/installed/bin/tolvi" ] && [ -n "$(find "$work/installed" -name TolviWidgetsTargets.cmake)" ]; then
+  expect_success tools/tutorial.py docs/tutorial.md "$work/tutorial" "$work/installed"
+fi
+
+if [ -n "$(find "$work/installed" -name libtolvi_core.so)" ]; then
+  expect_success tools/check_symbols.py --self-test
+  expect_success tools/check_symbols.py "$work/installed"
 fi
 
 cat >"$work/host/CMakeLists.txt" <<TEXT
