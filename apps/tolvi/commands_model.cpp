@@ -54,7 +54,7 @@ int RunInitModel(TSession& session) {
   const TFillReport report = Using(connection.GetUrl().Shown(), [&] {
     TJSqlDBInfo info(connection.GetName());
     if (!merge) ApplyFormatPreset(session.Model.SQLFormats(), FormatPresetOf(connection.GetKind()));
-    const TFillReport filled = FillModel(session.Model, info, FillOptionsOf(session, connection.GetKind()));
+    TFillReport filled = FillModel(session.Model, info, FillOptionsOf(session, connection.GetKind()));
     // A model that has been arranged in the designer keeps its arrangement.
     PlaceNewTables(session.Model);
     return filled;
