@@ -78,7 +78,7 @@ if(TOLVI_BUILD_APPS)
     DEPENDS libqt6sql6-sqlite
     RECOMMENDS libqt6sql6-psql libqt6sql6-mysql)
 endif()
-if(TARGET tolvi-workbench)
+if(TARGET tolvi_workbench)
   tolvi_package(
     workbench tolvi-workbench database "Compose queries on databases, see and keep their rows"
     DEPENDS libqt6sql6-sqlite

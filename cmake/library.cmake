@@ -13,9 +13,13 @@ function(tolvi_library target name)
                CXX_VISIBILITY_PRESET hidden
                VISIBILITY_INLINES_HIDDEN ON
                VERIFY_INTERFACE_HEADER_SETS ON)
+  # Elsewhere the macros are the same in both: what a static build has compiled serves a shared one (see ccache).
+  if(NOT WIN32)
+    set_target_properties(${target} PROPERTIES DEFINE_SYMBOL "")
+  endif()
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tolvi_warnings>)
   get_target_property(type ${target} TYPE)
-  if(type STREQUAL "STATIC_LIBRARY")
+  if(WIN32 AND type STREQUAL "STATIC_LIBRARY")
     target_compile_definitions(${target} PUBLIC TOLVI_STATIC)
   endif()
 endfunction()

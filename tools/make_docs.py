@@ -27,9 +27,10 @@ ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 
 # The list beside every page.
 PAGES = [
-    ("Begin", ["README.md", "docs/tutorial.md", "docs/using-queries.md", "docs/command-line.md"]),
+    ("Begin", ["README.md", "docs/tutorial.md", "docs/using-queries.md", "docs/workbench.md",
+               "docs/command-line.md"]),
     ("In your program", ["docs/embedding.md", "docs/databases.md", "docs/ui.md", "docs/designer.md", "docs/import.md",
-                         "docs/translations.md", "docs/workbench.md"]),
+                         "docs/translations.md"]),
     ("File formats", ["docs/model-text.md", "docs/model-xml.md", "docs/query-text.md"]),
     ("About Tolvi", ["docs/stability.md", "docs/architecture.md", "docs/benchmarks.md", "CONTRIBUTING.md", "CHANGELOG.md",
                      "samples/shop/README.md"]),

@@ -18,6 +18,8 @@ import xml.etree.ElementTree as ET
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 LUPDATE = "/usr/lib/qt6/bin/lupdate"
 PARTS = {"widgets": ["src/ui"], "workbench": ["apps/workbench"]}
+# English needs no more than the forms of its texts with numbers.
+PLURALS = "en"
 LANGUAGES = ["ar", "de", "es", "fr", "ja", "ru", "zh"]
 PLACE = re.compile(r"%(?:L?\d+|L?n|\w\b)")
 
@@ -26,12 +28,12 @@ def path_of(part, language):
     return os.path.join(ROOT, "translations", f"{part}_{language}.ts")
 
 
-def update(part, files):
+def update(part, files, *options):
     """Writes what the sources of PART say into the catalogues."""
     with tempfile.TemporaryDirectory() as folder:
         os.symlink(os.path.join(ROOT, "src"), os.path.join(folder, "tolvi"))
-        command = [LUPDATE, "-silent", "-no-obsolete", "-locations", "none", "-I", ROOT, "-I", folder, *PARTS[part],
-                   "-ts", *files]
+        command = [LUPDATE, "-silent", "-no-obsolete", "-locations", "none", "-I", ROOT, "-I", folder, *options,
+                   *PARTS[part], "-ts", *files]
         # What it says of classes of other libraries concerns no text of ours.
         result = subprocess.run(command, cwd=ROOT, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
         if result.returncode != 0:
@@ -78,12 +80,16 @@ def check():
         for part in PARTS:
             fresh = os.path.join(folder, part + ".ts")
             update(part, [fresh])
-            wanted = {(context, m.findtext("source"), m.findtext("comment")) for context, m in messages(fresh)}
-            for language in LANGUAGES:
+            fresh_messages = [((context, m.findtext("source"), m.findtext("comment")), m.get("numerus"))
+                              for context, m in messages(fresh)]
+            wanted = {key for key, _ in fresh_messages}
+            forms = {key for key, numerus in fresh_messages if numerus}
+            for language in [*LANGUAGES, PLURALS]:
                 file = path_of(part, language)
                 found = {(context, m.findtext("source"), m.findtext("comment")): m for context, m in messages(file)}
                 name = os.path.relpath(file, ROOT)
-                faults += [f'{name}: lacks "{text}" of {context}' for context, text, _ in wanted - found.keys()]
+                lacking = (forms if language == PLURALS else wanted) - found.keys()
+                faults += [f'{name}: lacks "{text}" of {context}' for context, text, _ in lacking]
                 for (context, text, _), message in found.items():
                     if fault := fault_of(message):
                         faults.append(f'{name}: {context}: "{text}" {fault}')
@@ -132,7 +138,7 @@ def take(part, language, file):
         out.write(b'<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n')
         tree.write(out, encoding="utf-8", xml_declaration=False)
         out.write(b"\n")
-    update(part, [path])  # in its own way to write them
+    update(part, [path], *(["-pluralonly"] if language == PLURALS else []))  # in its own way to write them
 
 
 def main(arguments):
@@ -147,6 +153,7 @@ def main(arguments):
     else:
         for part in PARTS:
             update(part, [path_of(part, language) for language in LANGUAGES])
+            update(part, [path_of(part, PLURALS)], "-pluralonly")
     return 0
 
 

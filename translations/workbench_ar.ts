@@ -691,6 +691,10 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <source>“%1” is saved.</source>
         <translation>حُفظ «%1».</translation>
     </message>
+    <message>
+        <source>Go to the c&amp;hart</source>
+        <translation>الانتقال إلى المخطط (&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>

@@ -675,6 +675,10 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <source>“%1” is saved.</source>
         <translation>„%1“ ist gespeichert.</translation>
     </message>
+    <message>
+        <source>Go to the c&amp;hart</source>
+        <translation>Zum D&amp;iagramm</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>

@@ -675,6 +675,10 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <source>“%1” is saved.</source>
         <translation>«%1» se ha guardado.</translation>
     </message>
+    <message>
+        <source>Go to the c&amp;hart</source>
+        <translation>Ir al &amp;gráfico</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>

@@ -675,6 +675,10 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <source>“%1” is saved.</source>
         <translation>«&#xa0;%1&#xa0;» est enregistrée.</translation>
     </message>
+    <message>
+        <source>Go to the c&amp;hart</source>
+        <translation>Aller au grap&amp;hique</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>

@@ -671,6 +671,10 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <source>“%1” is saved.</source>
         <translation>「%1」を保存しました。</translation>
     </message>
+    <message>
+        <source>Go to the c&amp;hart</source>
+        <translation>グラフに移動(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>

@@ -679,6 +679,10 @@ Tolvi распространяется по лицензии MIT. Посколь
         <source>“%1” is saved.</source>
         <translation>Запрос «%1» сохранён.</translation>
     </message>
+    <message>
+        <source>Go to the c&amp;hart</source>
+        <translation>Перейти к диа&amp;грамме</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>

@@ -671,6 +671,10 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <source>“%1” is saved.</source>
         <translation>“%1”已保存。</translation>
     </message>
+    <message>
+        <source>Go to the c&amp;hart</source>
+        <translation>转到图表(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>

@@ -214,7 +214,8 @@ void TMainWindow::BuildViewMenu() {
   go(QStringLiteral("view.conditions"), tr("Go to the &conditions"), 2, &FQueryArea->Conditions());
   go(QStringLiteral("view.columns"), tr("Go to the co&lumns"), 3, &FQueryArea->Columns());
   go(QStringLiteral("view.results"), tr("Go to the &rows"), 4, FResultPane);
-  go(QStringLiteral("view.sql"), tr("Go to the &SQL"), 5, FSqlPane);
+  go(QStringLiteral("view.chart"), tr("Go to the c&hart"), 5, FChartPane);
+  go(QStringLiteral("view.sql"), tr("Go to the &SQL"), 6, FSqlPane);
   menu.addSeparator();
   QMenu* languages = menu.addMenu(tr("L&anguage"));
   languages->setObjectName(QStringLiteral("menu.language"));
@@ -227,7 +228,8 @@ void TMainWindow::BuildViewMenu() {
     connect(
         action, &QAction::triggered, this,
         [this, code = language.Code] {
-          if (Requests.UseLanguage) Requests.UseLanguage(code);
+          // The handler destroys this window.
+          if (const auto handler = Requests.UseLanguage) handler(code);
         },
         Qt::QueuedConnection);
   }
