@@ -73,6 +73,15 @@ def include_fault(file, folder, quote, path):
     return None
 
 
+def is_private(root, path):
+    """Whether <tolvi/...> is a header of the core that is not in the header set of its folder."""
+    folder, _, name = path.removeprefix("tolvi/").partition("/")
+    listing = os.path.join(root, "src", folder, "CMakeLists.txt")
+    if folder not in CORE or not os.path.exists(listing):
+        return False
+    return name not in re.split(r"[\s()]+", "\n".join(read_lines(listing)).partition("FILES")[2])
+
+
 def outside_fault(quote, path):
     """The same for a file outside src/, where the build's include path would let more pass than an installed Tolvi."""
     if path.split("/")[0] in MAY_INCLUDE:
@@ -108,6 +117,8 @@ def check_includes(root):
                 if match:
                     quote, header = match.groups()
                     fault = include_fault(path, folder, quote, header) if folder else outside_fault(quote, header)
+                    if not fault and folder and folder not in CORE and is_private(root, header):
+                        fault = f"#include <{header}>: not public, so a shared core does not export it"
                     if fault:
                         yield f"{path}:{number}: {fault}"
 
@@ -163,6 +174,8 @@ SELF_TESTS = [
     ("src/xml/a.cpp", "#include <QString>\n#include <tolvi/query/rows.h>\n#include <tolvi/connect/store.h>\n",
      ["src/xml/a.cpp:2: #include <tolvi/query/rows.h>: xml must not see query",
       "src/xml/a.cpp:3: #include <tolvi/connect/store.h>: xml must not see connect"]),
+    ("src/xml/a.cpp", "#include <tolvi/model/table.h>\n#include <tolvi/model/inner.h>\n",
+     ["src/xml/a.cpp:2: #include <tolvi/model/inner.h>: not public, so a shared core does not export it"]),
     ("src/ui/a.cpp", '#include "b.h"\n', [f'src/ui/a.cpp:1: #include "b.h": {ONLY_TOLVI}']),
     ("src/model/a.h", "#include <tolvi/table.h>\n#include <tolvi/tables/table.h>\n#include <model/table.h>\n",
      ["src/model/a.h:1: #include <tolvi/table.h>: src has no such folder",
@@ -200,6 +213,7 @@ def self_test():
     failures = []
     for path, text, expected in SELF_TESTS:
         with tempfile.TemporaryDirectory() as root:
+            write(root, "src/model/CMakeLists.txt", "target_sources(x PRIVATE inner.h FILES table.h)\n")
             write(root, os.path.dirname(path) + "/CMakeLists.txt", "target_sources(x PRIVATE a.cpp files.cpp text.cpp FILES a.h)\n")
             write(root, path, text)
             found = check(root)
