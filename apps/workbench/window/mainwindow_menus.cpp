@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QTabWidget>
 
+#include "apps/workbench/export/chartpane.h"
 #include "apps/workbench/results/resultpane.h"
 #include "apps/workbench/sql/sqlpane.h"
 #include "apps/workbench/store/storepane.h"
