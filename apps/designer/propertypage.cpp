@@ -229,7 +229,7 @@ QWidget* TPropertyPage::MakeEditor(const QMetaProperty& property) {
 QVariant TPropertyPage::DefaultOf(const QMetaProperty& property) {
   const QVariant value = property.read(FPreview);
   property.reset(FPreview);
-  const QVariant byDefault = property.read(FPreview);
+  QVariant byDefault = property.read(FPreview);
   property.write(FPreview, value);
   return byDefault;
 }

@@ -13,7 +13,7 @@ class TLabelAccess final : public QAccessibleWidget {
 
   QString text(QAccessible::Text kind) const override {
     const TDropDownLabel& label = Label();
-    const QString shown = label.GetCaption().isEmpty() ? label.GetPlaceholder() : label.GetCaption();
+    QString shown = label.GetCaption().isEmpty() ? label.GetPlaceholder() : label.GetCaption();
     switch (kind) {
       case QAccessible::Name:
         return label.accessibleName().isEmpty() ? shown : label.accessibleName();

@@ -35,7 +35,7 @@ QKeySequence PlainKey(const QKeyEvent& event) {
 
 }  // namespace
 
-TQPActions::TQPActions(QObject* parent, TRun run) : QObject(parent) {
+TQPActions::TQPActions(QObject* parent, const TRun& run) : QObject(parent) {
   for (const TPanelCommandInfo& info : PanelCommands()) {
     auto* action = new QAction(parent);
     action->setObjectName(ToQString(info.Name));

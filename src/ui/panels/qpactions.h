@@ -23,7 +23,7 @@ class TOLVI_WIDGETS_API TQPActions final : public QObject {
  public:
   using TRun = std::function<void(TPanelCommand command)>;
 
-  TQPActions(QObject* parent, TRun run);
+  TQPActions(QObject* parent, const TRun& run);
 
   QAction& Get(TPanelCommand command) const { return *FActions[command]; }
   /// Captions and help, from these texts; keys left and right change places from right to left.

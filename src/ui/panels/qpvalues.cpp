@@ -76,7 +76,7 @@ QString PatternOf(TQPValueKind kind, const TFormatSettings& settings) {
 // Items divided by commas
 
 QString QuotedItem(const std::string& item) {
-  const QString text = ToQString(item);
+  QString text = ToQString(item);
   if (!text.contains(u',') && !text.contains(u'"') && text.trimmed() == text && !text.isEmpty()) return text;
   return u'"' + QString(text).replace(u'"', QStringLiteral("\"\"")) + u'"';
 }

@@ -63,6 +63,7 @@ void TJResultFieldsPanel::SetResultFields(const TRFieldList& fields) {
 // Titles
 
 void TJResultFieldsPanel::SetTitles(const TStrings& titles) {
+  // They may be our own. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
   const TStrings given = titles;
   LoadRFPanelTitles(FTitles, given);
 }

@@ -1,6 +1,7 @@
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
+#include <cmath>
 
 #include <qdrawutil.h>
 
@@ -187,7 +188,7 @@ TTableRep::THit TTableRep::HitAt(TDesignPoint point) const {
 std::ptrdiff_t TTableRep::TopIndexAt(double y) const {
   const QRect list = ListRect(), thumb = ThumbRect();
   const double way = std::max(1, list.height() - thumb.height());
-  return std::ptrdiff_t((y - list.top() - thumb.height() / 2.0) / way * double(FFieldsLB.MaxTopIndex()) + 0.5);
+  return std::llround((y - list.top() - thumb.height() / 2.0) / way * double(FFieldsLB.MaxTopIndex()));
 }
 
 QRectF TTableRep::boundingRect() const { return QRectF(-2, -2, FPlace.Width + 4, FPlace.Height + 4); }
