@@ -695,6 +695,22 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <source>Go to the c&amp;hart</source>
         <translation>الانتقال إلى المخطط (&amp;H)</translation>
     </message>
+    <message>
+        <source>Rows appear here when you run the query.</source>
+        <translation>تظهر الصفوف هنا عند تشغيل الاستعلام.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here. Run the query first to have all of them.</source>
+        <translation>هنا أول %L1 صفوف فقط. شغّل الاستعلام أولاً للحصول عليها كلها.</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>تشغيل (&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;These rows only</source>
+        <translation>هذه الصفوف فقط (&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -753,6 +769,10 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     <message>
         <source>Unsaved work cannot be kept for the case that the program ends: %1</source>
         <translation>يتعذر الاحتفاظ بالعمل غير المحفوظ تحسبًا لانتهاء البرنامج: %1</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
+        <translation>لا يمكن الآن استعادة التغييرات التي لم تُحفظ. تبقى في %1، وسيُعاد المحاولة عند بدء التشغيل التالي.</translation>
     </message>
 </context>
 <context>

@@ -679,6 +679,22 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <source>Go to the c&amp;hart</source>
         <translation>Zum D&amp;iagramm</translation>
     </message>
+    <message>
+        <source>Rows appear here when you run the query.</source>
+        <translation>Zeilen erscheinen hier, wenn Sie die Abfrage ausführen.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here. Run the query first to have all of them.</source>
+        <translation>Hier sind nur die ersten %L1 Zeilen. Führen Sie die Abfrage zuerst aus, um alle zu erhalten.</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Ausführen</translation>
+    </message>
+    <message>
+        <source>&amp;These rows only</source>
+        <translation>&amp;Nur diese Zeilen</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -737,6 +753,10 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
     <message>
         <source>Unsaved work cannot be kept for the case that the program ends: %1</source>
         <translation>Ungespeicherte Arbeit kann nicht für den Fall gesichert werden, dass das Programm endet: %1</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
+        <translation>Nicht gespeicherte Änderungen können jetzt nicht wiederhergestellt werden. Sie bleiben in %1, und der nächste Start versucht es wieder.</translation>
     </message>
 </context>
 <context>

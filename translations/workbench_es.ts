@@ -679,6 +679,22 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <source>Go to the c&amp;hart</source>
         <translation>Ir al &amp;gráfico</translation>
     </message>
+    <message>
+        <source>Rows appear here when you run the query.</source>
+        <translation>Las filas aparecen aquí al ejecutar la consulta.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here. Run the query first to have all of them.</source>
+        <translation>Aquí solo están las primeras %L1 filas. Ejecute antes la consulta para tenerlas todas.</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Ejecutar</translation>
+    </message>
+    <message>
+        <source>&amp;These rows only</source>
+        <translation>&amp;Solo estas filas</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -737,6 +753,10 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
     <message>
         <source>Unsaved work cannot be kept for the case that the program ends: %1</source>
         <translation>El trabajo sin guardar no se puede conservar por si se cierra el programa: %1</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
+        <translation>Ahora no se pueden recuperar los cambios sin guardar. Siguen en %1, y el próximo inicio lo intentará de nuevo.</translation>
     </message>
 </context>
 <context>

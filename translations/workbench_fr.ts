@@ -679,6 +679,22 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <source>Go to the c&amp;hart</source>
         <translation>Aller au grap&amp;hique</translation>
     </message>
+    <message>
+        <source>Rows appear here when you run the query.</source>
+        <translation>Les lignes apparaîtront ici quand vous exécuterez la requête.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here. Run the query first to have all of them.</source>
+        <translation>Seules les %L1 premières lignes sont ici. Exécutez d’abord la requête pour les avoir toutes.</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Exécuter</translation>
+    </message>
+    <message>
+        <source>&amp;These rows only</source>
+        <translation>&amp;Ces lignes seulement</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -737,6 +753,10 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
     <message>
         <source>Unsaved work cannot be kept for the case that the program ends: %1</source>
         <translation>Le travail non enregistré ne peut pas être conservé en prévision d’une fin du programme&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
+        <translation>Des modifications non enregistrées ne peuvent pas être rétablies maintenant. Elles restent dans %1, et le prochain démarrage essaiera de nouveau.</translation>
     </message>
 </context>
 <context>

@@ -675,6 +675,22 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <source>Go to the c&amp;hart</source>
         <translation>グラフに移動(&amp;H)</translation>
     </message>
+    <message>
+        <source>Rows appear here when you run the query.</source>
+        <translation>クエリを実行すると、ここに行が表示されます。</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here. Run the query first to have all of them.</source>
+        <translation>ここにあるのは最初の %L1 行だけです。すべての行が必要なら、先にクエリを実行してください。</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>実行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;These rows only</source>
+        <translation>これらの行のみ(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -733,6 +749,10 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <message>
         <source>Unsaved work cannot be kept for the case that the program ends: %1</source>
         <translation>プログラムの終了に備えた未保存の作業の保管ができません: %1</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
+        <translation>保存されていない変更を今は元に戻せません。%1 に残り、次の起動時に再び試みます。</translation>
     </message>
 </context>
 <context>

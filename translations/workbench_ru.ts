@@ -683,6 +683,22 @@ Tolvi распространяется по лицензии MIT. Посколь
         <source>Go to the c&amp;hart</source>
         <translation>Перейти к диа&amp;грамме</translation>
     </message>
+    <message>
+        <source>Rows appear here when you run the query.</source>
+        <translation>Строки появятся здесь после выполнения запроса.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here. Run the query first to have all of them.</source>
+        <translation>Здесь только первые строки (%L1). Чтобы получить все, сначала выполните запрос.</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Выполнить</translation>
+    </message>
+    <message>
+        <source>&amp;These rows only</source>
+        <translation>&amp;Только эти строки</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -741,6 +757,10 @@ Tolvi распространяется по лицензии MIT. Посколь
     <message>
         <source>Unsaved work cannot be kept for the case that the program ends: %1</source>
         <translation>Несохранённую работу не удаётся сберечь на случай завершения программы: %1</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
+        <translation>Несохранённые изменения сейчас нельзя вернуть. Они остаются в %1, и при следующем запуске попытка повторится.</translation>
     </message>
 </context>
 <context>

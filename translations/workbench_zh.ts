@@ -675,6 +675,22 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <source>Go to the c&amp;hart</source>
         <translation>转到图表(&amp;H)</translation>
     </message>
+    <message>
+        <source>Rows appear here when you run the query.</source>
+        <translation>运行查询后，行将显示在这里。</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here. Run the query first to have all of them.</source>
+        <translation>这里只有前 %L1 行。要得到全部行，请先运行查询。</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>运行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;These rows only</source>
+        <translation>仅这些行(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -733,6 +749,10 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
     <message>
         <source>Unsaved work cannot be kept for the case that the program ends: %1</source>
         <translation>无法保存未完成的工作以防程序意外结束: %1</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
+        <translation>现在无法恢复未保存的更改。它们保留在 %1 中，下次启动时会再次尝试。</translation>
     </message>
 </context>
 <context>

@@ -24,11 +24,8 @@ void TellUnlessUsual(QtMsgType, const QMessageLogContext&, const QString& text) 
   if (!text.startsWith(QStringLiteral("This plugin does not support"))) std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-TSource SourceOf(const QCommandLineParser& arguments, const QString& database) {
-  const std::string text = FromQString(database);
-  TSource source{IsConnectionUrl(text) ? text : "sqlite:" + FromQString(QFileInfo(database).absoluteFilePath())};
-  // Before any window: what is no URL is told where it was typed.
-  (void)ParseConnectionUrl(source.Url);
+TSource NamedSource(const QCommandLineParser& arguments, const QString& database) {
+  TSource source = SourceOf(database);
   const auto path = [&arguments](const QString& option) {
     return arguments.isSet(option) ? FromQString(QFileInfo(arguments.value(option)).absoluteFilePath()) : std::string();
   };
@@ -75,7 +72,10 @@ int main(int argc, char** argv) try {
 
   TProgram::TOptions options{arguments.value(QStringLiteral("home"))};
   if (!arguments.positionalArguments().isEmpty()) {
-    options.Source = SourceOf(arguments, arguments.positionalArguments().constFirst());
+    const QString database = arguments.positionalArguments().constFirst();
+    // Before any window: what is no URL is told where it was typed.
+    options.Source = NamedSource(arguments, database);
+    if (IsConnectionUrl(FromQString(database))) options.Password = ParseConnectionUrl(FromQString(database)).Password;
   }
   TProgram program(options);
   const bool plays = arguments.isSet(QStringLiteral("script")) || arguments.isSet(QStringLiteral("screenshot"));

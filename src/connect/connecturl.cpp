@@ -297,7 +297,8 @@ std::vector<std::string_view> PasswordsIn(std::string_view url) {
   };
   if (const TScheme* scheme = SchemeOf(url); scheme != nullptr && scheme->Kind == dkODBC) {
     for (const TAttribute& attribute : AttributesOf(url.substr(scheme->Name.size() + 1))) {
-      if (IsPassword(attribute)) add(attribute.Value);
+      // Behind a brace that is open, there may be one.
+      if (IsPassword(attribute) || attribute.IsOpen) add(attribute.Value);
     }
     return passwords;
   }

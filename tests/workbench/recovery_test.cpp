@@ -1,6 +1,7 @@
 #include "apps/workbench/workspace/recovery.h"
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@
 namespace tolvi {
 namespace {
 
-const TUnsavedWork Work{{"sqlite:shop.sqlite"}, "late.qry", "Late", "[Query]\r\nä\r\n", std::nullopt};
+const TUnsavedWork Work{{"sqlite:shop.sqlite"}, "late.qry", "Late", "7", "[Query]\r\nä\r\n", std::nullopt};
 
 TEST(Recovery, FindsTheWorkOfAProgramThatRunsNoMore) {
   const QTemporaryDir folder;
@@ -24,8 +25,11 @@ TEST(Recovery, FindsTheWorkOfAProgramThatRunsNoMore) {
     TRecovery third(folder.path());
     EXPECT_FALSE(third.Find()) << "the second has taken it";
   }
-  // It is not given up before it is kept anew.
+  // It is not given up before it has been put back.
+  second.Keep({});
+  EXPECT_TRUE(QFile::exists(second.FoundFile()));
   second.Keep(Work);
+  second.Drop();
   EXPECT_FALSE(second.Find());
   second.Keep({});
   EXPECT_TRUE(QDir(folder.path()).entryList({QStringLiteral("*.work")}).isEmpty());

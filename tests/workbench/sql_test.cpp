@@ -88,6 +88,8 @@ TEST_F(SqlPane, AFaultGreysTheStatementAndLeadsToItsRow) {
   pane.SetStatement("select 1");
   EXPECT_FALSE(Child<TSqlEdit>("sql.view")->GetGreyed());
   EXPECT_TRUE(Child<QToolButton>("sql.copy")->isEnabled());
+  EXPECT_TRUE(told->text().isEmpty()) << "they are of another statement";
+  pane.SetWarnings({{".1.2", "Moved to <WHERE>"}});
   Q_EMIT told->linkActivated(QStringLiteral("0"));
   EXPECT_EQ(rows, (std::vector<std::string>{".2", ".1.2"}));
 }

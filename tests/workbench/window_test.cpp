@@ -127,6 +127,18 @@ TEST_F(Workbench, OpensTheSameQueryInTheSameSyntaxTheNextTime) {
   EXPECT_GT(Window().ResultPane().GetRows()->GetRowCount(), 0U) << "its rows come in the syntax of the database";
 }
 
+TEST_F(Workbench, RunsForAllRowsAndLeavesNoneUnderAnotherQuery) {
+  FProgram->Settings().MaxRows = 0;
+  Window().ResultPane().SetPreview(false);
+  TJStoredQueryBase& store = Window().GetWorkspace()->Store();
+  store.SetItemIndex(store.IndexByName("Best customers"));
+  EXPECT_EQ(Window().ResultPane().GetRows(), nullptr);
+  Window().ResultPane().OnRunRequest();
+  Wait([this] { return Window().ResultPane().GetRows() && !Window().ResultPane().IsRunning(); }, "rows");
+  EXPECT_GT(Window().ResultPane().GetRows()->GetRowCount(), 3U);
+  EXPECT_FALSE(Shown("results.status").contains(QStringLiteral("First"))) << Shown("results.status").toStdString();
+}
+
 TEST_F(Workbench, KeepsTheSourceOpenWhenAnotherCannotBeOpened) {
   const TSource sample = Window().GetWorkspace()->GetSource();
   for (const char* url : {"sqlite:/nowhere/at/all.sqlite", "nonsense://"}) {

@@ -119,16 +119,58 @@ TEST_F(Workspace, PutsUnsavedWorkBackAlsoWhenItsQueryIsGone) {
   EXPECT_EQ(other->Store().GetCurrentQuery()->GetQueryName(), work.QueryName);
 }
 
+TEST_F(Workspace, KeepsAQueryModifiedThatCouldNotBeSaved) {
+  const TSource source = UnpackSample(Path("sample"));
+  const auto workspace = Open(source), other = Open(source);
+  const auto change = [](TWorkspace& one) {
+    one.Panel().AddCondition(one.Panel().RootBracket(), *one.Model().FieldByName(fnFullName, "Customers.City"));
+  };
+  change(*workspace);
+  change(*other);
+  const TUnsavedWork work = workspace->Unsaved();
+  other->SaveQuery();
+  EXPECT_THROW(workspace->SaveQuery(), EQueryConflictError);
+  EXPECT_TRUE(workspace->IsQueryModified());
+  EXPECT_EQ(workspace->Unsaved(), work);
+
+  // Put back after somebody else has stored the query, it takes nothing of theirs away.
+  const auto again = Open(source);
+  again->Restore(work);
+  EXPECT_EQ(again->Store().Count(), 41);
+  EXPECT_EQ(again->Store().GetCurrentQuery()->GetQueryName(), work.QueryName + " (2)");
+}
+
+TEST_F(Workspace, SavesWhatIsShownAlsoWhenTheStoreHasNoQueryLeft) {
+  const auto workspace = Open(Bare());
+  workspace->Store().EraseQuery(0);
+  workspace->Panel().AddCondition(workspace->Panel().RootBracket(), workspace->Model().GetField(1));
+  workspace->SaveQuery();
+  ASSERT_EQ(workspace->Store().Count(), 1);
+  EXPECT_EQ(workspace->Panel().RootBracket().GetRowCount(), 1U);
+  EXPECT_FALSE(workspace->IsQueryModified());
+}
+
+TEST_F(Workspace, KeepsPasswordsOutOfWhatIsWritten) {
+  EXPECT_EQ(SourceOf(QStringLiteral("postgresql://anna:secret@db/shop")).Url, "postgresql://anna@db/shop");
+  EXPECT_EQ(SourceOf(QStringLiteral("/a/50%.db")).Url,
+            SourceOf(ToQString(SourceOf(QStringLiteral("/a/50%.db")).Url)).Url);
+  QJsonObject json = ToJson({"postgresql://anna@db/shop"});
+  json.insert(QStringLiteral("url"), QStringLiteral("odbc:shop;PWD=secret"));
+  EXPECT_EQ(SourceFromJson(json).Url, "odbc:shop");
+  json.insert(QStringLiteral("url"), QStringLiteral("nonsense://"));
+  EXPECT_EQ(SourceFromJson(json).Url, "");
+}
+
 TEST_F(Workspace, RemembersSettingsAndKeepsAFileItCannotRead) {
   const QString file = Path("settings.json");
-  const TSource source{"sqlite:a.db", "a.model", "queries", true};
+  const TSource source{"sqlite:/a.db", "a.model", "queries", true};
   {
     TSettingsFile settings(file);
     settings.Settings.Theme = thDark;
     settings.Settings.MaxRows = 0;
     settings.Settings.Orders.insert(QStringLiteral("a"), QStringLiteral("b"));
     for (int i = 0; i < 20; ++i) settings.Settings.Remember({"sqlite:" + std::to_string(i)});
-    settings.Settings.Remember({"sqlite:a.db"});
+    settings.Settings.Remember({"sqlite:/a.db"});
     settings.Settings.Remember(source);
     settings.Save();
   }

@@ -185,6 +185,7 @@ void T_dlgConnection::SetRecent(std::vector<TConnectionUrl> urls) {
 TConnectionUrl T_dlgConnection::GetUrl() const { return FForm->GetUrl(); }
 
 void T_dlgConnection::SetUrl(const TConnectionUrl& url) {
+  FForm->ForgetPassword();
   FForm->SetUrl(url);
   FormChanged();
 }

@@ -130,6 +130,18 @@ void TConnectionForm::Changed() {
   if (const auto handler = OnChange) handler();
 }
 
+/// A user and a password among the attributes of a data source are what the other fields are for.
+void TakeAttributes(TConnectionUrl& url) {
+  try {
+    const TConnectionUrl read = ParseConnectionUrl("odbc:" + url.Database);
+    url.Database = read.Database;
+    if (!read.User.empty()) url.User = read.User;
+    if (!read.Password.empty()) url.Password = read.Password;
+  } catch (const EConnectError&) {
+    // Half typed: `Fault` says what is wrong.
+  }
+}
+
 TConnectionUrl TConnectionForm::GetUrl() const {
   const TKindFields& kind = Kinds[FKind->currentIndex()];
   const auto text = [](const QLineEdit* line) { return FromQString(line->text().trimmed()); };
@@ -145,6 +157,7 @@ TConnectionUrl TConnectionForm::GetUrl() const {
     url.User = text(FUser);
     url.Password = TypedPassword().value_or(FKnownPassword);
   }
+  if (kind.HasSource) TakeAttributes(url);
   return url;
 }
 
@@ -167,6 +180,8 @@ void TConnectionForm::SetUrl(const TConnectionUrl& url) {
   if (!url.Password.empty()) FPassword->setText(ToQString(url.Password));
   FShowing = false;
 }
+
+void TConnectionForm::ForgetPassword() { FPassword->clear(); }
 
 QString TConnectionForm::Fault() const {
   const TConnectionUrl url = GetUrl();

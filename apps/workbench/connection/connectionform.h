@@ -25,6 +25,8 @@ class TConnectionForm final : public QWidget {
   TConnectionUrl GetUrl() const;
   /// `OnChange` is not called.
   void SetUrl(const TConnectionUrl& url);
+  /// What was typed for another connection.
+  void ForgetPassword();
   /// The user has changed something.
   std::function<void()> OnChange;
   /// What is missing or wrong, for people; empty when nothing is.

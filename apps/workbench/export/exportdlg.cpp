@@ -57,7 +57,9 @@ class TExportWait final {
     QTimer::singleShot(UntilProgress, &FLoop, &QEventLoop::quit);
     if (!FEnded) FLoop.exec(QEventLoop::ExcludeUserInputEvents);
     if (!FEnded) ShowProgress(parent, file);
-    while (!FEnded) FLoop.exec(QEventLoop::ExcludeUserInputEvents);
+    // A program that ends waits no more; the job's end stops it.
+    while (!FEnded && FLoop.exec(QEventLoop::ExcludeUserInputEvents) >= 0) {
+    }
   }
 
   bool IsWritten() const { return FWritten; }

@@ -293,7 +293,8 @@ void TResultGrid::Copy(bool hasHeaders) {
   QAbstractButton* copy = isTooMuch ? nullptr : question->addButton(tr("&Copy"), QMessageBox::AcceptRole);
   question->addButton(isTooMuch ? QMessageBox::Close : QMessageBox::Cancel);
   connect(question, &QMessageBox::finished, this, [this, question, copy] {
-    if (copy != nullptr && question->clickedButton() == copy) return BeginCopy();
+    // Rows that have gone meanwhile took the copy with them.
+    if (FCopy && copy != nullptr && question->clickedButton() == copy) return BeginCopy();
     FCopy.reset();
   });
   question->open();

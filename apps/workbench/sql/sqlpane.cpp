@@ -154,6 +154,7 @@ void TSqlPane::SetStatement(const std::string& sql) {
   FStatement = sql;
   FFault.clear();
   FFaultRow.clear();
+  FWarnings.clear();
   FView->ShowSql(ToQString(sql));
   ShowTold();
 }

@@ -35,7 +35,7 @@ class TSqlPane final : public QWidget {
  public:
   explicit TSqlPane(QWidget* parent = nullptr);
 
-  /// Takes a fault away.
+  /// Takes fault and warnings away.
   void SetStatement(const std::string& sql);
   const std::string& GetStatement() const { return FStatement; }
   /// Why there is no statement now: the one before is greyed and cannot be copied. `rowID`: of the row at fault, if

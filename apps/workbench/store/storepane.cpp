@@ -114,6 +114,7 @@ void TStorePane::MakeList() {
   whole->addWidget(FEmpty);
   auto* drag = new TRowDrag(*FList);
   drag->OnMove = [this](int from, int to) {
+    FPressed = false;  // the drag keeps the release to itself
     if (FRows->IsSearching()) return ShowNote(tr("Clear the search to put queries in another order."));
     FRows->MoveRow(from, to);
     if (const int row = FRows->CurrentRow(); row >= 0) FList->setCurrentIndex(FRows->index(row));

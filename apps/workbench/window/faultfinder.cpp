@@ -1,5 +1,7 @@
 #include "apps/workbench/window/faultfinder.h"
 
+#include <algorithm>
+
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/query/querpnl.h>
 
@@ -59,10 +61,16 @@ void TFaultFinder::Find(const std::function<std::unique_ptr<TJQueryPanel>()>& co
     }
     if (!limit.empty()) copy->SetSQLLimitClause(limit);
     try {
-      FTrials.push_back({rowID, copy->GetBoundStatement(msQuestion)});
+      TBoundStatement statement = copy->GetBoundStatement(msQuestion);
+      // Without its values, the runner would refuse it, not the database.
+      const bool isComplete = std::none_of(statement.Values.begin(), statement.Values.end(),
+                                           [](const TBoundValue& value) { return value.IsMissing; });
+      if (isComplete) FTrials.push_back({rowID, std::move(statement)});
     } catch (const EException&) {
-      continue;  // what cannot be built is told elsewhere
+      // What cannot be built is told elsewhere.
     }
+    // Without the first trial, nothing could be told of the others.
+    if (FTrials.empty()) return;
   }
   FNext = 0;
   TryNext();

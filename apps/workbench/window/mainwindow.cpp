@@ -227,7 +227,7 @@ bool TMainWindow::MayLeaveQuery() {
     case lvSave:
       return SaveQuery();
     case lvDiscard:
-      FWorkspace->Panel().SetModified(false);
+      RevertQuery();
       return true;
     default:
       return false;
@@ -242,8 +242,7 @@ bool TMainWindow::MayLeaveModel() {
       SaveModel();
       return !FWorkspace->IsModelModified();
     case lvDiscard:
-      FWorkspace->ModelEditor().SetUnmodified();
-      return true;
+      return Try([this] { FWorkspace->RevertModel(); });
     default:
       return false;
   }
@@ -256,8 +255,8 @@ std::optional<TUnsavedWork> TMainWindow::Unsaved() {
   return work;
 }
 
-void TMainWindow::Restore(const TUnsavedWork& work) {
-  if (!FWorkspace || !Try([&] { FWorkspace->Restore(work); })) return;
+bool TMainWindow::Restore(const TUnsavedWork& work) {
+  if (!FWorkspace || !Try([&] { FWorkspace->Restore(work); })) return false;
   QueryLoaded();
   const QString words = work.QueryText ? tr("The program ended before changes of “%1” were saved. Here they are again.")
                                              .arg(ToQString(work.QueryName))
@@ -272,6 +271,7 @@ void TMainWindow::Restore(const TUnsavedWork& work) {
                   if (FWorkspace->IsModelModified()) Try([this] { FWorkspace->RevertModel(); });
                   RevertQuery();
                 }}});
+  return true;
 }
 
 void TMainWindow::Tell(const QString& words, const std::vector<std::pair<QString, std::function<void()>>>& choices) {
@@ -302,7 +302,7 @@ void TMainWindow::SavePlaces() {
   QJsonObject params;
   for (const auto& [key, value] : FParams.Values()) params.insert(key, value);
   FSettings.Params = params;
-  FSettings.LastQuery = QueryName();
+  if (FWorkspace) FSettings.LastQueries.insert(SourceKey(FWorkspace->GetSource()), QueryName());
 }
 
 void TMainWindow::closeEvent(QCloseEvent* event) {

@@ -58,8 +58,8 @@ class TMainWindow final : public QMainWindow {
   bool MayLeaveModel();
   /// What would be lost, with the model as it stands in an open editor; nothing without a workspace.
   std::optional<TUnsavedWork> Unsaved();
-  /// Puts work back that a program left which did not come to its end.
-  void Restore(const TUnsavedWork& work);
+  /// Puts work back that a program left which did not come to its end; whether that worked.
+  bool Restore(const TUnsavedWork& work);
 
   void Tell(const QString& words, const std::vector<std::pair<QString, std::function<void()>>>& choices = {});
   /// What the user tried could not be done.
@@ -128,7 +128,8 @@ class TMainWindow final : public QMainWindow {
   void RefreshModel();
   void StepModel(void (TModelEditor::*step)());
 
-  // Rows.
+  // Rows. Those of a preview are not all: the user is asked.
+  bool HasAllRows();
   void ExportRows();
   void PrintRows();
 

@@ -98,9 +98,11 @@ void TMainWindow::SaveModel() {
 
 void TMainWindow::SaveModelAs() {
   if (!FWorkspace) return;
-  QString file = QFileDialog::getSaveFileName(this, tr("Save the model"), FWorkspace->GetModelFile(), ModelFilter());
-  if (file.isEmpty()) return;
-  if (QFileInfo(file).suffix().isEmpty()) file += QStringLiteral(".model");
+  QFileDialog dialog(this, tr("Save the model"), FWorkspace->GetModelFile(), ModelFilter());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("model"));
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QString file = dialog.selectedFiles().constFirst();
   if (!Try([&] { FWorkspace->SaveModelAs(file); })) return;
   FSettings.Remember(FWorkspace->GetSource());
   RefreshTitle();

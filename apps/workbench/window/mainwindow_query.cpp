@@ -2,8 +2,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <cstdint>
 
 #include "apps/workbench/export/chartpane.h"
 #include "apps/workbench/export/exportdlg.h"
@@ -70,6 +73,7 @@ void TMainWindow::QueryLoaded() {
   FQueryArea->ForgetSteps();
   FChartPane->SetTitle(QueryName());
   FNote->hide();
+  if (!FResultPane->GetPreview()) FResultPane->ShowNothing(tr("Rows appear here when you run the query."));
   RefreshCommands();
   QueryChanged();
 }
@@ -124,6 +128,7 @@ void TMainWindow::ShowRows() {
 
 void TMainWindow::RunQuery() {
   if (!FWorkspace) return;
+  FFaultFinder->Stop();
   FResultTabs->setCurrentWidget(FResultPane);
   try {
     const std::unique_ptr<TJQueryPanel> copy = CopyOfQuery();
@@ -132,7 +137,8 @@ void TMainWindow::RunQuery() {
     TBoundStatement statement = copy->GetBoundStatement(msQuestion);
     TakeGiven(statement, *copy);
     FResultPane->Run(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),
-                     static_cast<std::size_t>(FSettings.MaxRows), TypesOf(copy->RFields()));
+                     FSettings.MaxRows == 0 ? SIZE_MAX : static_cast<std::size_t>(FSettings.MaxRows),
+                     TypesOf(copy->RFields()));
   } catch (const EException& error) {
     FResultPane->ShowFault(QString::fromUtf8(error.what()));
     FQueryArea->Conditions().ReportError(error);
@@ -210,15 +216,36 @@ void TMainWindow::PasteSql(const std::string& sql) {
   if (!imported) return;
   Try([&] {
     TJQueryPanel& panel = FWorkspace->Panel();
+    // A statement says nothing of these.
+    const TStrings description = panel.GetDescription(), userData = panel.GetUserData();
     panel.LoadFromText(imported->QueryText);
     panel.SetQueryName(FromQString(QueryName()));
+    panel.SetDescription(description);
+    panel.SetUserData(userData);
     panel.SetModified(true);
   });
   QueryChanged();
 }
 
+bool TMainWindow::HasAllRows() {
+  if (FResultPane->IsRunning() || !FResultPane->GetRows()) return false;
+  const auto most = static_cast<std::size_t>(FSettings.PreviewRows);
+  if (!FResultPane->IsPreview() || FResultPane->GetRows()->GetRowCount() < most) return true;
+  QMessageBox box(QMessageBox::Question, QGuiApplication::applicationDisplayName(),
+                  tr("Only the first %L1 rows are here. Run the query first to have all of them.").arg(most),
+                  QMessageBox::NoButton, this);
+  box.setObjectName(QStringLiteral("preview"));
+  QPushButton* run = box.addButton(tr("&Run"), QMessageBox::AcceptRole);
+  QPushButton* take = box.addButton(tr("&These rows only"), QMessageBox::DestructiveRole);
+  box.setEscapeButton(box.addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole));
+  box.setDefaultButton(run);
+  box.exec();
+  if (box.clickedButton() == run) RunQuery();
+  return box.clickedButton() == take && !FResultPane->IsRunning() && FResultPane->GetRows();
+}
+
 void TMainWindow::ExportRows() {
-  if (FResultPane->IsRunning() || !FResultPane->GetRows()) return;
+  if (!HasAllRows()) return;
   const TMemory memory{
       [this](const QString& key) -> QVariant {
         return key == QStringLiteral("export.folder") ? FSettings.ExportFolder : FSettings.ExportFormat;
@@ -230,7 +257,7 @@ void TMainWindow::ExportRows() {
 }
 
 void TMainWindow::PrintRows() {
-  if (FResultPane->IsRunning() || !FResultPane->GetRows()) return;
+  if (!HasAllRows()) return;
   tolvi::PrintRows(this, FResultPane->GetRows(), *FResultPane->GetOrder(), QueryName());
 }
 

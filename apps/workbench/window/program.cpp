@@ -1,7 +1,9 @@
 #include "apps/workbench/window/program.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QEventLoop>
 #include <QLocale>
 #include <QMessageBox>
 #include <QStandardPaths>
@@ -45,17 +47,22 @@ QString TProgram::SampleFolder() const { return QDir(FData).filePath(QStringLite
 void TProgram::Start() {
   UseTheme(Settings().Theme, Settings().FontSize);
   MakeWindow();
+  if (FOptions.Source && !FOptions.Password.empty()) {
+    FSecrets.KeepInSession(ParseConnectionUrl(FOptions.Source->Url), FOptions.Password);
+  }
   if (!Recover()) {
     bool isOpen = false;
     if (FOptions.Source) isOpen = Open(*FOptions.Source);
     if (!FOptions.Source && !Settings().Recent.empty()) isOpen = Open(Settings().Recent.front());
-    if (!isOpen) OpenSample();
+    if (!isOpen && FWindow->GetWorkspace() == nullptr) OpenSample();
   }
   if (!FSettingsFile.GetNote().isEmpty()) FWindow->Tell(FSettingsFile.GetNote());
   FKeep.start(KeepMilliseconds);
 }
 
 void TProgram::MakeWindow() {
+  // Undo steps end here; what is open and not saved goes on, and the places of the former window are those of the next.
+  std::unique_ptr<TWorkspace> workspace = FWindow ? FWindow->TakeWorkspace() : nullptr;
   const QString language = tolvi::UseLanguage(Settings().Language);
   auto window = std::make_unique<TMainWindow>(Settings(), language);
   window->Requests = {[this] { Connect(); },
@@ -65,12 +72,7 @@ void TProgram::MakeWindow() {
                       [this](const TSource& source) { Open(source); },
                       [this](const QString& code) { UseLanguage(code); },
                       [this] { UseTheme(Settings().Theme, Settings().FontSize); }};
-  if (FWindow) {
-    // Undo steps end here; what is open and not saved goes on.
-    std::unique_ptr<TWorkspace> workspace = FWindow->TakeWorkspace();
-    window->restoreGeometry(Settings().Geometry);
-    window->SetWorkspace(std::move(workspace));
-  }
+  if (workspace) window->SetWorkspace(std::move(workspace));
   // The program would end with its last window.
   window->show();
   FWindow = std::move(window);
@@ -81,39 +83,62 @@ void TProgram::UseLanguage(const QString& code) {
   MakeWindow();
 }
 
+std::optional<std::string> TProgram::KnownPassword(const TConnectionUrl& url) {
+  if (url.Kind == dkSQLite) return std::string();
+  // Outlives this call, should the keychain answer later.
+  struct TAnswer {
+    std::optional<std::string> Password;
+    bool IsThere = false;
+  };
+  const auto answer = std::make_shared<TAnswer>();
+  FSecrets.Find(url, [answer](std::optional<std::string> password) { *answer = {std::move(password), true}; });
+  // A keychain may ask its user; one that does not answer is not waited for.
+  QEventLoop loop;
+  const QDeadlineTimer patience(5'000);
+  while (!answer->IsThere && !patience.hasExpired()) {
+    loop.processEvents(QEventLoop::ExcludeUserInputEvents, 50);
+  }
+  return answer->Password;
+}
+
 bool TProgram::Open(const TSource& source) {
-  if (!FWindow->MayLeaveQuery() || !FWindow->MayLeaveModel()) return true;
-  const QPointer<TProgram> self(this);
-  std::string password;
+  if (!FWindow->MayLeaveQuery() || !FWindow->MayLeaveModel()) return false;
   try {
     const TConnectionUrl url = ParseConnectionUrl(source.Url);
-    password = FSecrets.InSession(url).value_or(std::string());
-  } catch (const EException& error) {
+    std::string password = KnownPassword(url).value_or(std::string());
+    while (true) {
+      QString fault;
+      try {
+        const TWaitCursor wait;
+        Show(std::make_unique<TWorkspace>(source, password, FolderOf(source, FData), SystemFormats()));
+        return true;
+      } catch (const EConnectError& error) {
+        // A server may want another password; nothing else can be mended by one.
+        if (url.Kind == dkSQLite) throw;
+        fault = QString::fromUtf8(error.what());
+      }
+      const std::optional<std::string> given = AskPassword(FWindow.get(), url, FSecrets, fault);
+      if (!given) return false;
+      password = *given;
+    }
+  } catch (const std::exception& error) {
     FWindow->TellFault(QString::fromUtf8(error.what()));
     return false;
   }
-  while (true) {
-    QString fault;
+}
+
+void TProgram::Show(std::unique_ptr<TWorkspace> workspace) {
+  Settings().Remember(workspace->GetSource());
+  TJStoredQueryBase& store = workspace->Store();
+  const QString last = Settings().LastQueries.value(SourceKey(workspace->GetSource())).toString();
+  if (const int index = store.IndexByName(FromQString(last)); index > 0) {
     try {
-      const TWaitCursor wait;
-      auto workspace = std::make_unique<TWorkspace>(source, password, FolderOf(source, FData), SystemFormats());
-      Settings().Remember(workspace->GetSource());
-      FWindow->SetWorkspace(std::move(workspace));
-      TJStoredQueryBase& store = FWindow->GetWorkspace()->Store();
-      if (const int last = store.IndexByName(FromQString(Settings().LastQuery)); last > 0) store.SetItemIndex(last);
-      return true;
-    } catch (const std::exception& error) {
-      fault = QString::fromUtf8(error.what());
+      store.SetItemIndex(index);
+    } catch (const EException&) {
+      // It cannot be shown any more: the first one is.
     }
-    const TConnectionUrl url = ParseConnectionUrl(source.Url);
-    if (url.Kind == dkSQLite) {
-      FWindow->TellFault(fault);
-      return false;
-    }
-    const std::optional<std::string> given = AskPassword(FWindow.get(), url, FSecrets, fault);
-    if (!given || !self) return false;
-    password = *given;
   }
+  FWindow->SetWorkspace(std::move(workspace));
 }
 
 void TProgram::Connect() {
@@ -155,9 +180,18 @@ void TProgram::RestoreSample() {
 
 bool TProgram::Recover() {
   const std::optional<TUnsavedWork> work = FRecovery.Find();
-  if (!work || !Open(work->Source)) return false;
-  FWindow->Restore(*work);
+  if (!work) return false;
+  const QString file = QDir::toNativeSeparators(FRecovery.FoundFile());
+  if (!Open(work->Source) || !FWindow->Restore(*work)) {
+    FRecovery.Leave();
+    FWindow->TellFault(
+        tr("Changes that were not saved cannot be put back now. They stay in %1, and the next start tries "
+           "it again.")
+            .arg(file));
+    return FWindow->GetWorkspace() != nullptr;
+  }
   Keep();
+  FRecovery.Drop();
   return true;
 }
 

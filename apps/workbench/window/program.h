@@ -14,6 +14,7 @@
 namespace tolvi {
 
 class TMainWindow;
+class TWorkspace;
 struct TFormatSettings;
 
 /// The workbench as a whole: its settings, the passwords it knows, what it keeps of unsaved work, and its window, which
@@ -28,6 +29,8 @@ class TProgram final : public QObject {
     QString Home = {};
     /// What to open; nothing: what was open the last time, at first the sample.
     std::optional<TSource> Source = {};
+    /// Of that source; kept until the program ends, nowhere else.
+    std::string Password = {};
   };
 
   explicit TProgram(const TOptions& options);
@@ -45,6 +48,8 @@ class TProgram final : public QObject {
 
  private:
   void MakeWindow();
+  void Show(std::unique_ptr<TWorkspace> workspace);
+  std::optional<std::string> KnownPassword(const TConnectionUrl& url);
   void UseLanguage(const QString& code);
   void Connect();
   void OpenSample();

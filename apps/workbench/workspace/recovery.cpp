@@ -16,7 +16,8 @@ constexpr QLatin1String Ending(".work"), LockEnding(".lock");
 QByteArray ToJson(const TUnsavedWork& work) {
   QJsonObject json{{QStringLiteral("source"), ToJson(work.Source)},
                    {QStringLiteral("queryId"), ToQString(work.QueryId)},
-                   {QStringLiteral("queryName"), ToQString(work.QueryName)}};
+                   {QStringLiteral("queryName"), ToQString(work.QueryName)},
+                   {QStringLiteral("revision"), ToQString(work.Revision)}};
   if (work.QueryText) json.insert(QStringLiteral("query"), ToQString(*work.QueryText));
   if (work.ModelText) json.insert(QStringLiteral("model"), ToQString(*work.ModelText));
   return QJsonDocument(json).toJson();
@@ -30,7 +31,9 @@ std::optional<TUnsavedWork> FromJson(const QByteArray& text) {
   };
   TUnsavedWork work{SourceFromJson(json.value(QLatin1String("source")).toObject()),
                     part(QLatin1String("queryId")).value_or(std::string()),
-                    part(QLatin1String("queryName")).value_or(std::string()), part(QLatin1String("query")),
+                    part(QLatin1String("queryName")).value_or(std::string()),
+                    part(QLatin1String("revision")).value_or(std::string()),
+                    part(QLatin1String("query")),
                     part(QLatin1String("model"))};
   if (work.IsEmpty()) return std::nullopt;
   return work;
@@ -63,7 +66,6 @@ void TRecovery::Keep(const TUnsavedWork& work) {
     WriteFileAtomically(ToPath(FFile), std::string_view(text.constData(), static_cast<std::size_t>(text.size())));
   }
   FKept = work;
-  Drop();
 }
 
 std::optional<TUnsavedWork> TRecovery::Find() {
@@ -84,6 +86,10 @@ std::optional<TUnsavedWork> TRecovery::Find() {
 
 void TRecovery::Drop() {
   if (!FFound.isEmpty()) QFile::remove(FFound);
+  Leave();
+}
+
+void TRecovery::Leave() {
   FFound.clear();
   FFoundLock.reset();
 }

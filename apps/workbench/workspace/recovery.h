@@ -16,6 +16,8 @@ struct TUnsavedWork {
   /// The query that it is a change of, by its ID in the store; empty for none.
   std::string QueryId = {};
   std::string QueryName = {};
+  /// Of the stored query that was changed.
+  std::string Revision = {};
   /// Nothing: it is as stored.
   std::optional<std::string> QueryText = {};
   std::optional<std::string> ModelText = {};
@@ -36,11 +38,15 @@ class TRecovery final {
   /// Writes the work whole or not at all, if it is not what was written last; empty work removes the file. Raises
   /// `EFileError`.
   void Keep(const TUnsavedWork& work);
-  /// The latest work that a program left which runs no more. It stays in its file until `Keep` has written it to this
-  /// one's, or `Drop`. A file that cannot be read is left alone.
+  /// The latest work that a program left which runs no more. It stays in its file until `Drop`; a file that cannot be
+  /// read is left alone. The same work is not found twice.
   std::optional<TUnsavedWork> Find();
-  /// Removes what `Find` has found.
+  /// The file of what `Find` has found, for people; empty for none.
+  const QString& FoundFile() const { return FFound; }
+  /// Removes what `Find` has found, as it has been put back.
   void Drop();
+  /// Leaves it to the next program.
+  void Leave();
 
  private:
   QString FFolder, FFile;

@@ -44,7 +44,7 @@ TSource UnpackSample(const QString& folder) {
       WriteFileAtomically(ToPath(file), Stored(Root + u'/' + QFileInfo(file).fileName()));
     }
   }
-  return {"sqlite:" + FromQString(database), FromQString(model), FromQString(queries), false};
+  return {SourceOf(database).Url, FromQString(model), FromQString(queries), false};
 }
 
 QString RestoreSample(const QString& folder) {

@@ -31,7 +31,7 @@ QByteArray ToJson(const TSettings& settings) {
                          {QStringLiteral("maxRows"), static_cast<qint64>(settings.MaxRows)},
                          {QStringLiteral("allowSQLFragments"), settings.AllowSQLFragments},
                          {QStringLiteral("recent"), recent},
-                         {QStringLiteral("lastQuery"), settings.LastQuery},
+                         {QStringLiteral("lastQueries"), settings.LastQueries},
                          {QStringLiteral("geometry"), Base64(settings.Geometry)},
                          {QStringLiteral("layout"), Base64(settings.Layout)},
                          {QStringLiteral("exportFolder"), settings.ExportFolder},
@@ -60,9 +60,10 @@ TSettings FromJson(const QJsonObject& json) {
   settings.MaxRows = number(QLatin1String("maxRows"), 0, INT32_MAX, settings.MaxRows);
   settings.AllowSQLFragments = json.value(QLatin1String("allowSQLFragments")).toBool();
   for (const QJsonValue& source : json.value(QLatin1String("recent")).toArray()) {
-    settings.Recent.push_back(SourceFromJson(source.toObject()));
+    if (TSource known = SourceFromJson(source.toObject()); !known.Url.empty())
+      settings.Recent.push_back(std::move(known));
   }
-  settings.LastQuery = text(QLatin1String("lastQuery"));
+  settings.LastQueries = json.value(QLatin1String("lastQueries")).toObject();
   settings.Geometry = bytes(QLatin1String("geometry"));
   settings.Layout = bytes(QLatin1String("layout"));
   settings.ExportFolder = text(QLatin1String("exportFolder"));

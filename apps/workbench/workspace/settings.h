@@ -26,14 +26,13 @@ struct TSettings {
   std::int64_t MaxRows = 1'000'000;
   /// Whether queries may hold rows of SQL, which reach the database as they are.
   bool AllowSQLFragments = false;
-  /// The last one first; `Last` says which query of it was shown.
+  /// The last one first.
   std::vector<TSource> Recent = {};
-  QString LastQuery = {};
   QByteArray Geometry = {}, Layout = {};
   QString ExportFolder = {}, ExportFormat = {};
-  /// By `SourceKey`: the order of the queries; the syntax of the statement that is shown. The last values
-  /// of parameters.
-  QJsonObject Orders = {}, Syntaxes = {}, Params = {};
+  /// By `SourceKey`: the order of the queries, the one shown last, the syntax of the statement that is shown. The last
+  /// values of parameters.
+  QJsonObject Orders = {}, LastQueries = {}, Syntaxes = {}, Params = {};
 
   /// Puts the source at the head of `Recent`.
   void Remember(const TSource& source);

@@ -32,8 +32,26 @@ QJsonObject ToJson(const TSource& source) {
 
 TSource SourceFromJson(const QJsonObject& json) {
   const auto text = [&json](QLatin1String key) { return FromQString(json.value(key).toString()); };
-  return {text(QLatin1String("url")), text(QLatin1String("model")), text(QLatin1String("queries")),
-          json.value(QLatin1String("queriesInDatabase")).toBool()};
+  TSource source{{},
+                 text(QLatin1String("model")),
+                 text(QLatin1String("queries")),
+                 json.value(QLatin1String("queriesInDatabase")).toBool()};
+  try {
+    source.Url = ParseConnectionUrl(text(QLatin1String("url"))).Shown();
+  } catch (const EConnectError&) {
+    source.Url.clear();
+  }
+  return source;
+}
+
+TSource SourceOf(const QString& fileOrUrl) {
+  const std::string text = FromQString(fileOrUrl);
+  TConnectionUrl url{.Kind = dkSQLite, .Database = text};
+  if (IsConnectionUrl(text)) url = ParseConnectionUrl(text);
+  if (url.Kind == dkSQLite && url.Database != ":memory:") {
+    url.Database = FromQString(QFileInfo(ToQString(url.Database)).absoluteFilePath());
+  }
+  return {url.Shown()};
 }
 
 }  // namespace tolvi

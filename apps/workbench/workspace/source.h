@@ -26,6 +26,10 @@ QString SourceName(const TSource& source);
 QString SourceKey(const TSource& source);
 
 QJsonObject ToJson(const TSource& source);
+/// With an empty URL where it is none.
 TSource SourceFromJson(const QJsonObject& json);
+
+/// The source of an SQLite file or a URL, which may have a password: that is left out. Raises `EConnectError`.
+TSource SourceOf(const QString& fileOrUrl);
 
 }  // namespace tolvi

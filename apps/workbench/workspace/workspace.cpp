@@ -70,11 +70,13 @@ TWorkspace::~TWorkspace() {
 
 void TWorkspace::OpenModel(const QString& file) {
   FModelFile = file;
-  if (QFileInfo::exists(file)) {
+  // A file that was named is not made: its name may be wrong.
+  if (QFileInfo::exists(file) || !FSource.ModelFile.empty()) {
     LoadModel(file);
   } else {
     FillModelAnew();
-    SaveModel();
+    // Without tables, the catalogue may not have been to be had.
+    if (FModel.GetTableCount() > 0) SaveModel();
   }
 }
 
@@ -92,6 +94,7 @@ void TWorkspace::LoadModel(const QString& file) {
     throw EFileError(FromQString(QDir::toNativeSeparators(file)) + ": " + error.Message());
   }
   FModelFile = file;
+  FModelEditor.ForgetSteps();
   FModelEditor.SetUnmodified();
 }
 
@@ -136,7 +139,13 @@ void TWorkspace::OpenStore(const QString& folder) {
     FStore = std::move(files);
   }
   FStore->AddLink(FLink);
-  FStore->Open();
+  try {
+    FStore->Open();
+  } catch (const EException& error) {
+    // One query that cannot be shown does not keep the others away.
+    if (!FStore->GetActive()) throw;
+    FNotes.Add(error.Message());
+  }
   if (FStore->Count() > 0) return;
   FStore->SetItemIndex(FStore->IndexByName(FStore->NewQuery()->GetQueryName()));
   AddFirstColumns(FPanel, FModel);
@@ -148,10 +157,26 @@ TJStoredQuery* TWorkspace::CurrentQuery() const {
   return index < 0 ? nullptr : &FStore->GetStoredQuery(index);
 }
 
+std::string TWorkspace::FreeName(const std::string& wanted) const {
+  const std::string base = wanted.empty() ? "New query" : wanted;
+  std::string name = base;
+  for (int number = 2; FStore->IndexByName(name) >= 0; ++number) name = base + " (" + std::to_string(number) + ")";
+  return name;
+}
+
 void TWorkspace::SaveQuery() {
-  if (TJStoredQuery* query = CurrentQuery()) {
+  TJStoredQuery* query = CurrentQuery();
+  if (query == nullptr) {
+    TStrings lines;
+    lines.SetText(QueryText());
+    FStore->SetItemIndex(FStore->AddQuery(FreeName(FPanel.GetQueryName()), lines));
+    return;
+  }
+  try {
     query->Save();
-    FPanel.SetModified(false);
+  } catch (...) {
+    FPanel.SetModified(true);  // asked for its text, the panel takes itself for saved
+    throw;
   }
 }
 
@@ -162,7 +187,13 @@ std::string TWorkspace::QueryText() {
   return text;
 }
 
-void TWorkspace::RevertQuery() { FLink.LoadCurBaseQuery(); }
+void TWorkspace::RevertQuery() {
+  if (CurrentQuery() == nullptr) {
+    FPanel.ClearAll();
+    FPanel.SetModified(false);
+  }
+  FLink.LoadCurBaseQuery();
+}
 
 TUnsavedWork TWorkspace::Unsaved() {
   TUnsavedWork work{FSource};
@@ -171,6 +202,7 @@ TUnsavedWork TWorkspace::Unsaved() {
   if (const TJStoredQuery* query = CurrentQuery()) {
     work.QueryId = query->Entry().Id;
     work.QueryName = query->GetQueryName();
+    work.Revision = query->Entry().Revision;
   }
   work.QueryText = QueryText();
   return work;
@@ -181,16 +213,14 @@ void TWorkspace::Restore(const TUnsavedWork& work) {
   if (!work.QueryText) return;
   int index = -1;
   for (int i = 0; i < FStore->Count() && index < 0; ++i) {
-    if (FStore->GetStoredQuery(i).Entry().Id == work.QueryId) index = i;
+    // One that somebody has stored since is another one.
+    const TQueryEntry& entry = FStore->GetStoredQuery(i).Entry();
+    if (entry.Id == work.QueryId && entry.Revision == work.Revision) index = i;
   }
   if (index < 0) {
     TStrings lines;
     lines.SetText(*work.QueryText);
-    std::string name = work.QueryName;
-    for (int number = 2; FStore->IndexByName(name) >= 0; ++number) {
-      name = work.QueryName + " (" + std::to_string(number) + ")";
-    }
-    FStore->SetItemIndex(FStore->AddQuery(name, lines));
+    FStore->SetItemIndex(FStore->AddQuery(FreeName(work.QueryName), lines));
     return;
   }
   if (index != FStore->GetItemIndex()) FStore->SetItemIndex(index);

@@ -63,7 +63,8 @@ class TWorkspace final {
   std::string QueryText();
   /// Whether the query differs from the stored one.
   bool IsQueryModified() const { return FPanel.GetModified(); }
-  /// Stores the query. Raises `EQueryConflictError` and what storing raises.
+  /// Stores the query; one that no query of the store is shown for becomes a new one. Raises `EQueryConflictError` and
+  /// what storing raises; the query then stays modified.
   void SaveQuery();
   /// Shows the stored query again.
   void RevertQuery();
@@ -78,6 +79,7 @@ class TWorkspace final {
   void OpenStore(const QString& folder);
   void FillModelAnew();
   TJStoredQuery* CurrentQuery() const;
+  std::string FreeName(const std::string& wanted) const;
 
   TSource FSource;
   TConnectionUrl FUrl;
