@@ -83,6 +83,8 @@ TEST_F(Workbench, ChangesTheLanguageWithoutLosingWhatIsEdited) {
     Wait([this] { return Window().isWindowModified(); }, code);
     EXPECT_EQ(Window().GetWorkspace()->QueryText(), text) << code;
     EXPECT_EQ(Window().layoutDirection(), direction) << code;
+    const QString menu = Window().findChild<QMenu*>(QStringLiteral("menu.query"))->title();
+    EXPECT_EQ(menu == QStringLiteral("&Query"), QLatin1String(code) == QLatin1String("en")) << menu.toStdString();
     Wait([this] { return Shown("query.conditions").contains(QStringLiteral("Atlantis")); }, code);
     EXPECT_TRUE(Shown("query.conditions").contains(QLatin1String(word))) << code;
   }

@@ -9,6 +9,7 @@
 #include <QTabWidget>
 
 #include "apps/workbench/export/chartpane.h"
+#include "apps/workbench/results/resultgrid.h"
 #include "apps/workbench/results/resultpane.h"
 #include "apps/workbench/sql/sqlpane.h"
 #include "apps/workbench/store/storepane.h"
@@ -203,20 +204,21 @@ void TMainWindow::BuildModelMenu() {
 
 void TMainWindow::BuildViewMenu() {
   QMenu& menu = *AddMenu(QStringLiteral("menu.view"), tr("&View"));
-  const auto go = [this, &menu](const QString& name, const QString& caption, int number, QWidget* pane) {
-    AddCommand(menu, name, caption, QKeySequence(QStringLiteral("Alt+%1").arg(number)), [this, pane] {
-      if (FResultTabs->indexOf(pane) >= 0) FResultTabs->setCurrentWidget(pane);
-      QWidget* target = pane->nextInFocusChain();
-      if (pane->focusPolicy() != Qt::NoFocus) target = pane;
+  // A pane that is a tab comes to the front.
+  const auto go = [this, &menu](const QString& name, const QString& caption, int number, QWidget* target,
+                                QWidget* pane = nullptr) {
+    AddCommand(menu, name, caption, QKeySequence(QStringLiteral("Alt+%1").arg(number)), [this, target, pane] {
+      if (pane != nullptr) FResultTabs->setCurrentWidget(pane);
       target->setFocus(Qt::ShortcutFocusReason);
     });
   };
   go(QStringLiteral("view.queries"), tr("Go to the &queries"), 1, &FStorePane->List());
   go(QStringLiteral("view.conditions"), tr("Go to the &conditions"), 2, &FQueryArea->Conditions());
   go(QStringLiteral("view.columns"), tr("Go to the co&lumns"), 3, &FQueryArea->Columns());
-  go(QStringLiteral("view.results"), tr("Go to the &rows"), 4, FResultPane);
-  go(QStringLiteral("view.chart"), tr("Go to the c&hart"), 5, FChartPane);
-  go(QStringLiteral("view.sql"), tr("Go to the &SQL"), 6, FSqlPane);
+  go(QStringLiteral("view.results"), tr("Go to the &rows"), 4, &FResultPane->Grid(), FResultPane);
+  go(QStringLiteral("view.chart"), tr("Go to the c&hart"), 5,
+     FChartPane->findChild<QWidget*>(QStringLiteral("chart.kind")), FChartPane);
+  go(QStringLiteral("view.sql"), tr("Go to the &SQL"), 6, FSqlPane->findChild<QWidget*>(QStringLiteral("sql.view")));
   menu.addSeparator();
   QMenu* languages = menu.addMenu(tr("L&anguage"));
   languages->setObjectName(QStringLiteral("menu.language"));

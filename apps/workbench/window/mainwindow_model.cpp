@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -126,10 +127,15 @@ void TMainWindow::RefreshModel() {
         report = FWorkspace->RefreshModel();
       }))
     return;
-  const QString words = report.Empty() ? tr("The model has all tables and columns of the database.")
-                                       : ToQStringList(report.ToStrings()).join(u'\n');
-  Tell(words);
   RefreshCommands();
+  if (report.Empty()) return Tell(tr("The model has all tables and columns of the database."));
+  const QStringList lines = ToQStringList(report.ToStrings());
+  constexpr int shown = 5;
+  if (lines.size() <= shown) return Tell(lines.join(u'\n'));
+  QMessageBox box(QMessageBox::Information, QGuiApplication::applicationDisplayName(),
+                  lines.mid(0, shown).join(u'\n') + QStringLiteral("\n…"), QMessageBox::Ok, this);
+  box.setDetailedText(lines.join(u'\n'));
+  box.exec();
 }
 
 }  // namespace tolvi
