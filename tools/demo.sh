@@ -10,7 +10,7 @@ DATABASE=build/release/samples/shop.sqlite
 PICTURE=build/demo/workbench.png
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-  exec build/bin/tolvi-workbench
+  exec build/bin/tolvi-workbench --sample
 fi
 
 shown=0

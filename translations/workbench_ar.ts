@@ -1566,5 +1566,9 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <source>Write a picture of the window, at the end of the script, then quit.</source>
         <translation>كتابة صورة للنافذة عند نهاية السكربت ثم الإنهاء.</translation>
     </message>
+    <message>
+        <source>Open the sample.</source>
+        <translation>فتح القاعدة التجريبية.</translation>
+    </message>
 </context>
 </TS>

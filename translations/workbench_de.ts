@@ -1518,5 +1518,9 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <source>Write a picture of the window, at the end of the script, then quit.</source>
         <translation>Am Ende des Skripts ein Bild des Fensters schreiben, dann beenden.</translation>
     </message>
+    <message>
+        <source>Open the sample.</source>
+        <translation>Das Beispiel öffnen.</translation>
+    </message>
 </context>
 </TS>

@@ -1518,5 +1518,9 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <source>Write a picture of the window, at the end of the script, then quit.</source>
         <translation>Guardar una imagen de la ventana al final del guion y después salir.</translation>
     </message>
+    <message>
+        <source>Open the sample.</source>
+        <translation>Abrir el ejemplo.</translation>
+    </message>
 </context>
 </TS>

@@ -1518,5 +1518,9 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <source>Write a picture of the window, at the end of the script, then quit.</source>
         <translation>Enregistrer une image de la fenêtre à la fin du script, puis quitter.</translation>
     </message>
+    <message>
+        <source>Open the sample.</source>
+        <translation>Ouvrir l’exemple.</translation>
+    </message>
 </context>
 </TS>

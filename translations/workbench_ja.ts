@@ -1506,5 +1506,9 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <source>Write a picture of the window, at the end of the script, then quit.</source>
         <translation>スクリプトの最後にウィンドウの画像を書き出して終了します。</translation>
     </message>
+    <message>
+        <source>Open the sample.</source>
+        <translation>サンプルを開きます。</translation>
+    </message>
 </context>
 </TS>

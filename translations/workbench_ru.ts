@@ -1530,5 +1530,9 @@ Tolvi распространяется по лицензии MIT. Посколь
         <source>Write a picture of the window, at the end of the script, then quit.</source>
         <translation>Записать изображение окна в конце сценария и выйти.</translation>
     </message>
+    <message>
+        <source>Open the sample.</source>
+        <translation>Открыть пример.</translation>
+    </message>
 </context>
 </TS>

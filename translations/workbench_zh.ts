@@ -1506,5 +1506,9 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <source>Write a picture of the window, at the end of the script, then quit.</source>
         <translation>在脚本结束时写出窗口图片，然后退出。</translation>
     </message>
+    <message>
+        <source>Open the sample.</source>
+        <translation>打开示例。</translation>
+    </message>
 </context>
 </TS>

@@ -62,6 +62,7 @@ int main(int argc, char** argv) try {
       {{QStringLiteral("model"), TTexts::tr("The data model: a model text or XML."), file},
        {QStringLiteral("queries"), TTexts::tr("The folder of the queries."), folder},
        {QStringLiteral("queries-in-database"), TTexts::tr("The queries are in the database.")},
+       {QStringLiteral("sample"), TTexts::tr("Open the sample.")},
        {QStringLiteral("home"), TTexts::tr("Keep settings, unsaved work and the sample there."), folder},
        {QStringLiteral("script"), TTexts::tr("Play the script with keys and clicks, then quit; see docs/workbench.md."),
         file},
@@ -71,6 +72,7 @@ int main(int argc, char** argv) try {
   if (arguments.positionalArguments().size() > 1) throw EException("only one database can be opened");
 
   TProgram::TOptions options{arguments.value(QStringLiteral("home"))};
+  options.OpensSample = arguments.isSet(QStringLiteral("sample"));
   if (!arguments.positionalArguments().isEmpty()) {
     const QString database = arguments.positionalArguments().constFirst();
     // Before any window: what is no URL is told where it was typed.

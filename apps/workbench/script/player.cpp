@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -116,6 +117,8 @@ class TPlayer final : public QObject {
 
   void PlayLine() {
     while (FNext < FLines.size() && (FLines[FNext].trimmed().isEmpty() || FLines[FNext].startsWith(u'#'))) ++FNext;
+    // Keys let events come, this one, too.
+    if (FIsTyping) return Continue(Step);
     if (FNext >= FLines.size()) return End();
     if (FWaiting) return Await();
     const QString line = FLines[FNext].trimmed();
@@ -191,6 +194,7 @@ class TPlayer final : public QObject {
   }
 
   void Type(const QString& rest) {
+    const QScopedValueRollback typing(FIsTyping, true);
     for (const QChar letter : rest) {
       QWindow* window = KeyWindow(FProgram);
       const int key = letter.toUpper().unicode();
@@ -274,6 +278,7 @@ class TPlayer final : public QObject {
   const QString FScript, FPicture;
   QStringList FLines;
   int FNext = 0, FResult = 0;
+  bool FIsTyping = false;
   std::function<bool()> FWaiting;
   std::function<QString()> FFound;
   QElapsedTimer FWaited;
@@ -308,8 +313,9 @@ const TPlayer::TCommand* TPlayer::CommandOf(const QString& name) {
 int PlayScript(TProgram& program, const QString& script, const QString& picture) {
   QApplication::setCursorFlashTime(0);
   QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
+  // The loop runs first: what the start tells waits in a loop of its own, which the script must be able to end.
+  QTimer::singleShot(0, &program, [&program] { program.Start(); });
   TPlayer player(program, script, picture);
-  program.Start();
   const int status = QApplication::exec();
   return status != 0 ? status : player.GetResult();
 }

@@ -53,7 +53,8 @@ void TProgram::Start() {
   if (!Recover()) {
     bool isOpen = false;
     if (FOptions.Source) isOpen = Open(*FOptions.Source);
-    if (!FOptions.Source && !Settings().Recent.empty()) isOpen = Open(Settings().Recent.front());
+    if (!FOptions.Source && !FOptions.OpensSample && !Settings().Recent.empty())
+      isOpen = Open(Settings().Recent.front());
     if (!isOpen && FWindow->GetWorkspace() == nullptr) OpenSample();
   }
   if (!FSettingsFile.GetNote().isEmpty()) FWindow->Tell(FSettingsFile.GetNote());

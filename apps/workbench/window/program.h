@@ -29,6 +29,8 @@ class TProgram final : public QObject {
     QString Home = {};
     /// What to open; nothing: what was open the last time, at first the sample.
     std::optional<TSource> Source = {};
+    /// Whether it is the sample, in any case.
+    bool OpensSample = false;
     /// Of that source; kept until the program ends, nowhere else.
     std::string Password = {};
   };
