@@ -61,7 +61,7 @@ struct TResultPane::TParts {
     TBoundStatement Statement;
     bool QuotedBooleans = false;
     std::size_t MaxRows = 0;
-    std::vector<TFieldType> Types;
+    TKnownColumns Known;
   };
 
   void MakeBar();
@@ -97,6 +97,8 @@ struct TResultPane::TParts {
   QTimer PendingTimer;
   QElapsedTimer SincePreview;
   // Rows of the run that is on; they take the place of the old ones with the first block.
+  // Of the columns of the run, if the query knows them.
+  std::vector<std::string> Captions;
   std::shared_ptr<TResultRows> Incoming;
   // What the status says when all is done.
   QString EndWords;
@@ -179,7 +181,7 @@ void TResultPane::TParts::MakeContent() {
 
 void TResultPane::TParts::ListenToReader() {
   Reader.OnBegin = [this](const std::vector<std::string>& columns) {
-    Incoming = std::make_shared<TResultRows>(columns);
+    Incoming = std::make_shared<TResultRows>(Captions.size() == columns.size() ? Captions : columns);
   };
   Reader.OnRows = [this](TRowBlock&& block) {
     const bool isShown = Grid->Model().GetRows() == Incoming;
@@ -226,7 +228,8 @@ void TResultPane::TParts::Begin(TRequest request) {
   Pending.reset();
   PendingTimer.stop();
   Incoming.reset();
-  Reader.Start(std::move(request.Statement), request.QuotedBooleans, request.MaxRows, std::move(request.Types));
+  Captions = std::move(request.Known.Captions);
+  Reader.Start(std::move(request.Statement), request.QuotedBooleans, request.MaxRows, std::move(request.Known.Types));
   Update();
 }
 
@@ -289,25 +292,24 @@ void TResultPane::SetNoConnection(const QString& why) {
 }
 
 void TResultPane::Preview(const TBoundStatement& statement, bool quotedBooleans, std::size_t rows,
-                          std::vector<TFieldType> types) {
+                          TKnownColumns known) {
   if (!GetPreview() || !FParts->CanRun()) return;
   QElapsedTimer& since = FParts->SincePreview;
   const bool isQuick = since.isValid() && since.elapsed() < previewPause.count();
   since.start();
   FParts->Drop();
   FParts->IsPreviewRun = true;
-  TParts::TRequest request{statement, quotedBooleans, rows, std::move(types)};
+  TParts::TRequest request{statement, quotedBooleans, rows, std::move(known)};
   if (!isQuick) return FParts->Begin(std::move(request));
   FParts->Pending = std::move(request);
   FParts->PendingTimer.start();
   FParts->Update();
 }
 
-void TResultPane::Run(const TBoundStatement& statement, bool quotedBooleans, std::size_t maxRows,
-                      std::vector<TFieldType> types) {
+void TResultPane::Run(const TBoundStatement& statement, bool quotedBooleans, std::size_t maxRows, TKnownColumns known) {
   if (!FParts->CanRun()) return;
   FParts->IsPreviewRun = false;
-  FParts->Begin({statement, quotedBooleans, maxRows, std::move(types)});
+  FParts->Begin({statement, quotedBooleans, maxRows, std::move(known)});
 }
 
 void TResultPane::Cancel() {

@@ -16,6 +16,14 @@ namespace tolvi {
 
 class TResultGrid;
 
+/// What a query knows of the columns of its statement. Types: without them, a database that has no type for booleans,
+/// dates and times shows them as numbers and texts. Captions: what people call them; the names in the statement are
+/// shown where there are none, or not one for each column.
+struct TKnownColumns {
+  std::vector<TFieldType> Types = {};
+  std::vector<std::string> Captions = {};
+};
+
 /// The rows of a query: a bar with Run, Stop, the live preview and what came; below it the grid, or why there is none.
 /// Statements run in a thread of their own; the window never waits.
 ///
@@ -46,13 +54,9 @@ class TResultPane final : public QWidget {
 
   /// Shows the first rows, in the place of what runs. Old rows stay, dimmed, until the new ones are there. Calls that
   /// follow each other quickly run the last one alone. Does nothing while the live preview is off.
-  /// `types`: those of the columns, as far as the query knows them; without them, a database that has no type for
-  /// booleans, dates and times shows them as numbers and texts.
-  void Preview(const TBoundStatement& statement, bool quotedBooleans, std::size_t rows = 100,
-               std::vector<TFieldType> types = {});
+  void Preview(const TBoundStatement& statement, bool quotedBooleans, std::size_t rows = 100, TKnownColumns known = {});
   /// Shows at most `maxRows` rows as they come, in the place of what runs.
-  void Run(const TBoundStatement& statement, bool quotedBooleans, std::size_t maxRows,
-           std::vector<TFieldType> types = {});
+  void Run(const TBoundStatement& statement, bool quotedBooleans, std::size_t maxRows, TKnownColumns known = {});
   /// Stops what runs; rows that came stay.
   void Cancel();
 

@@ -37,14 +37,16 @@ bool HasMissingValues(const TBoundStatement& statement) {
   return false;
 }
 
-/// The types of the columns that are fields, since databases tell less of them.
-std::vector<TFieldType> TypesOf(const TRFieldList& columns) {
-  std::vector<TFieldType> types;
-  if (columns.GetShowsAll()) return types;
+/// Databases tell less of the columns.
+TKnownColumns KnownColumns(const TRFieldList& columns) {
+  TKnownColumns known;
+  if (columns.GetShowsAll()) return known;
   for (const TResultField& column : columns) {
-    if (!column.GetHidden()) types.push_back(column.IsPlainField() ? column.DSFields()[0]->GetFieldType() : ftUnknown);
+    if (column.GetHidden()) continue;
+    known.Types.push_back(column.IsPlainField() ? column.DSFields()[0]->GetFieldType() : ftUnknown);
+    known.Captions.push_back(column.GetCaption());
   }
-  return types;
+  return known;
 }
 
 /// All parameters count as given, so that an empty text is one.
@@ -117,7 +119,7 @@ void TMainWindow::ShowRows() {
       return FResultPane->ShowNothing(tr("The query asks for values: run it to give them."));
     }
     FResultPane->Preview(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),
-                         static_cast<std::size_t>(FSettings.PreviewRows), TypesOf(copy->RFields()));
+                         static_cast<std::size_t>(FSettings.PreviewRows), KnownColumns(copy->RFields()));
   } catch (const EQueryRowError& error) {
     FResultPane->ShowFault(QString::fromUtf8(error.what()));
     FResultPane->SetFaultAction(tr("Show in query"), [this, id = error.RowID()] { FQueryArea->GoToRow(id); });
@@ -138,7 +140,7 @@ void TMainWindow::RunQuery() {
     TakeGiven(statement, *copy);
     FResultPane->Run(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),
                      FSettings.MaxRows == 0 ? SIZE_MAX : static_cast<std::size_t>(FSettings.MaxRows),
-                     TypesOf(copy->RFields()));
+                     KnownColumns(copy->RFields()));
   } catch (const EException& error) {
     FResultPane->ShowFault(QString::fromUtf8(error.what()));
     FQueryArea->Conditions().ReportError(error);
