@@ -20,7 +20,4 @@ void Apply(const TLook& look);
 /// What is seen of the window, with the lists and menus that are open.
 QImage PictureOf(QWidget& window);
 
-/// Few colours make up nearly all of a picture; the shades of letters that are left over get the nearest of them.
-QImage Reduced(const QImage& picture);
-
 }  // namespace tolvi

@@ -11,6 +11,7 @@
 #include <functional>
 #include <set>
 
+#include "apps/palette/reduced.h"
 #include "apps/screenshots/designsession.h"
 #include "apps/screenshots/looks.h"
 #include "apps/screenshots/session.h"

@@ -16,6 +16,7 @@
 #include <cstdio>
 #include <functional>
 
+#include "apps/palette/reduced.h"
 #include "apps/workbench/results/resultpane.h"
 #include "apps/workbench/script/widgettext.h"
 #include "apps/workbench/window/mainwindow.h"
@@ -88,7 +89,7 @@ QImage Picture(TProgram& program) {
 }
 
 void SavePicture(TProgram& program, const QString& file) {
-  if (!Picture(program).save(file, "PNG")) throw EScriptError(QStringLiteral("cannot write %1").arg(file));
+  if (!Reduced(Picture(program)).save(file, "PNG", 0)) throw EScriptError(QStringLiteral("cannot write %1").arg(file));
 }
 
 class TPlayer final : public QObject {
