@@ -81,7 +81,7 @@ std::string BashCall(const TWords& words) {
   return ":";
 }
 
-/// The part of a specification of `_arguments` that says what follows.
+/// How `_arguments` is told what follows.
 std::string ZshAction(const TWords& words) {
   std::string list;
   switch (words.Kind) {
