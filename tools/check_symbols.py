@@ -23,10 +23,10 @@ LIBRARIES = [
 ]
 
 FUNCTIONS = {"FunctionDecl", "CXXMethodDecl", "CXXConstructorDecl", "CXXDestructorDecl", "CXXConversionDecl"}
-# What a compiler makes for a class or function besides its functions.
 # Qt keeps it to the library; linkers mark the ends of a library.
 KEPT_BY_QT = re.compile(r"::qt_static_metacall\(")
 MADE_BY_LINKERS = {"__bss_start", "_edata", "_end", "_init", "_fini"}
+# What a compiler makes for a class or function besides its functions.
 MADE_FOR = re.compile(r"^(?:vtable for|typeinfo for|typeinfo name for|VTT for|construction vtable for|guard variable for|"
                       r"non-virtual thunk to|virtual thunk to|covariant return thunk to) ")
 

@@ -71,9 +71,11 @@ class Site:
         listed = [page for _, pages in PAGES for page in pages]
         self.texts = {}
         for page in listed:
-            if os.path.exists(os.path.join(ROOT, page)):
-                with open(os.path.join(ROOT, page), encoding="utf-8") as file:
-                    self.texts[page] = file.read()
+            if not os.path.exists(os.path.join(ROOT, page)):
+                self.faults.append(f"{page}: in the list of pages of tools/make_docs.py, but there is none")
+                continue
+            with open(os.path.join(ROOT, page), encoding="utf-8") as file:
+                self.texts[page] = file.read()
         for name in sorted(os.listdir(os.path.join(ROOT, "docs"))):
             if name.endswith(".md") and "docs/" + name not in listed:
                 self.faults.append(f"docs/{name}: not in the list of pages of tools/make_docs.py")

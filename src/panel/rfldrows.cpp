@@ -9,12 +9,26 @@
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/panel/rfldrows.h>
 #include <tolvi/query/resultfields.h>
+#include <tolvi/query/resultformula.h>
 #include <tolvi/query/titles.h>
 
 namespace tolvi {
 namespace {
 
 constexpr std::string_view FieldPlace = "@1";
+
+std::string CaptionOf(const TDSField& field, const TRFCaptionStyle& style) {
+  return style.ShowGroupName ? field.GetCompoundName(style.NameSeparator) : field.GetDisplayName();
+}
+
+std::string FormulaWithCaptions(const TResultField& field, const TRFCaptionStyle& style) {
+  const std::vector<TDSField*>& fields = field.DSFields();
+  std::string text;
+  ForEachPlaceholder(
+      field.GetFormula(), fields.size(), [&text](std::string_view literal) { text += literal; },
+      [&](std::size_t index) { text += CaptionOf(*fields[index], style); });
+  return text;
+}
 
 }  // namespace
 
@@ -89,12 +103,14 @@ TRFRowTexts ResultRowTexts(const TResultField& field, std::size_t rowIndex, cons
   texts.After = upperCase(after);
   const TDSField& first = *field.DSFields().front();
   texts.FieldValue = std::to_string(first.GetID());
-  texts.FieldCaption = style.ShowGroupName ? first.GetCompoundName(style.NameSeparator) : first.GetDisplayName();
+  texts.FieldCaption = CaptionOf(first, style);
+  if (field.DSFields().size() > 1) texts.Tip = FormulaWithCaptions(field, style);
   return texts;
 }
 
 std::string ResultRowPhrase(const TRFRowTexts& texts, std::string_view sorting) {
   std::string phrase = texts.Number + ":";
+  if (!texts.Tip.empty()) return phrase.append(" ").append(texts.Tip).append(", ").append(sorting);
   for (const std::string* part : {&texts.Before, &texts.FieldCaption, &texts.After}) {
     if (!part->empty()) phrase.append(" ").append(*part);
   }

@@ -52,6 +52,9 @@ struct TRFRowTexts {
   /// The ID and the caption of the column's first field; none for a column without fields.
   std::optional<std::string> FieldValue;
   std::string FieldCaption, After;
+  /// The whole formula with the captions of its fields, for a tip: the line shows no more than the first field. None
+  /// for a column of fewer than two fields.
+  std::string Tip;
 };
 
 /// How captions of fields are written: with the name of the field's group and this separator, or without.
@@ -63,7 +66,7 @@ struct TRFCaptionStyle {
 /// The texts for the column in that row (counted from 0). `upperCase` is applied to what stands round the field.
 TOLVI_CORE_API TRFRowTexts ResultRowTexts(const TResultField& field, std::size_t rowIndex, const TRFCaptionStyle& style,
                                           const std::function<std::string(std::string_view)>& upperCase);
-/// The row as people read it out: "2: SUM( Total ), Ascending".
+/// The row as people read it out: "2: SUM( Total ), Ascending"; a formula of several fields with all of their captions.
 TOLVI_CORE_API std::string ResultRowPhrase(const TRFRowTexts& texts, std::string_view sorting);
 
 // Where it stands, in pixels

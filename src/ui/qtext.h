@@ -18,6 +18,12 @@ inline std::string FromQString(const QString& text) { return text.toStdString();
 /// The name of a file, as the library takes it on every system.
 inline std::filesystem::path ToPath(const QString& file) { return std::filesystem::path(file.toStdU16String()); }
 
+/// A tool tip that shows `text` as it stands: tips take for markup what looks like it, and wrap nothing else.
+inline QString PlainToolTip(const QString& text) {
+  if (text.isEmpty()) return text;
+  return QStringLiteral("<p style=\"white-space:pre-wrap\">") + text.toHtmlEscaped() + QStringLiteral("</p>");
+}
+
 inline QStringList ToQStringList(const TStrings& lines) {
   QStringList result;
   for (const std::string& line : lines) result << ToQString(line);

@@ -76,6 +76,15 @@ TEST(ResultRows, ShowTheGroupAndAreReadOutAsPhrases) {
   const TRFRowTexts texts = ResultRowTexts(field, 1, {true, " / "}, Upper);
   EXPECT_EQ(texts.FieldCaption, "Money / Total");
   EXPECT_EQ(ResultRowPhrase(texts, "Ascending"), "2: SUM( Money / Total ), Ascending");
+  EXPECT_EQ(texts.Tip, "");
+
+  // The line has place for one field; the others are told by their captions.
+  field.AddDSField(FieldOf(*model, "Orders.SaleDate"));
+  field.SetFormula("sum(@1 * @2) + @1");
+  const TRFRowTexts two = ResultRowTexts(field, 1, {true, " / "}, Upper);
+  EXPECT_EQ(two.After, " * @2) + @1");
+  EXPECT_EQ(two.Tip, "sum(Money / Total * Sale date) + Money / Total");
+  EXPECT_EQ(ResultRowPhrase(two, "Ascending"), "2: " + two.Tip + ", Ascending");
 }
 
 TEST(ResultRows, OfferFieldsByGroupsInTheModelsOrder) {

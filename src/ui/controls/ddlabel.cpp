@@ -13,6 +13,7 @@
 #include <tolvi/ui/controls/ddlabel.h>
 #include <tolvi/ui/controls/ddlabelaccess.h>
 #include <tolvi/ui/controls/wave.h>
+#include <tolvi/ui/qtext.h>
 
 namespace tolvi {
 
@@ -254,9 +255,7 @@ void TDropDownLabel::ShowToolTip(const QPoint& globalPos) {
   const bool cut = fontMetrics().horizontalAdvance(ShownText()) > TextRect().width();
   if (cut || FCaption.contains(u'\n')) lines << FCaption;
   if (lines.isEmpty() && !toolTip().isEmpty()) return QToolTip::showText(globalPos, toolTip(), this);
-  const QString text = lines.join(u'\n').toHtmlEscaped();
-  QToolTip::showText(
-      globalPos, text.isEmpty() ? text : QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(text), this);
+  QToolTip::showText(globalPos, PlainToolTip(lines.join(u'\n')), this);
 }
 
 QString TDropDownLabel::ShownText() const {

@@ -210,7 +210,7 @@ void T_dlgAddTables::ShowLinks() {
       QString text = ToQString(link.Text);
       if (!link.Alias.empty()) text += tr(" - by a further alias of the table, \"%1\"").arg(ToQString(link.Alias));
       auto* item = new QListWidgetItem(text, FLinks);
-      item->setToolTip(text.toHtmlEscaped());
+      item->setToolTip(PlainToolTip(text));
       item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
       item->setCheckState(link.Wanted ? Qt::Checked : Qt::Unchecked);
     }

@@ -70,8 +70,7 @@ void TCheckedLine::ShowFindings() {
   QStringList texts;
   for (const TTextFinding& finding : FFindings) texts << ToQString(finding.Text);
   const QString told = texts.join(u'\n');
-  setToolTip(told.isEmpty() ? QString()
-                            : QStringLiteral("<p>") + told.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+  setToolTip(PlainToolTip(told));
   setAccessibleDescription(told);
   if (FMark == nullptr) {
     if (FFindings.empty()) return;

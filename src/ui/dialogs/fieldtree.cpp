@@ -25,7 +25,7 @@ QStandardItem* MakeItem(const QString& text, Qt::ItemFlags flags) {
   auto* item = new QStandardItem(text);
   item->setFlags(flags);
   item->setData(FoldedForSearch(text), RoleFolded);
-  item->setToolTip(text.toHtmlEscaped());
+  item->setToolTip(PlainToolTip(text));
   return item;
 }
 

@@ -116,7 +116,7 @@ QVariant TFillTableItems::data(const QModelIndex& index, int role) const {
   if (index.column() != ColTable) return {};
   if (role == Qt::CheckStateRole) return StateOf(FWizard.IsTableOn(number));
   if (role == Qt::AccessibleTextRole) return QStringList(texts.begin(), texts.end()).join(QStringLiteral(", "));
-  return role == Qt::ToolTipRole ? texts[column].toHtmlEscaped() : QVariant();
+  return role == Qt::ToolTipRole ? PlainToolTip(texts[column]) : QVariant();
 }
 
 Qt::ItemFlags TFillTableItems::flags(const QModelIndex& index) const {
@@ -239,7 +239,7 @@ QVariant TFillFieldItems::data(const QModelIndex& index, int role) const {
   const TTextFindings findings = Findings(index);
   if (role == TFaultDelegate::WrongRole) return !findings.empty();
   if (!findings.empty()) return ToQString(findings.front().Text);
-  return role == Qt::ToolTipRole ? Text(index).toHtmlEscaped() : QString();
+  return role == Qt::ToolTipRole ? PlainToolTip(Text(index)) : QString();
 }
 
 Qt::ItemFlags TFillFieldItems::flags(const QModelIndex& index) const {
@@ -324,7 +324,7 @@ QVariant TFillLinkItems::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) return text;
   if (role == Qt::AccessibleTextRole)
     return QString(text + QStringLiteral(", ") + JoinWords(link).at(FChoice.LinkType(link)));
-  return role == Qt::ToolTipRole ? text.toHtmlEscaped() : QVariant();
+  return role == Qt::ToolTipRole ? PlainToolTip(text) : QVariant();
 }
 
 Qt::ItemFlags TFillLinkItems::flags(const QModelIndex& index) const {
@@ -385,7 +385,7 @@ QVariant TFillReportItems::data(const QModelIndex& index, int role) const {
   const TKind& kind = FKinds[UpperRow(index)];
   const QString text = IsBelow(index) ? ToQString(kind.Lines[static_cast<std::size_t>(index.row())])
                                       : tr("%1: %2").arg(kind.Title).arg(kind.Lines.Count());
-  return role == Qt::ToolTipRole ? text.toHtmlEscaped() : text;
+  return role == Qt::ToolTipRole ? PlainToolTip(text) : text;
 }
 
 }  // namespace tolvi

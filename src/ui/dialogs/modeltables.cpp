@@ -45,7 +45,7 @@ QStringList FindingsOf(const TDSLink& link) {
 void MarkFindings(QTreeWidgetItem& item, const QStringList& texts) {
   if (texts.isEmpty()) return;
   for (const int column : {0, 2}) item.setData(column, TFaultDelegate::WrongRole, true);
-  for (int column = 0; column < item.columnCount(); ++column) item.setToolTip(column, texts.join(u'\n'));
+  for (int column = 0; column < item.columnCount(); ++column) item.setToolTip(column, PlainToolTip(texts.join(u'\n')));
   item.setData(0, Qt::AccessibleDescriptionRole, texts.join(u'\n'));
 }
 
@@ -277,7 +277,7 @@ void TTablesPage::ShowLinks(const TDSTable* table) {
     item->setText(1, tr(JoinNames[link->GetLinkType()]));
     item->setIcon(1, JoinIcon(link->GetLinkType(), *FLinks));
     item->setText(2, ToQString(link->GetSQLExpr()));
-    item->setToolTip(2, item->text(2));
+    item->setToolTip(2, PlainToolTip(item->text(2)));
     MarkFindings(*item, FindingsOf(*link));
     FLinkIndexes.push_back(static_cast<std::size_t>(model.Links().IndexOf(link)));
   }

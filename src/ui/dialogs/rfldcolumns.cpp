@@ -326,7 +326,7 @@ void TRFColumnsPage::RefreshList() {
     item.setForeground(wrong.isEmpty() ? QBrush() : QBrush(fault));
     item.setData(TFaultDelegate::WrongRole, !wrong.isEmpty());
     const QString shown = column.GetHidden() ? tr("not shown") : tr("shown");
-    item.setToolTip(QString(expression + QStringLiteral(" (") + shown + u')').toHtmlEscaped());
+    item.setToolTip(PlainToolTip(expression + QStringLiteral(" (") + shown + u')'));
     QString text = item.text() + QStringLiteral(", ") + expression + QStringLiteral(", ") + sorting;
     item.setData(Qt::AccessibleTextRole, wrong.isEmpty() ? text : text + QStringLiteral(", ") + wrong);
   }
@@ -362,7 +362,7 @@ void TRFColumnsPage::RefreshFunctions() {
     const auto aggregate = static_cast<TRFAggregate>(FFunctions->id(button));
     const QString fault = ToQString(FEditor.AggregateFault(aggregate));
     button->setEnabled(fault.isEmpty());
-    button->setToolTip(fault);
+    button->setToolTip(PlainToolTip(fault));
     button->setAccessibleDescription(fault);
     const bool isUsed = aggregate == FEditor.GetAggregate();
     button->setChecked(isUsed);

@@ -115,7 +115,7 @@ void TRFSortingPage::ShowRow(int row, std::size_t column) {
   for (const int col : {ColName, ColExpression}) {
     if (FTable->item(row, col) == nullptr) FTable->setItem(row, col, new QTableWidgetItem);
     FTable->item(row, col)->setText(texts[col]);
-    FTable->item(row, col)->setToolTip(texts[col].toHtmlEscaped());
+    FTable->item(row, col)->setToolTip(PlainToolTip(texts[col]));
     FTable->item(row, col)->setData(TFaultDelegate::WrongRole, !FEditor.GetProblem(column).empty());
   }
   if (FTable->cellWidget(row, ColSorting) == nullptr) MakeSortingBox(row);

@@ -74,7 +74,7 @@ int TTitlesModel::GetFaultCount() const {
 
 QVariant TTitlesModel::data(const QModelIndex& index, int role) const {
   // Tool tips are read as rich text.
-  if (role == Qt::ToolTipRole) return TextOf(index, index.column()).toHtmlEscaped();
+  if (role == Qt::ToolTipRole) return PlainToolTip(TextOf(index, index.column()));
   if (role == Qt::AccessibleTextRole && index.column() == ColText && itemFromIndex(index) != nullptr) {
     return QString(TextOf(index, ColKey) + QStringLiteral(": ") + TextOf(index, ColText));
   }

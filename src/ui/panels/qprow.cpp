@@ -227,7 +227,7 @@ void TQPRow::ShowSigns() {
   }
   FButton->setAccessibleDescription(told);
   const bool isElided = std::any_of(FParts.begin(), FParts.end(), [](const TPart& part) { return part.IsElided; });
-  setToolTip(told.isEmpty() && isElided ? FSentence : told);
+  setToolTip(PlainToolTip(told.isEmpty() && isElided ? FSentence : told));
   if (FTriangle == nullptr) return;
   const bool isCollapsed = editor.IsCollapsed(*FRow);
   FTriangle->SetCollapsed(isCollapsed);

@@ -329,7 +329,7 @@ void ShowValue(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& cond
     label.SetCaption(label.GetValue());
   }
   label.SetFault(FaultOfValue(condition, index));
-  label.setToolTip(ToQString(condition.GetHint(index)));
+  label.setToolTip(PlainToolTip(ToQString(condition.GetHint(index))));
 }
 
 void PrepareLabel(TDropDownLabel& label, TQPValueKind kind, const TFilterCond& condition, int index) {

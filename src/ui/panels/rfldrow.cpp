@@ -149,6 +149,9 @@ void TResultFieldRow::Place() {
   FFieldLabel = MakeFieldLabel();
   if (FFieldLabel != nullptr) Watch(*FFieldLabel, rpField);
   FTextLabel2 = MakeTextLabel(FTexts.After);
+  for (const auto& label : {FTextLabel1.get(), FTextLabel2.get()}) {
+    if (label != nullptr) label->setToolTip(PlainToolTip(ToQString(FTexts.Tip)));
+  }
   Arrange();
 }
 

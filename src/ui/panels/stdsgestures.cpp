@@ -276,7 +276,7 @@ void TDesignGestures::Hover(TDesignPoint point) {
   } else if (link) {
     text = ToQString(link->GetLink().GetDisplayName());
   }
-  area.viewport()->setToolTip(text.toHtmlEscaped());
+  area.viewport()->setToolTip(PlainToolTip(text));
 }
 
 bool TDesignGestures::Release(const QMouseEvent& event) {

@@ -62,7 +62,7 @@ void TJStructDesignPanel::ShowHint(TDesignTarget target) {
   const QString text = ToQString(FActionHints.Value(ActionHintKey(FAddLinkStage, target)));
   if (FStaticText->text() == text) return;
   FStaticText->setText(text);
-  FStaticText->setToolTip(text);
+  FStaticText->setToolTip(PlainToolTip(text));
 }
 
 void TJStructDesignPanel::SetCurrentLink(TLinkRep* link) { FCurrentLink = link; }
