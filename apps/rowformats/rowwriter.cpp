@@ -1,5 +1,7 @@
 #include "apps/rowformats/rowwriter.h"
 
+#include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <unordered_set>
 
@@ -9,6 +11,38 @@
 
 namespace tolvi {
 namespace {
+
+/// The number as JSON wants it, with all its digits: databases also write ".5", "1." and "+1". Nothing for any other
+/// text.
+std::optional<std::string> JsonNumber(std::string_view text) {
+  const auto cutDigits = [&text] {
+    const std::string_view digits = text.substr(0, text.find_first_not_of("0123456789"));
+    text.remove_prefix(digits.size());
+    return digits;
+  };
+  // One of these characters, if it comes next.
+  const auto cutOne = [&text](std::string_view characters) {
+    const bool isThere = !text.empty() && characters.find(text.front()) != std::string_view::npos;
+    const std::string_view one = text.substr(0, isThere ? 1 : 0);
+    text.remove_prefix(one.size());
+    return one;
+  };
+  std::string number(cutOne("+-") == "-" ? "-" : "");
+  std::string_view whole = cutDigits();
+  const std::string_view decimals = cutOne(".").empty() ? std::string_view() : cutDigits();
+  if (whole.empty() && decimals.empty()) return {};
+  whole.remove_prefix(std::min(whole.find_first_not_of('0'), whole.size()));
+  number += whole.empty() ? "0" : whole;
+  if (!decimals.empty()) number.append(".").append(decimals);
+  if (const std::string_view exponent = cutOne("eE"); !exponent.empty()) {
+    number.append(exponent).append(cutOne("+-"));
+    const std::string_view digits = cutDigits();
+    if (digits.empty()) return {};
+    number += digits;
+  }
+  if (!text.empty()) return {};
+  return number;
+}
 
 class TCsvWriter final : public TRowWriter {
  public:
@@ -25,7 +59,8 @@ class TCsvWriter final : public TRowWriter {
       if (cell.Kind == svBytes) {
         AddField(HexDigits(cell.Text), true);
       } else {
-        AddField(cell.Text, cell.Kind != svNull);
+        // Readers skip an empty line.
+        AddField(cell.Text, cell.Kind != svNull || cells.size() == 1);
       }
     }
     EndLine();
@@ -83,14 +118,16 @@ class TJsonWriter final : public TRowWriter {
 
  private:
   static void AppendValue(std::string& line, const TCell& cell) {
-    // "Inf" and "NaN" are no numbers in JSON.
-    const bool isNumber = cell.Text.find_first_not_of("0123456789+-.eE") == std::string_view::npos;
     switch (cell.Kind) {
       case svNull:
         line += "null";
         break;
       case svNumber:
-        line += isNumber ? cell.Text : "null";
+        if (const auto number = JsonNumber(cell.Text)) {
+          line += *number;
+        } else {
+          AppendJsonString(line, cell.Text);
+        }
         break;
       case svBoolean:
         line += cell.Text;

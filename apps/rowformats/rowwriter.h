@@ -36,11 +36,12 @@ struct TCsvOptions {
   std::string_view LineEnd = "\n";
   bool ByteOrderMark = false;
 };
-/// RFC 4180, but for the options, with a header line; NULL as an empty field, an empty text as "".
+/// RFC 4180, but for the options, with a header line; NULL as an empty field, an empty text as "". In rows of one
+/// column both are "", as readers take an empty line for none.
 std::unique_ptr<TRowWriter> MakeCsvWriter(std::ostream& out, const TCsvOptions& options = {});
 
-/// An array of objects, one in a line. NULL and what is no number in JSON ("Inf") are null, numbers have the digits
-/// that they come with; equal column names get "_2", "_3".
+/// An array of objects, one in a line. NULL is null. Numbers have the digits that they come with; one that JSON cannot
+/// say ("Inf", "0,5") is a text. Equal column names get "_2", "_3".
 std::unique_ptr<TRowWriter> MakeJsonWriter(std::ostream& out);
 
 /// A table of Markdown with columns as in the table above. What would be markup is escaped, line breaks are <br>.

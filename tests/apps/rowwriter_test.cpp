@@ -57,7 +57,7 @@ TEST(RowWriter, CsvQuotesWhatItMustAndTellsNullFromEmpty) {
 TEST(RowWriter, JsonIsValidWhateverTheTextHolds) {
   EXPECT_EQ(Rows("json", {"a", "a"},
                  {{{svText, "\"\\\n\t\x7F\xC3é"}, {svNumber, "1.5"}}, {{svNull, {}}, {svNumber, "-Inf"}}}),
-            "[\n{\"a\": \"\\\"\\\\\\n\\u0009\\u007f\uFFFDé\", \"a_2\": 1.5},\n{\"a\": null, \"a_2\": null}\n]\n");
+            "[\n{\"a\": \"\\\"\\\\\\n\\u0009\\u007f\uFFFDé\", \"a_2\": 1.5},\n{\"a\": null, \"a_2\": \"-Inf\"}\n]\n");
   EXPECT_EQ(Rows("json", {"a"}, {}), "[\n]\n");
 }
 
@@ -71,6 +71,23 @@ TEST(RowWriter, CsvForSpreadsheetsHasItsOwnSeparatorAndMark) {
 TEST(RowWriter, JsonKeepsBooleansAndAllDigits) {
   EXPECT_EQ(Rows("json", {"a", "b"}, {{{svBoolean, "true"}, {svNumber, "12345678901234567890.10"}}}),
             "[\n{\"a\": true, \"b\": 12345678901234567890.10}\n]\n");
+}
+
+TEST(RowWriter, JsonWritesTheNumbersOfDriversAsItsOwn) {
+  const std::pair<const char*, const char*> cases[] = {
+      {".5", "0.5"},      {"-.50", "-0.50"},      {"+1", "1"},        {"1.", "1"},
+      {"-0", "-0"},       {"1e5", "1e5"},         {"1E+05", "1E+05"}, {".5e-3", "0.5e-3"},
+      {"007", "7"},       {"000.10", "0.10"},     {"0,5", "\"0,5\""}, {"1,234.5", "\"1,234.5\""},
+      {"NaN", "\"NaN\""}, {"", "\"\""},           {".", "\".\""},     {"1e", "\"1e\""},
+      {"--1", "\"--1\""}, {"1.2.3", "\"1.2.3\""}, {"$1", "\"$1\""}};
+  for (const auto& [text, written] : cases) {
+    EXPECT_EQ(Rows("json", {"n"}, {{{svNumber, text}}}), std::string("[\n{\"n\": ") + written + "}\n]\n") << text;
+  }
+}
+
+TEST(RowWriter, CsvOfOneColumnHasALineForEachRow) {
+  EXPECT_EQ(Rows("csv", {"n"}, {{{svNull, {}}}, {{svText, ""}}, {{svNumber, "1"}}}), "n\n\"\"\n\"\"\n1\n");
+  EXPECT_EQ(Rows("csv", {""}, {{{svNull, {}}}}), "\"\"\n\"\"\n");
 }
 
 TEST(RowWriter, MarkdownIsAlignedAndShowsTextsAsTheyAre) {

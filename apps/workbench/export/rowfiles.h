@@ -29,11 +29,13 @@ using TRowFileProgress = std::function<bool(std::size_t rows)>;
 /// Writes rows to a file, by way of a temporary one: a file of that name is replaced at the end, whole or not at all.
 /// False when `progress` stopped it. Nobody may add rows meanwhile. May run in any thread.
 ///
-/// rfCsv           RFC 4180 with a header line, UTF-8; NULL is an empty field, an empty text "".
+/// rfCsv           RFC 4180 with a header line, UTF-8; NULL is an empty field, an empty text "". In a table of one
+/// column
+///                 both are "", as readers take an empty line for none.
 /// rfCsvSemicolon  the same with ";" and a byte order mark at the beginning.
 /// rfTsv           the same as rfCsv with tabs, lines end with LF.
 /// rfJson          an array of objects with the columns in their order; equal names get "_2", "_3". Numbers are written
-///                 as they come from the database, with all their digits.
+///                 with all their digits; one that JSON cannot say ("Inf") is a text.
 /// rfXlsx          one sheet: the head is bold, stays in sight and filters; numbers, dates and booleans are such, but a
 ///                 number of more than 15 digits, which a sheet would round, and a date before 1900 are texts.
 /// rfMarkdown      an aligned table; what would be markup is escaped, line breaks are <br>.
