@@ -15,6 +15,7 @@
 
 #include "apps/workbench/sql/sqledit.h"
 #include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/dialogs/syntaxcaptions.h>
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
@@ -50,14 +51,6 @@ class TToldArea final : public QScrollArea {
 
 }  // namespace
 
-std::vector<TSyntaxCaption> SyntaxCaptions() {
-  return {{ssSQL2, TSqlPane::tr("SQL with JOIN")},
-          {ssSQL1, TSqlPane::tr("SQL with joins in WHERE")},
-          {ssOracle, TSqlPane::tr("Oracle")},
-          {ssAccess, TSqlPane::tr("Access")},
-          {ssNexusDB, TSqlPane::tr("NexusDB")}};
-}
-
 TSqlPane::TSqlPane(QWidget* parent) : QWidget(parent) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
@@ -82,7 +75,7 @@ QWidget* TSqlPane::MakeBar() {
   FSyntax = new QComboBox(bar);
   FSyntax->setObjectName(QStringLiteral("sql.dialect"));
   FSyntax->setToolTip(tr("The SQL syntax in which the statement is written"));
-  for (const TSyntaxCaption& entry : SyntaxCaptions()) FSyntax->addItem(entry.Caption, int{entry.Syntax});
+  for (const auto& [syntax, words] : SyntaxCaptions()) FSyntax->addItem(words, int{syntax});
   FSyntax->setMinimumContentsLength(8);
   FSyntax->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   FSyntax->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

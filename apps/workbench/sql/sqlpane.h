@@ -20,13 +20,6 @@ namespace tolvi {
 
 class TSqlEdit;
 
-/// The SQL syntaxes and how users read them, in the order of a list.
-struct TSyntaxCaption {
-  TSQLSyntax Syntax;
-  QString Caption;
-};
-std::vector<TSyntaxCaption> SyntaxCaptions();
-
 /// Shows the statement of a query, read-only; the syntax in which it is written can be chosen. Controls:
 /// "sql.view", "sql.dialect", "sql.copy", "sql.paste", "sql.told".
 class TSqlPane final : public QWidget {

@@ -4,13 +4,13 @@
 #include <QScrollBar>
 #include <QSplitter>
 #include <QVBoxLayout>
-#include <utility>
 
 #include <tolvi/foundation/errors.h>
 #include <tolvi/panel/modeleditor.h>
 #include <tolvi/query/rowerror.h>
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/dialogs/sqltext.h>
+#include <tolvi/ui/dialogs/syntaxcaptions.h>
 #include <tolvi/ui/dialogs/trypane.h>
 #include <tolvi/ui/panels/querpnlview.h>
 #include <tolvi/ui/panels/rfldpnl.h>
@@ -77,11 +77,7 @@ QWidget* TTryPane::MakeStatement() {
   FSyntax = new QComboBox(this);
   FSyntax->setAccessibleName(tr("SQL syntax"));
   FSyntax->setToolTip(tr("The SQL syntax in which the statement is written"));
-  for (const auto& [caption, syntax] :
-       {std::pair(tr("SQL with JOIN"), ssSQL2), std::pair(tr("SQL with joins in WHERE"), ssSQL1),
-        std::pair(tr("Oracle"), ssOracle), std::pair(tr("Access"), ssAccess), std::pair(tr("NexusDB"), ssNexusDB)}) {
-    FSyntax->addItem(caption, int{syntax});
-  }
+  for (const auto& [syntax, caption] : SyntaxCaptions()) FSyntax->addItem(caption, int{syntax});
   connect(FSyntax, &QComboBox::currentIndexChanged, this, [this] {
     FPanel.SetSQLSyntax(static_cast<TSQLSyntax>(FSyntax->currentData().toInt()));
     Refresh();
