@@ -5,7 +5,6 @@
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -16,6 +15,7 @@
 #include "apps/workbench/results/resultpane.h"
 #include "apps/workbench/sql/sqlpane.h"
 #include "apps/workbench/store/storepane.h"
+#include "apps/workbench/window/askchoice.h"
 #include "apps/workbench/window/faultfinder.h"
 #include "apps/workbench/window/languages.h"
 #include "apps/workbench/window/notebar.h"
@@ -30,21 +30,10 @@ namespace {
 enum TLeaving : std::uint8_t { lvSave, lvDiscard, lvStay };
 
 TLeaving AskToLeave(QWidget* parent, const QString& question, const QString& save, const QString& discard) {
-  QMessageBox box(QMessageBox::Question, QGuiApplication::applicationDisplayName(), question, QMessageBox::NoButton,
-                  parent);
-  box.setObjectName(QStringLiteral("ask"));
-  const auto add = [&box](const QString& name, const QString& caption, QMessageBox::ButtonRole role) {
-    QPushButton* button = box.addButton(caption, role);
-    button->setObjectName(name);
-    return button;
-  };
-  QPushButton* saveButton = add(QStringLiteral("ask.save"), save, QMessageBox::AcceptRole);
-  QPushButton* discardButton = add(QStringLiteral("ask.discard"), discard, QMessageBox::DestructiveRole);
-  box.setEscapeButton(add(QStringLiteral("ask.cancel"), QMessageBox::tr("Cancel"), QMessageBox::RejectRole));
-  box.setDefaultButton(saveButton);
-  box.exec();
-  if (box.clickedButton() == saveButton) return lvSave;
-  return box.clickedButton() == discardButton ? lvDiscard : lvStay;
+  const auto answer = AskChoice(parent, QStringLiteral("ask"), question,
+                                {{QStringLiteral("save"), save}, {QStringLiteral("discard"), discard}});
+  if (!answer) return lvStay;
+  return *answer == 0 ? lvSave : lvDiscard;
 }
 
 }  // namespace
