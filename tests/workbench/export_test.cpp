@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
@@ -99,9 +100,11 @@ TEST_F(RowFiles, ASpreadsheetHoldsValuesAsTheirKind) {
   }
   EXPECT_FALSE(sheet.contains(QStringLiteral("r=\"B5\"")));
   const QString styles = Part("xl/styles.xml");
-  for (const char* format : {"\"0.00\"", "yyyy-mm-dd\"", "yyyy-mm-dd hh:mm:ss\"", "\"hh:mm:ss.000\""}) {
-    EXPECT_TRUE(styles.contains(QLatin1String(format)) || QLatin1String(format) == QLatin1String("\"0.00\"")) << format;
+  for (const char* format : {"\"yyyy-mm-dd\"", "\"yyyy-mm-dd hh:mm:ss\"", "\"hh:mm:ss.000\""}) {
+    EXPECT_TRUE(styles.contains(QLatin1String(format))) << format;
   }
+  // Sheets know "0.00" as number 2, and some versions of the library write that.
+  EXPECT_TRUE(styles.contains(QStringLiteral("\"0.00\"")) || styles.contains(QStringLiteral("numFmtId=\"2\"")));
 }
 
 TEST_F(RowFiles, WhatASheetCannotHoldIsToldAndTheOldFileStays) {
@@ -203,15 +206,15 @@ TEST_F(RowFiles, TheDialogRemembersFolderAndFormatAndTellsWhatFails) {
     });
   };
   choose({}, {});
-  EXPECT_TRUE(ExportRows(nullptr, Sample, {}, QStringLiteral("a/b"), memory));
+  EXPECT_EQ(ExportRows(nullptr, Sample, {}, QStringLiteral("a/b"), memory), Path("a_b.md"));
   EXPECT_EQ(Content(Path("a_b.md")).substr(0, 3), "| a");
   choose(QStringLiteral("other"), QStringLiteral("JSON (*.json)"));
-  EXPECT_TRUE(ExportRows(nullptr, Sample, {}, QString(), memory));
+  EXPECT_EQ(ExportRows(nullptr, Sample, {}, QString(), memory), Path("other.json"));
   EXPECT_EQ(Content(Path("other.json")).substr(0, 2), "[\n");
   EXPECT_EQ(stored[QStringLiteral("export.format")].toInt(), int{rfJson});
   // The end of a typed name counts.
   choose(QStringLiteral("typed.csv"), {});
-  EXPECT_TRUE(ExportRows(nullptr, Sample, {}, QString(), memory));
+  EXPECT_EQ(ExportRows(nullptr, Sample, {}, QString(), memory), Path("typed.csv"));
   EXPECT_EQ(Content(Path("typed.csv")).substr(0, 4), "a,b;");
 
   QString told;
@@ -228,18 +231,19 @@ TEST_F(RowFiles, TheDialogRemembersFolderAndFormatAndTellsWhatFails) {
 }
 
 TEST_F(RowFiles, WhatTakesLongShowsProgressAndCanBeStopped) {
-  const auto rows = CountedResult(1'000'000);
+  // As many as a sheet holds: packing them takes seconds.
+  const auto rows = CountedResult(1'048'575);
   bool isShown = false;
   QTimer look;
   QObject::connect(&look, &QTimer::timeout, &look, [&isShown] {
     auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || dialog->value() <= 0) return;
     isShown = true;
+    EXPECT_EQ(dialog->findChild<QLabel*>()->textFormat(), Qt::PlainText) << dialog->labelText().toStdString();
     QTest::keyClick(dialog, Qt::Key_Escape);
   });
   look.start(20);
-  const bool isWritten = ExportRowsTo(nullptr, rows, {}, Path("long.md"), rfMarkdown);
-  if (isWritten) GTEST_SKIP() << "too quick to be stopped";
+  EXPECT_FALSE(ExportRowsTo(nullptr, rows, {}, Path("<img src=x>.xlsx"), rfXlsx));
   EXPECT_TRUE(isShown);
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
 }

@@ -29,12 +29,13 @@ inline TBoundStatement EndlessRows() { return Statement(Numbers("SELECT i FROM n
 /// Computes without an end, and gives no row.
 inline TBoundStatement EndlessWork() { return Statement(Numbers("SELECT count(*) FROM n")); }
 
-/// Rows of texts and kinds; a text of "-" is NULL.
+/// Cells row by row.
 inline std::shared_ptr<TResultRows> Rows(std::vector<std::string> columns,
-                                         std::initializer_list<std::pair<TSqlValueKind, const char*>> cells) {
+                                         std::initializer_list<std::pair<TSqlValueKind, const char*>> cells,
+                                         TKnownColumns known = {}) {
   TRowBlock block(columns.size());
   for (const auto& [kind, text] : cells) block.Add(kind, text);
-  auto rows = std::make_shared<TResultRows>(std::move(columns));
+  auto rows = std::make_shared<TResultRows>(std::move(columns), std::move(known));
   rows->Append(std::move(block));
   return rows;
 }

@@ -85,6 +85,25 @@ TEST(CellText, WritesValuesInTheMannerOfALocale) {
   EXPECT_EQ(german.Whole({svText, lots}).size(), 5000);
 }
 
+TEST(CellText, GivesTheNumbersOfAColumnTheSameDecimals) {
+  const auto shown = [](TFieldType type, std::initializer_list<std::pair<TSqlValueKind, const char*>> cells) {
+    const auto column = Rows({"c"}, cells, {{type}});
+    const TCellText german(QLocale(QLocale::German, QLocale::Germany));
+    std::string lines;
+    for (std::size_t i = 0; i < column->GetRowCount(); ++i) {
+      lines += german.Line(column->Cell(i, 0), ShownDecimals(*column, 0)).toStdString() + " ";
+    }
+    return lines;
+  };
+  EXPECT_EQ(shown(ftCurrency, {{svNumber, "47818.9"}, {svNumber, "-3"}, {svNull, ""}, {svNumber, "1."}}),
+            "47818,90 -3,00 NULL 1,00 ");
+  EXPECT_EQ(shown(ftCurrency, {{svNumber, "1.125"}, {svNumber, "2.5"}}), "1,125 2,500 ");
+  EXPECT_EQ(shown(ftBCD, {{svNumber, "4"}, {svNumber, "4.5"}, {svNumber, "1e3"}, {svNumber, "NaN"}, {svText, "n/a"}}),
+            "4,0 4,5 1e3 NaN n/a ");
+  EXPECT_EQ(shown(ftBCD, {{svNumber, "3.33333333"}, {svNumber, "4.5"}}), "3,33333333 4,5 ") << "nothing is cut";
+  EXPECT_EQ(shown(ftFloat, {{svNumber, "0.25"}, {svNumber, "4"}}), "0,25 4 ");
+}
+
 /// 200 customers: a number, a name that comes twice, a text or NULL.
 std::shared_ptr<TResultRows> Customers(int count = 200) {
   TRowBlock block(3);
@@ -203,6 +222,50 @@ TEST_F(ResultGrid, KeepsWidthsAndSortingForTheSameColumns) {
   EXPECT_NE(grid->columnWidth(1), 177);
   EXPECT_FALSE(grid->isColumnHidden(2));
   EXPECT_EQ(grid->Model().GetSortColumn(), -1);
+}
+
+TEST_F(ResultGrid, MeasuresWidthsOnRowsUnlessTheUserGaveThem) {
+  const std::vector<std::string> names{"Id", "Word"};
+  const auto wide = [&] { return Rows(names, {{svText, "a long text in it"}, {svText, "a longer text in that one"}}); };
+  Show(std::make_shared<TResultRows>(names));
+  const int narrow = grid->columnWidth(1);
+  QHeaderView& head = *grid->horizontalHeader();
+  const auto mouse = [&](int x) { return head.viewport()->mapTo(&window, QPoint(x, 5)); };
+  const int border = head.sectionViewportPosition(0) + head.sectionSize(0) - 1;
+  QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, mouse(border));
+  QTest::mouseMove(window.windowHandle(), mouse(border + 10));
+  QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, mouse(border + 10));
+  const int dragged = grid->columnWidth(0);
+  ASSERT_EQ(dragged, border + 11);
+  Show(wide());
+  EXPECT_EQ(grid->columnWidth(0), dragged);
+  const int fitted = grid->columnWidth(1);
+  EXPECT_GT(fitted, 2 * narrow);
+  // Measured on rows, they stay: without rows and with shorter ones.
+  Show(std::make_shared<TResultRows>(names));
+  EXPECT_EQ(grid->columnWidth(1), fitted);
+  Show(Rows(names, {{svText, "a"}, {svText, "b"}}));
+  EXPECT_EQ(grid->columnWidth(1), fitted);
+  Choose(*grid->MakeColumnMenu(0), "results.fitColumns");
+  EXPECT_LT(grid->columnWidth(0), dragged);
+  EXPECT_LT(grid->columnWidth(1), fitted);
+}
+
+TEST_F(ResultGrid, ShowsMoneyWithItsDecimalsAndCopiesWhatTheDatabaseGave) {
+  const auto rows =
+      std::make_shared<TResultRows>(std::vector<std::string>{"Sum"}, TKnownColumns{{ftCurrency, "Total"}});
+  grid->SetRows(rows);
+  for (const char* text : {"12.5", "3", "0.125"}) {
+    TRowBlock block(1);
+    block.Add(svNumber, text);
+    grid->Model().Append(std::move(block));
+    EXPECT_EQ(Text(0, 0).toStdString(), text == std::string_view("0.125") ? "12.500" : "12.50");
+  }
+  grid->Model().SetComplete();
+  EXPECT_EQ(grid->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Total"));
+  grid->selectAll();
+  grid->Copy(false);
+  EXPECT_EQ(Clipboard().toStdString(), "12.5\n3\n0.125\n");
 }
 
 TEST_F(ResultGrid, CopiesWhatIsSelectedAsTextAndHtml) {

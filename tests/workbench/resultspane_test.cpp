@@ -70,13 +70,17 @@ TEST_F(ResultPane, ShowsRowsAndSaysHowMany) {
   ASSERT_NE(pane->GetRows(), nullptr);
   EXPECT_EQ(pane->GetRows()->GetRowCount(), 226U);
   EXPECT_TRUE(pane->GetOrder()->empty());
-  EXPECT_FALSE(pane->IsPreview() || pane->IsRunning());
+  EXPECT_EQ(pane->GetExtent(), exWhole);
+  EXPECT_FALSE(pane->IsRunning());
   EXPECT_TRUE(pane->Grid().isVisible());
   Run(Statement("SELECT OrderID FROM Orders"), 1200);
   EXPECT_EQ(StatusWords(), "First 1,200 rows");
+  EXPECT_EQ(pane->GetExtent(), exMost);
   Preview(Statement("SELECT OrderID FROM Orders"));
   EXPECT_EQ(StatusWords(), "First 100 rows");
-  EXPECT_TRUE(pane->IsPreview());
+  EXPECT_EQ(pane->GetExtent(), exBeginning);
+  Preview(Statement("SELECT OrderID FROM Orders LIMIT 100"));
+  EXPECT_EQ(pane->GetExtent(), exWhole) << "as many as are shown, and no more";
   Run(Statement("SELECT OrderID FROM Orders WHERE 1 = 0"));
   EXPECT_EQ(StatusWords(), "No rows");
   EXPECT_TRUE(pane->Grid().isVisible()) << "the columns can be seen";
@@ -114,6 +118,7 @@ TEST_F(ResultPane, StopsByEscapeAndRunsByF5) {
   EXPECT_LT(timer.elapsed(), 500);
   EXPECT_EQ(ends, 1);
   EXPECT_TRUE(Status().starts_with("Stopped after ")) << Status();
+  EXPECT_EQ(pane->GetExtent(), exBeginning);
   const std::size_t count = pane->GetRows()->GetRowCount();
   QTest::qWait(100);
   EXPECT_EQ(pane->GetRows()->GetRowCount(), count) << "rows that came too late are dropped";

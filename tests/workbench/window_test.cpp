@@ -1,6 +1,9 @@
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTemporaryDir>
 #include <QTest>
@@ -8,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include "apps/workbench/export/chartpane.h"
 #include "apps/workbench/results/resultpane.h"
 #include "apps/workbench/script/widgettext.h"
 #include "apps/workbench/sql/sqlpane.h"
@@ -46,6 +50,14 @@ class Workbench : public testing::Test {
   QString Shown(const char* name) {
     const auto* widget = Window().findChild<QWidget*>(QLatin1String(name));
     return widget == nullptr || !widget->isVisible() ? QString() : TextOf(*widget);
+  }
+  /// Takes the file that is proposed, in the next dialog that asks for one.
+  void TakeFile() {
+    QTimer::singleShot(0, &Window(), [this] {
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return TakeFile();
+      QTest::keyClick(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
+    });
   }
   /// Clicks the button in the dialog that opens next.
   void Answer(const char* button) {
@@ -139,6 +151,65 @@ TEST_F(Workbench, RunsForAllRowsAndLeavesNoneUnderAnotherQuery) {
   Wait([this] { return Window().ResultPane().GetRows() && !Window().ResultPane().IsRunning(); }, "rows");
   EXPECT_GT(Window().ResultPane().GetRows()->GetRowCount(), 3U);
   EXPECT_FALSE(Shown("results.status").contains(QStringLiteral("First"))) << Shown("results.status").toStdString();
+}
+
+TEST_F(Workbench, ExportsTheFirstRowsOnlyIfTheUserWantsThemAndSaysWhere) {
+  const auto shown = [this] { return Window().ResultPane().GetRows()->GetRowCount(); };
+  const auto refresh = [&](int previewRows, const char* query) {
+    FProgram->Settings().PreviewRows = previewRows;
+    TJStoredQueryBase& store = Window().GetWorkspace()->Store();
+    const auto before = Window().ResultPane().GetRows();
+    store.SetItemIndex(store.IndexByName(query));
+    Wait([&] { return Window().ResultPane().GetRows() != before && !Window().ResultPane().IsRunning(); }, query);
+  };
+  auto* exported = Window().findChild<QAction*>(QStringLiteral("database.export"));
+  refresh(3, "Best customers");
+  ASSERT_EQ(shown(), 3U);
+  Answer("rows.cancel");
+  exported->trigger();
+  EXPECT_EQ(FAnswered.section(u'\n', 0, 0),
+            QStringLiteral("Only the first 3 rows are here. Run the query first to have all of them."));
+
+  // These rows.
+  FProgram->Settings().ExportFolder = FHome.path();
+  Answer("rows.take");
+  TakeFile();
+  exported->trigger();
+  const QString file = FHome.filePath(QStringLiteral("Best customers.csv"));
+  EXPECT_EQ(Shown("status"), QStringLiteral("3 rows are in %1.").arg(file));
+  EXPECT_TRUE(QFile::exists(file));
+
+  // All rows; nothing is asked then.
+  Answer("rows.run");
+  exported->trigger();
+  Wait([&] { return shown() > 3 && !Window().ResultPane().IsRunning(); }, "all rows");
+  const std::size_t all = shown();
+  EXPECT_TRUE(QFile::remove(file));
+  TakeFile();
+  exported->trigger();
+  EXPECT_EQ(Shown("status"), QStringLiteral("%1 rows are in %2.").arg(all).arg(file));
+
+  // A run that is limited does not help.
+  FProgram->Settings().MaxRows = 2;
+  Window().ResultPane().OnRunRequest();
+  Wait([&] { return shown() == 2 && !Window().ResultPane().IsRunning(); }, "two rows");
+  Answer("rows.run");
+  exported->trigger();
+  EXPECT_EQ(FAnswered, QStringLiteral("no such button"));
+}
+
+TEST_F(Workbench, DrawsAllRowsOnDemandAndStaysAtTheChart) {
+  FProgram->Settings().PreviewRows = 3;
+  TJStoredQueryBase& store = Window().GetWorkspace()->Store();
+  store.SetItemIndex(store.IndexByName("Best customers"));
+  Wait([this] { return Window().ResultPane().GetExtent() == exBeginning; }, "first rows");
+  Window().findChild<QAction*>(QStringLiteral("view.chart"))->trigger();
+  EXPECT_EQ(Shown("chart.y"), QStringLiteral("Turnover")) << "the customers' numbers are keys";
+  Wait([this] { return Shown("chart.told") == QStringLiteral("Only the first 3 rows have been read."); }, "told");
+  QTest::mouseClick(Window().findChild<QAbstractButton*>(QStringLiteral("chart.readall")), Qt::LeftButton);
+  Wait([this] { return Window().ChartPane().isVisible() && Window().ChartPane().GetData().Values.size() > 3; }, "all");
+  Wait([this] { return Shown("chart.readall").isEmpty(); }, "no more");
+  EXPECT_TRUE(Shown("chart.told").isEmpty()) << Shown("chart.told").toStdString();
 }
 
 TEST_F(Workbench, KeepsTheSourceOpenWhenAnotherCannotBeOpened) {

@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <optional>
 
 #include "apps/workbench/results/celltext.h"
+#include <tolvi/foundation/text.h>
 
 namespace tolvi {
 namespace {
@@ -16,8 +18,8 @@ struct TTexts {
   Q_DECLARE_TR_FUNCTIONS(tolvi::TChartData)
 };
 
-/// How many rows tell what a column holds.
-constexpr std::size_t SampledRows = 200;
+/// Last words of the names of keys.
+constexpr std::string_view KeyWords[] = {"id", "key", "no", "nr"};
 
 std::optional<double> NumberOf(const TCellView& cell) {
   double value = 0;
@@ -29,10 +31,24 @@ std::optional<double> NumberOf(const TCellView& cell) {
 
 /// The kind of the first value that is not NULL.
 TSqlValueKind KindOf(const TResultRows& rows, std::size_t column) {
-  for (std::size_t row = 0; row < std::min(rows.GetRowCount(), SampledRows); ++row) {
+  for (std::size_t row = 0; row < std::min(rows.GetRowCount(), RowsLookedInto); ++row) {
     if (const TCellView cell = rows.Cell(row, column); cell.Kind != svNull) return cell.Kind;
   }
   return svNull;
+}
+
+/// Whether the last word is one of those: "order_id", "OrderID", "Order no", but not "Paid".
+bool IsCalledLikeKey(std::string_view name) {
+  const auto isUpper = [name](std::size_t i) { return name[i] >= 'A' && name[i] <= 'Z'; };
+  const auto isLetter = [&](std::size_t i) { return isUpper(i) || (name[i] >= 'a' && name[i] <= 'z'); };
+  std::size_t begin = name.size();
+  while (begin > 0 && isLetter(begin - 1)) {
+    const bool isHump = begin < name.size() && isUpper(begin) && !isUpper(begin - 1);
+    if (isHump) break;
+    --begin;
+  }
+  const std::string word = AsciiLower(name.substr(begin));
+  return std::find(std::begin(KeyWords), std::end(KeyWords), word) != std::end(KeyWords);
 }
 
 void Tell(TChartData& data, TChartKind kind, std::size_t rows) {
@@ -87,8 +103,13 @@ TChartColumns SuggestedColumns(const TResultRows& rows) {
     if (kind == svText || kind == svDate || kind == svTime || kind == svDateTime) columns.X = static_cast<int>(i);
   }
   if (columns.X < 0 && !rows.Columns().empty()) columns.X = 0;
+  int bestRank = 0;
   for (const std::size_t number : numbers) {
-    if (columns.Y < 0 || columns.Y == columns.X) columns.Y = static_cast<int>(number);
+    const bool isKey = rows.Known(number).IsKey || IsCalledLikeKey(rows.Columns()[number]);
+    const int rank = static_cast<int>(number) == columns.X ? 0 : isKey ? 1 : 2;
+    if (rank < bestRank) continue;
+    bestRank = rank;
+    columns.Y = static_cast<int>(number);
   }
   return columns;
 }

@@ -30,8 +30,9 @@ constexpr std::size_t MaxBars = 60, MaxLinePoints = 500;
 
 TChartData MakeChartData(const TSortedRows& rows, std::size_t x, std::size_t y, TChartKind kind);
 
-/// The columns to begin with: the first that holds texts, dates or times; the first that holds numbers but no x. By the
-/// first rows that are not NULL. -1 for none.
+/// The columns to begin with: the first that holds texts, dates or times; the last that holds numbers, if there is one
+/// neither the x nor a key, known as one or called like one ("Customer no", "OrderID"). By the first rows that are not
+/// NULL. -1 for none.
 struct TChartColumns {
   int X = -1, Y = -1;
 };

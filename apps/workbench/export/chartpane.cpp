@@ -84,12 +84,7 @@ TChartPane::TChartPane(QWidget* parent) : QWidget(parent) {
   FView->setFrameShape(QFrame::StyledPanel);
   FView->setMinimumSize(20 * fontMetrics().averageCharWidth(), 8 * fontMetrics().lineSpacing());
   layout->addWidget(FView, 1);
-  FTold = new QLabel(this);
-  FTold->setObjectName(QStringLiteral("chart.told"));
-  FTold->setTextFormat(Qt::PlainText);
-  FTold->setWordWrap(true);
-  FTold->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  layout->addWidget(FTold);
+  layout->addWidget(MakeTold());
   FTimer.setSingleShot(true);
   FTimer.setInterval(Delay);
   connect(&FTimer, &QTimer::timeout, this, &TChartPane::Draw);
@@ -133,10 +128,31 @@ QWidget* TChartPane::MakeBar() {
   return bar;
 }
 
-void TChartPane::SetRows(std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order) {
+QWidget* TChartPane::MakeTold() {
+  auto* line = new QWidget(this);
+  FTold = new QLabel(line);
+  FTold->setObjectName(QStringLiteral("chart.told"));
+  FTold->setTextFormat(Qt::PlainText);
+  FTold->setWordWrap(true);
+  FTold->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  FReadAll = new QPushButton(tr("Read &all rows"), line);
+  FReadAll->setObjectName(QStringLiteral("chart.readall"));
+  FReadAll->setAutoDefault(false);
+  connect(FReadAll, &QPushButton::clicked, this, [this] {
+    if (OnReadAll) OnReadAll();
+  });
+  auto* layout = new QHBoxLayout(line);
+  layout->setContentsMargins({});
+  layout->addWidget(FTold, 1);
+  layout->addWidget(FReadAll);
+  return line;
+}
+
+void TChartPane::SetRows(std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order, TExtent extent) {
   const bool isSame = rows && FRows && rows->Columns() == FRows->Columns() && GetY() >= 0;
   FRows = std::move(rows);
   FOrder = std::move(order);
+  FExtent = extent;
   if (!isSame) FillColumns();
   Changed();
 }
@@ -268,7 +284,7 @@ void TChartPane::AddAxes(QChart& chart, QAbstractSeries& series, double first, d
     // One that would reach over the right end is left out.
     const double behind = (last - i) * room / (last - first);
     if (i > 0 && behind < width / 2.0 - 2 * air) break;
-    across->append(labels[i], i);
+    across->append(labels[i].toHtmlEscaped(), i);
   }
   chart.addAxis(across, Qt::AlignBottom);
   series.attachAxis(across);
@@ -280,7 +296,9 @@ void TChartPane::AddAxes(QChart& chart, QAbstractSeries& series, double first, d
 void TChartPane::ShowPoint(bool isOn, int index) {
   if (!isOn || index < 0 || static_cast<std::size_t>(index) >= FData.Values.size()) return QToolTip::hideText();
   const QString value = QLocale().toString(FData.Values[static_cast<std::size_t>(index)], 'g', 12);
-  QToolTip::showText(QCursor::pos(), QStringLiteral("%1: %2").arg(FData.Labels[index], value).toHtmlEscaped(), FView);
+  // What has no tag would be shown as it is, with the signs that stand for others.
+  const QString words = QStringLiteral("%1: %2").arg(FData.Labels[index], value).toHtmlEscaped();
+  QToolTip::showText(QCursor::pos(), QStringLiteral("<p>%1</p>").arg(words), FView);
 }
 
 void TChartPane::Dress(QChart& chart) {
@@ -305,17 +323,25 @@ void TChartPane::Dress(QChart& chart) {
   for (QAbstractAxis* axis : chart.axes(Qt::Horizontal)) axis->setGridLineVisible(false);
 }
 
+QString TChartPane::ToldOf(const TChartData& data) const {
+  if (!FRows || FRows->GetRowCount() == 0) return tr("There are no rows to draw.");
+  if (GetY() < 0) return tr("There is no column of numbers to draw.");
+  QStringList told;
+  if (FExtent != exWhole) {
+    told << tr("Only the first %Ln rows have been read.", nullptr, static_cast<int>(FRows->GetRowCount()));
+  }
+  if (data.Values.empty()) told << tr("The column \"%1\" holds no numbers.").arg(YName());
+  if (!data.Told.isEmpty()) told << data.Told;
+  return told.join(u' ');
+}
+
 void TChartPane::Tell() {
   const TChartData& data = GetData();
-  QString told = data.Told;
-  if (!FRows || FRows->GetRowCount() == 0) {
-    told = tr("There are no rows to draw.");
-  } else if (GetY() < 0) {
-    told = tr("There is no column of numbers to draw.");
-  } else if (data.Values.empty()) {
-    told = tr("The column \"%1\" holds no numbers.").arg(YName());
-  }
+  const QString told = ToldOf(data);
   FTold->setText(told);
+  const bool canReadAll = FExtent == exBeginning && FRows && FRows->GetRowCount() > 0 && GetY() >= 0;
+  if (!canReadAll && FReadAll->hasFocus()) FView->setFocus();
+  FReadAll->setVisible(canReadAll);
   FTold->setVisible(!told.isEmpty());
   if (data.Values.empty()) return FView->setAccessibleDescription(told);
   const auto [least, most] = std::minmax_element(data.Values.begin(), data.Values.end());
@@ -385,6 +411,7 @@ void TChartPane::SaveByDialog() {
     SaveTo(file);
   } catch (const EFileError& error) {
     QMessageBox box(QMessageBox::Critical, tr("Save picture"), ToQString(error.Message()), QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
     box.exec();
   }
 }

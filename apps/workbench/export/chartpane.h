@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,7 +22,7 @@ class QPushButton;
 namespace tolvi {
 
 /// A chart of two columns of a result, as bars or a line. Colours are those of the palette. Controls: "chart.kind",
-/// "chart.x", "chart.y", "chart.copy", "chart.save", "chart.view", "chart.told".
+/// "chart.x", "chart.y", "chart.copy", "chart.save", "chart.view", "chart.told", "chart.readall".
 class TChartPane final : public QWidget {
   Q_OBJECT
 
@@ -31,8 +32,11 @@ class TChartPane final : public QWidget {
 
   /// The rows to draw and their order as in `TSortedRows`; null for none. Nobody may add to them afterwards. The
   /// columns that the user chose stay chosen when the names of all columns are the same as before. Drawn while it can
-  /// be seen.
-  void SetRows(std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order = {});
+  /// be seen. Rows that are not all are told, and those of `exBeginning` with a button.
+  void SetRows(std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order = {},
+               TExtent extent = exWhole);
+  /// That button: the user wants all rows.
+  std::function<void()> OnReadAll;
   /// Above the chart, and the proposed name of its file.
   void SetTitle(const QString& title);
   /// Where the folder of pictures is remembered, as "chart.folder".
@@ -61,6 +65,8 @@ class TChartPane final : public QWidget {
 
  private:
   QWidget* MakeBar();
+  QWidget* MakeTold();
+  QString ToldOf(const TChartData& data) const;
   void FillColumns();
   void Changed();
   void Draw();
@@ -74,6 +80,7 @@ class TChartPane final : public QWidget {
 
   std::shared_ptr<const TResultRows> FRows;
   std::vector<std::uint32_t> FOrder;
+  TExtent FExtent = exWhole;
   QString FTitle;
   TMemory FMemory;
   TChartData FData;
@@ -87,6 +94,7 @@ class TChartPane final : public QWidget {
   QPushButton* FSave = nullptr;
   QChartView* FView = nullptr;
   QLabel* FTold = nullptr;
+  QPushButton* FReadAll = nullptr;
 };
 
 }  // namespace tolvi

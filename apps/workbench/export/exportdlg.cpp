@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTimer>
@@ -71,6 +72,7 @@ class TExportWait final {
     QProgressDialog dialog(TTexts::tr("Writing \"%1\"...").arg(QFileInfo(file).fileName()), TTexts::tr("Stop"), 0,
                            count, parent);
     dialog.setObjectName(QStringLiteral("export.progress"));
+    for (auto* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
     dialog.setWindowTitle(TTexts::tr("Export rows"));
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.setAutoReset(false);
@@ -118,12 +120,12 @@ bool ExportRowsTo(QWidget* parent, std::shared_ptr<const TResultRows> rows, std:
   return wait.IsWritten();
 }
 
-bool ExportRows(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order,
-                const QString& suggestedName, const TMemory& memory) {
-  if (!rows) return false;
+QString ExportRows(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order,
+                   const QString& suggestedName, const TMemory& memory) {
+  if (!rows) return {};
   const std::vector<TRowFileKind> kinds = RowFileKinds();
   const QVariant folder = memory.Get ? memory.Get(QStringLiteral("export.folder")) : QVariant();
-  const QVariant format = memory.Get ? memory.Get(QStringLiteral("export.format")) : QVariant();
+  const QVariant remembered = memory.Get ? memory.Get(QStringLiteral("export.format")) : QVariant();
   QFileDialog dialog(parent, TTexts::tr("Export rows"), folder.toString());
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   QStringList filters;
@@ -135,17 +137,18 @@ bool ExportRows(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::v
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                    [&dialog, &chosen] { dialog.setDefaultSuffix(chosen().Suffix); });
   for (const TRowFileKind& kind : kinds) {
-    if (format.isValid() && kind.Format == format.toInt()) dialog.selectNameFilter(FilterOf(kind));
+    if (remembered.isValid() && kind.Format == remembered.toInt()) dialog.selectNameFilter(FilterOf(kind));
   }
   dialog.setDefaultSuffix(chosen().Suffix);
   dialog.selectFile(FileNameOf(suggestedName));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   const QString file = dialog.selectedFiles().constFirst();
   if (memory.Set) {
     memory.Set(QStringLiteral("export.folder"), QFileInfo(file).absolutePath());
     memory.Set(QStringLiteral("export.format"), int{chosen().Format});
   }
-  return ExportRowsTo(parent, std::move(rows), std::move(order), file, FormatOf(file, chosen()));
+  const TRowFileFormat format = FormatOf(file, chosen());
+  return ExportRowsTo(parent, std::move(rows), std::move(order), file, format) ? file : QString();
 }
 
 }  // namespace tolvi

@@ -19,13 +19,13 @@ struct TMemory {
   std::function<void(const QString& key, const QVariant& value)> Set;
 };
 
-/// Asks for a file and a format and writes the rows to it, with a progress dialog when that takes a while. Whether the
-/// file was written; what fails is told in a message box. Remembers folder and format as "export.folder" and
-/// "export.format". The rows must be complete: nobody adds to them meanwhile.
-bool ExportRows(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order,
-                const QString& suggestedName, const TMemory& memory = {});
+/// Asks for a file and a format and writes the rows to it, with a progress dialog when that takes a while. The file;
+/// empty when none was written. What fails is told in a message box. Remembers folder and format as "export.folder" and
+/// "export.format". Nobody may add to the rows meanwhile.
+QString ExportRows(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order,
+                   const QString& suggestedName, const TMemory& memory = {});
 
-/// The part behind the choice of the file.
+/// The part behind the choice of the file. Whether it was written.
 bool ExportRowsTo(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order,
                   const QString& file, TRowFileFormat format);
 

@@ -72,11 +72,12 @@ class TTablePages final {
     const std::size_t columns = FRows.Rows.Columns().size();
     const int most = std::max(4 * FAir, static_cast<int>(FPage.width() * MostOfPage));
     for (std::size_t i = 0; i < columns; ++i) {
+      FDecimals.push_back(ShownDecimals(FRows.Rows, i));
       int width = bold.horizontalAdvance(ToQString(FRows.Rows.Columns()[i]));
       TSqlValueKind kind = svNull;
       for (std::size_t row = 0; row < std::min(FCount, MeasuredRows); ++row) {
         const TCellView cell = FRows.Cell(row, i);
-        width = std::max(width, metrics.horizontalAdvance(TextOf(cell)));
+        width = std::max(width, metrics.horizontalAdvance(TextOf(cell, i)));
         if (kind == svNull) kind = cell.Kind;
       }
       FWidths.push_back(std::min(width, most) + 2 * FAir);
@@ -93,7 +94,9 @@ class TTablePages final {
     }
   }
 
-  QString TextOf(const TCellView& cell) const { return cell.Kind == svNull ? QString() : FText.Line(cell); }
+  QString TextOf(const TCellView& cell, std::size_t column) const {
+    return cell.Kind == svNull ? QString() : FText.Line(cell, FDecimals[column]);
+  }
 
   void PaintPage(const TPart& part, std::size_t firstRow, int page, int pages) {
     FPainter->setFont(FBold);
@@ -108,7 +111,7 @@ class TTablePages final {
     FPainter->setFont(FFont);
     const std::size_t end = std::min(FCount, firstRow + FRowsPerPage);
     for (std::size_t row = firstRow; row < end; ++row, top += FLine) {
-      for (std::size_t i = part.first; i < part.end; ++i) PaintCell(part, i, top, TextOf(FRows.Cell(row, i)));
+      for (std::size_t i = part.first; i < part.end; ++i) PaintCell(part, i, top, TextOf(FRows.Cell(row, i), i));
     }
     const QRect foot(0, FPage.height() - FLine, FPage.width(), FLine);
     FPainter->drawText(foot, Qt::AlignLeading | Qt::AlignVCenter, FDate);
@@ -141,6 +144,7 @@ class TTablePages final {
   int FLine = 1, FAir = 1;
   std::vector<int> FWidths;
   std::vector<bool> FRight;
+  std::vector<std::size_t> FDecimals;
   std::vector<TPart> FParts;
   QPainter* FPainter = nullptr;
 };
@@ -166,16 +170,22 @@ int PaintRows(QPrinter& printer, const TSortedRows& rows, std::size_t count, con
   return TTablePages(printer, rows, std::min(count, rows.GetRowCount()), title).Paint();
 }
 
+QString PrintedTitle(const QString& title, std::size_t printed, std::size_t rows, TExtent extent) {
+  if (printed >= rows && extent == exWhole) return title;
+  return TTexts::tr("%1 (only the first %Ln rows)", nullptr, static_cast<int>(printed)).arg(title);
+}
+
 void PrintRows(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order,
-               const QString& title) {
+               const QString& title, TExtent extent) {
   if (!rows) return;
   const std::size_t count = AskCount(parent, rows->GetRowCount());
   if (count == 0) return;
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(title);
+  const QString head = PrintedTitle(title, count, rows->GetRowCount(), extent);
   QPrintPreviewDialog preview(&printer, parent);
   QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview, [&](QPrinter* paper) {
-    PaintRows(*paper, {*rows, order}, count, title);
+    PaintRows(*paper, {*rows, order}, count, head);
   });
   preview.exec();
 }

@@ -13,9 +13,12 @@ class QWidget;
 namespace tolvi {
 
 /// Shows rows as they will be printed, as a table on pages, and prints them. More than `PrintedRowsUnasked` rows are
-/// printed only if the user says so; otherwise the first ones. The rows must be complete.
+/// printed only if the user says so; otherwise the first ones. Nobody may add to the rows meanwhile.
 void PrintRows(QWidget* parent, std::shared_ptr<const TResultRows> rows, std::vector<std::uint32_t> order,
-               const QString& title);
+               const QString& title, TExtent extent = exWhole);
+
+/// The title of pages with so many of the rows: it says when these are not all.
+QString PrintedTitle(const QString& title, std::size_t printed, std::size_t rows, TExtent extent);
 
 constexpr std::size_t PrintedRowsUnasked = 5000;
 

@@ -30,7 +30,7 @@ void TCellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIn
   const TCellView cell = FModel.CellAt(index.row(), index.column());
   option->index = index;
   option->features |= QStyleOptionViewItem::HasDisplay;
-  option->text = FModel.Texts().Line(cell);
+  option->text = FModel.LineAt(index.row(), index.column());
   if (option->direction == Qt::RightToLeft) option->text = Isolated(option->text, cell.Kind == svText);
   option->displayAlignment = (IsRightAligned(cell.Kind) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
   constexpr double readable = 4.5, weak = 2.5;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <optional>
 
 #include <tolvi/ui/controls/datetext.h>
 #include <tolvi/ui/qtext.h>
@@ -15,6 +16,8 @@ QString Tr(const char* text, int count = -1) {
 
 constexpr std::size_t lineBytes = 1200;
 constexpr qsizetype lineLetters = 300;
+constexpr TFieldTypes DecimalTypes{ftCurrency, ftBCD, ftFMTBcd};
+constexpr std::size_t moneyDecimals = 2, mostDecimals = 6;
 
 /// The beginning of a text that does not end within a letter.
 std::string_view Beginning(std::string_view text, std::size_t bytes) {
@@ -39,7 +42,27 @@ QString OneLine(std::string_view text) {
   return isCut ? line + QChar(0x2026) : line;
 }
 
+/// The decimals of a number without an exponent.
+std::optional<std::size_t> DecimalsOf(std::string_view number) {
+  if (number.empty() || number.find_first_not_of("+-.0123456789") != std::string_view::npos) return {};
+  const std::size_t point = number.find('.');
+  return point == std::string_view::npos ? 0 : number.size() - point - 1;
+}
+
 }  // namespace
+
+std::size_t ShownDecimals(const TResultRows& rows, std::size_t column) {
+  const TFieldType type = rows.Known(column).Type;
+  if (!DecimalTypes.Contains(type)) return 0;
+  std::size_t most = type == ftCurrency ? moneyDecimals : 0;
+  for (std::size_t row = 0; row < std::min(rows.GetRowCount(), RowsLookedInto); ++row) {
+    const TCellView cell = rows.Cell(row, column);
+    const auto decimals = cell.Kind == svNumber ? DecimalsOf(cell.Text) : std::nullopt;
+    // One long value, as of a division, would fill the others with zeros.
+    if (decimals && *decimals <= mostDecimals) most = std::max(most, *decimals);
+  }
+  return most;
+}
 
 TCellText::TCellText(const QLocale& locale)
     : FPoint(locale.decimalPoint()),
@@ -106,10 +129,16 @@ QString TCellText::Whole(const TCellView& cell) const {
   return ToQString(cell.Text);
 }
 
-QString TCellText::Line(const TCellView& cell) const {
+QString TCellText::Line(const TCellView& cell, std::size_t decimals) const {
   switch (cell.Kind) {
     case svNull:
       return FNull;
+    case svNumber: {
+      const std::size_t given = DecimalsOf(cell.Text).value_or(decimals);
+      if (given >= decimals) return Whole(cell);
+      const bool hasPoint = cell.Text.find('.') != std::string_view::npos;
+      return Number(std::string(cell.Text) + (hasPoint ? "" : ".") + std::string(decimals - given, '0'));
+    }
     case svText:
       return OneLine(cell.Text);
     case svBytes:

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
@@ -96,6 +97,10 @@ void TResultGrid::SetUpHeads() {
     if (column < 0) return;
     MakeColumnMenu(column)->exec(horizontalHeader()->viewport()->mapToGlobal(at));
   });
+  // Columns that are hidden or shown change from or to 0.
+  connect(&head, &QHeaderView::sectionResized, this, [this](int column, int before, int now) {
+    if (!FIsFitting && before > 0 && now > 0) FSized.insert(column);
+  });
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setHighlightSections(false);
   verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -116,6 +121,11 @@ void TResultGrid::SetRows(std::shared_ptr<TResultRows> rows) {
     const int scrolled = horizontalScrollBar()->value();
     FModel->SetRows(std::move(rows));
     if (sortColumn >= 0) FModel->sort(sortColumn, order);
+    // Widths that were measured without rows are none to keep.
+    for (int i = 0; i < FModel->columnCount() && !FHasFitted; ++i) {
+      if (!FSized.contains(i)) Fit(i);
+    }
+    FHasFitted = FHasFitted || FModel->rowCount() > 0;
     horizontalScrollBar()->setValue(scrolled);
     return;
   }
@@ -138,12 +148,18 @@ void TResultGrid::SetDimmed(bool isDimmed) {
 bool TResultGrid::GetDimmed() const { return FDelegate->GetDimmed(); }
 
 void TResultGrid::FitColumn(int column) {
+  FSized.remove(column);
+  Fit(column);
+}
+
+void TResultGrid::Fit(int column) {
+  const QScopedValueRollback fitting(FIsFitting, true);
   constexpr int rowsFitted = 100, mostLetters = 40, leastLetters = 4;
   const QFontMetrics metrics = fontMetrics();
   int width = metrics.averageCharWidth() * leastLetters;
   const int count = std::min(FModel->rowCount(), rowsFitted);
   for (int row = 0; row < count; ++row) {
-    width = std::max(width, metrics.horizontalAdvance(FModel->Texts().Line(FModel->CellAt(row, column))));
+    width = std::max(width, metrics.horizontalAdvance(FModel->LineAt(row, column)));
   }
   const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
   const int most = metrics.averageCharWidth() * mostLetters;
@@ -153,6 +169,7 @@ void TResultGrid::FitColumn(int column) {
 
 void TResultGrid::FitColumns() {
   for (int i = 0; i < FModel->columnCount(); ++i) FitColumn(i);
+  FHasFitted = FModel->rowCount() > 0;
 }
 
 bool TResultGrid::event(QEvent* event) {

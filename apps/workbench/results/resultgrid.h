@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QTableView>
 #include <functional>
 #include <memory>
@@ -29,7 +30,8 @@ class TResultGrid final : public QTableView {
 
   TResultModel& Model() { return *FModel; }
   const TResultModel& Model() const { return *FModel; }
-  /// Shows other rows. Columns of the same names keep their widths and the sorting.
+  /// Shows other rows. Columns of the same names keep the sorting and their widths, if these were the user's or
+  /// measured on rows.
   void SetRows(std::shared_ptr<TResultRows> rows);
   /// Paints the rows weaker: they are out of date.
   void SetDimmed(bool isDimmed);
@@ -57,6 +59,7 @@ class TResultGrid final : public QTableView {
  private:
   void SetUpHeads();
   void FitRowHeight();
+  void Fit(int column);
   void SortBy(int column, Qt::SortOrder order);
   int VisibleColumns() const;
   void FillColumnMenu(QMenu& menu, int column);
@@ -68,6 +71,9 @@ class TResultGrid final : public QTableView {
   TCellDelegate* FDelegate;
   std::unique_ptr<TRowCopy> FCopy;
   QTimer* FCopyTimer;
+  // Columns to which the user has given a width; whether the widths of the others were measured on rows.
+  QSet<int> FSized;
+  bool FHasFitted = false, FIsFitting = false;
 };
 
 }  // namespace tolvi

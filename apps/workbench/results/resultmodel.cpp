@@ -12,7 +12,6 @@ namespace tolvi {
 namespace {
 
 constexpr std::size_t rowsSortedAtOnce = 5'000;
-constexpr std::size_t rowsLookedInto = 200;
 
 TResultModel::TOrder AsTheyCame() { return std::make_shared<const std::vector<std::uint32_t>>(); }
 
@@ -31,6 +30,7 @@ void TResultModel::SetRows(std::shared_ptr<TResultRows> rows) {
   FRows = std::move(rows);
   FOrder = AsTheyCame();
   FKinds.clear();
+  FDecimals.clear();
   FIsComplete = false;
   FSortColumn = -1;
   endResetModel();
@@ -125,10 +125,20 @@ TCellView TResultModel::CellAt(int row, int column) const {
   return FRows->Cell(RowAt(row), static_cast<std::size_t>(column));
 }
 
+QString TResultModel::LineAt(int row, int column) const {
+  if (const std::size_t count = std::min(FRows->GetRowCount(), RowsLookedInto);
+      FDecimals.empty() || count != FRowsMeasured) {
+    FRowsMeasured = count;
+    FDecimals.clear();
+    for (std::size_t i = 0; i < FRows->Columns().size(); ++i) FDecimals.push_back(ShownDecimals(*FRows, i));
+  }
+  return FTexts.Line(CellAt(row, column), FDecimals[static_cast<std::size_t>(column)]);
+}
+
 TSqlValueKind TResultModel::KindOf(int column) const {
   FKinds.resize(static_cast<std::size_t>(columnCount()), svNull);
   TSqlValueKind& kind = FKinds[static_cast<std::size_t>(column)];
-  const std::size_t count = FRows ? std::min(FRows->GetRowCount(), rowsLookedInto) : 0;
+  const std::size_t count = FRows ? std::min(FRows->GetRowCount(), RowsLookedInto) : 0;
   for (std::size_t row = 0; row < count && kind == svNull; ++row) {
     kind = FRows->Cell(row, static_cast<std::size_t>(column)).Kind;
   }
@@ -148,7 +158,7 @@ QVariant TResultModel::data(const QModelIndex& index, int role) const {
   const TCellView cell = CellAt(index.row(), index.column());
   switch (role) {
     case Qt::DisplayRole:
-      return FTexts.Line(cell);
+      return LineAt(index.row(), index.column());
     case Qt::TextAlignmentRole:
       return QVariant::fromValue((IsRightAligned(cell.Kind) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::FontRole: {

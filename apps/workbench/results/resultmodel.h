@@ -53,6 +53,8 @@ class TResultModel final : public QAbstractTableModel {
   /// The number of the row of the result that stands there.
   std::size_t RowAt(int row) const;
   TCellView CellAt(int row, int column) const;
+  /// The cell as one line, with the decimals of its column.
+  QString LineAt(int row, int column) const;
   /// The kind of the column's first value that is not NULL, as far as one has looked; `svNull` for none.
   TSqlValueKind KindOf(int column) const;
   const TCellText& Texts() const { return FTexts; }
@@ -78,6 +80,9 @@ class TResultModel final : public QAbstractTableModel {
   // Tells orders that come too late from the one that is wanted.
   unsigned FSortNumber = 0;
   mutable std::vector<TSqlValueKind> FKinds;
+  // Of each column, by as many rows.
+  mutable std::vector<std::size_t> FDecimals;
+  mutable std::size_t FRowsMeasured = 0;
 };
 
 }  // namespace tolvi

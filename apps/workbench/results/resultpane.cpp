@@ -96,13 +96,14 @@ struct TResultPane::TParts {
   std::optional<TRequest> Pending;
   QTimer PendingTimer;
   QElapsedTimer SincePreview;
-  // Rows of the run that is on; they take the place of the old ones with the first block.
-  // Of the columns of the run, if the query knows them.
-  std::vector<std::string> Captions;
+  // Of the columns of the run that is on.
+  TKnownColumns Known;
+  // Its rows; they take the place of the old ones with the first block.
   std::shared_ptr<TResultRows> Incoming;
   // What the status says when all is done.
   QString EndWords;
-  bool IsPreviewRun = false, IsPreviewShown = false;
+  bool IsPreviewRun = false;
+  TExtent Extent = exWhole;
 };
 
 TResultPane::TParts::TParts(TResultPane& pane) : Pane(pane) {
@@ -181,7 +182,7 @@ void TResultPane::TParts::MakeContent() {
 
 void TResultPane::TParts::ListenToReader() {
   Reader.OnBegin = [this](const std::vector<std::string>& columns) {
-    Incoming = std::make_shared<TResultRows>(Captions.size() == columns.size() ? Captions : columns);
+    Incoming = std::make_shared<TResultRows>(columns, Known);
   };
   Reader.OnRows = [this](TRowBlock&& block) {
     const bool isShown = Grid->Model().GetRows() == Incoming;
@@ -200,6 +201,11 @@ void TResultPane::TParts::ListenToReader() {
     if (Incoming && !(stats.IsCancelled && stats.RowCount == 0)) {
       if (Grid->Model().GetRows() != Incoming) ShowIncoming();
       Grid->Model().SetComplete();
+      if (stats.IsLimited && !IsPreviewRun) {
+        Extent = exMost;
+      } else {
+        Extent = stats.IsLimited || stats.IsCancelled ? exBeginning : exWhole;
+      }
     }
     Incoming.reset();
     Status->SetWords(EndWords = EndText(stats));
@@ -228,8 +234,10 @@ void TResultPane::TParts::Begin(TRequest request) {
   Pending.reset();
   PendingTimer.stop();
   Incoming.reset();
-  Captions = std::move(request.Known.Captions);
-  Reader.Start(std::move(request.Statement), request.QuotedBooleans, request.MaxRows, std::move(request.Known.Types));
+  Known = std::move(request.Known);
+  std::vector<TFieldType> types;
+  for (const TKnownColumn& column : Known) types.push_back(column.Type);
+  Reader.Start(std::move(request.Statement), request.QuotedBooleans, request.MaxRows, std::move(types));
   Update();
 }
 
@@ -252,7 +260,7 @@ void TResultPane::TParts::ShowPage(QWidget& page) {
 }
 
 void TResultPane::TParts::ShowIncoming() {
-  IsPreviewShown = IsPreviewRun;
+  Extent = exBeginning;
   Grid->SetRows(Incoming);
   Grid->SetDimmed(false);
   Pages->setCurrentWidget(Grid);
@@ -349,7 +357,7 @@ void TResultPane::SetPreview(bool isOn) { FParts->Preview->setChecked(isOn); }
 
 bool TResultPane::IsRunning() const { return FParts->IsRunning(); }
 
-bool TResultPane::IsPreview() const { return FParts->IsPreviewShown; }
+TExtent TResultPane::GetExtent() const { return FParts->Extent; }
 
 std::shared_ptr<const TResultRows> TResultPane::GetRows() const {
   return FParts->Pages->currentWidget() == FParts->Grid ? FParts->Grid->Model().GetRows() : nullptr;

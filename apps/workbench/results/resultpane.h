@@ -8,21 +8,12 @@
 
 #include "apps/workbench/results/resultrows.h"
 #include <tolvi/connect/connecturl.h>
-#include <tolvi/foundation/fieldtypes.h>
 #include <tolvi/query/values.h>
 class QAction;
 
 namespace tolvi {
 
 class TResultGrid;
-
-/// What a query knows of the columns of its statement. Types: without them, a database that has no type for booleans,
-/// dates and times shows them as numbers and texts. Captions: what people call them; the names in the statement are
-/// shown where there are none, or not one for each column.
-struct TKnownColumns {
-  std::vector<TFieldType> Types = {};
-  std::vector<std::string> Captions = {};
-};
 
 /// The rows of a query: a bar with Run, Stop, the live preview and what came; below it the grid, or why there is none.
 /// Statements run in a thread of their own; the window never waits.
@@ -72,8 +63,8 @@ class TResultPane final : public QWidget {
   void SetPreview(bool isOn);
 
   bool IsRunning() const;
-  /// Whether the rows are those of `Preview`.
-  bool IsPreview() const;
+  /// How much of the result `GetRows` is; a preview, or a run that goes on or was stopped, is the beginning.
+  TExtent GetExtent() const;
   /// What is on show; null where that is no rows. Rows are added, in the window's thread, while `IsRunning`; from then
   /// on they never change, and any thread may read them.
   std::shared_ptr<const TResultRows> GetRows() const;

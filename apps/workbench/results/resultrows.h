@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <tolvi/connect/sqlvalue.h>
+#include <tolvi/foundation/fieldtypes.h>
 
 namespace tolvi {
 
@@ -36,18 +37,42 @@ class TRowBlock final {
   std::vector<TSqlValueKind> FKinds;
 };
 
+/// What a query knows of a column of its statement.
+struct TKnownColumn {
+  /// Without it, a database that has no type for booleans, dates and times shows them as numbers and texts.
+  TFieldType Type = ftUnknown;
+  /// What people call it; the name in the statement is shown where there is none.
+  std::string Caption = {};
+  /// Whether it tells which row is meant, and counts nothing.
+  bool IsKey = false;
+};
+using TKnownColumns = std::vector<TKnownColumn>;
+
+/// How much of a result its rows are.
+enum TExtent : std::uint8_t {
+  exWhole,
+  /// There may be more, which a run reads.
+  exBeginning,
+  /// There are more than a run reads.
+  exMost,
+};
+
 /// The rows of a result, as many as have come.
 class TResultRows final {
  public:
-  explicit TResultRows(std::vector<std::string> columns) : FColumns(std::move(columns)) {}
+  /// What is known counts when it is as many columns.
+  explicit TResultRows(std::vector<std::string> columns, TKnownColumns known = {});
 
+  /// What people call them.
   const std::vector<std::string>& Columns() const { return FColumns; }
+  const TKnownColumn& Known(std::size_t column) const { return FKnown[column]; }
   std::size_t GetRowCount() const { return FRowCount; }
   TCellView Cell(std::size_t row, std::size_t column) const;
   void Append(TRowBlock block);
 
  private:
   std::vector<std::string> FColumns;
+  TKnownColumns FKnown;
   std::vector<TRowBlock> FBlocks;
   // The number of the first row of each block.
   std::vector<std::size_t> FFirstRows;

@@ -113,10 +113,11 @@ void TMainWindow::BuildPanes() {
   };
   FResultPane->OnFault = [this](const QString& words, const QString&) { ShowDatabaseFault(words); };
   FResultPane->OnStateChange = [this] { RowsEnded(); };
+  FChartPane->OnReadAll = [this] { ReadAllForChart(); };
   FSqlPane->OnSyntaxChange = [this](TSQLSyntax syntax) {
     if (!FWorkspace) return;
     FSettings.Syntaxes.insert(SourceKey(FWorkspace->GetSource()), static_cast<int>(syntax));
-    ShowStatement();
+    if (const auto copy = CopyToShow()) ShowStatement(*copy);
   };
   FSqlPane->OnPaste = [this] { PasteSql(); };
   FSqlPane->OnShowRow = [this](const std::string& rowID) { FQueryArea->GoToRow(rowID); };

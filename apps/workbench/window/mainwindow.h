@@ -105,9 +105,12 @@ class TMainWindow final : public QMainWindow {
   void QueryLoaded();
   // What follows from the query; soon after it has changed.
   void ShowQuery();
-  void ShowStatement();
-  void ShowRows();
+  void ShowStatement(TJQueryPanel& copy);
+  // Of a copy that is changed for it.
+  void ShowRows(TJQueryPanel& copy);
   std::unique_ptr<TJQueryPanel> CopyOfQuery() const;
+  // The same; when there is none, why is shown in its place.
+  std::unique_ptr<TJQueryPanel> CopyToShow();
   void RunQuery();
   bool SaveQuery();
   bool SettleConflict(const EQueryConflictError& conflict);
@@ -116,6 +119,7 @@ class TMainWindow final : public QMainWindow {
   void ShowDatabaseFault(const QString& words);
   void ShowFaultOfRow(const QString& words, const std::string& rowID);
   void RowsEnded();
+  void ReadAllForChart();
   QString QueryName() const;
 
   // The model.
@@ -128,8 +132,8 @@ class TMainWindow final : public QMainWindow {
   void RefreshModel();
   void StepModel(void (TModelEditor::*step)());
 
-  // Rows. Those of a preview are not all: the user is asked.
-  bool HasAllRows();
+  // Rows. Whether to take those that are here: when they are not all, the user is asked.
+  bool MayTakeRows();
   void ExportRows();
   void PrintRows();
 

@@ -1,11 +1,8 @@
 // The query of the window: its statement, its rows, where it is stored.
-#include <QApplication>
-#include <QClipboard>
-#include <QFileInfo>
-#include <QMessageBox>
-#include <QPushButton>
+#include <QDir>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <algorithm>
 #include <cstdint>
 
 #include "apps/workbench/export/chartpane.h"
@@ -17,10 +14,12 @@
 #include "apps/workbench/sql/sqlpane.h"
 #include "apps/workbench/store/conflictdlg.h"
 #include "apps/workbench/store/storepane.h"
+#include "apps/workbench/window/askchoice.h"
 #include "apps/workbench/window/faultfinder.h"
 #include "apps/workbench/window/mainwindow.h"
 #include "apps/workbench/window/notebar.h"
 #include "apps/workbench/window/queryarea.h"
+#include <tolvi/foundation/text.h>
 #include <tolvi/panel/paneleditor.h>
 #include <tolvi/query/explain.h>
 #include <tolvi/query/paramvalues.h>
@@ -37,14 +36,35 @@ bool HasMissingValues(const TBoundStatement& statement) {
   return false;
 }
 
+/// Whether the field is a column by which tables are linked, or counts rows.
+bool IsKey(const TDSField& field) {
+  if (field.GetFieldType() == ftAutoInc) return true;
+  const TDSTable* table = field.GetTable();
+  if (field.GetFieldKind() != jfkData || table == nullptr) return false;
+  const auto isAmong = [&field](const TStrings& entries) {
+    return std::any_of(entries.begin(), entries.end(), [&field](const std::string& entry) {
+      return !IsLinkConstant(entry) && SameText(LinkEntryText(entry), field.GetFieldName());
+    });
+  };
+  for (const TDSLink* link : table->Links()) {
+    if (link->GetTable1() == table && isAmong(link->GetFields1())) return true;
+    if (link->GetTable2() == table && isAmong(link->GetFields2())) return true;
+  }
+  return false;
+}
+
 /// Databases tell less of the columns.
 TKnownColumns KnownColumns(const TRFieldList& columns) {
   TKnownColumns known;
   if (columns.GetShowsAll()) return known;
   for (const TResultField& column : columns) {
     if (column.GetHidden()) continue;
-    known.Types.push_back(column.IsPlainField() ? column.DSFields()[0]->GetFieldType() : ftUnknown);
-    known.Captions.push_back(column.GetCaption());
+    TKnownColumn& result = known.emplace_back();
+    result.Caption = column.GetCaption();
+    if (!column.IsPlainField()) continue;
+    const TDSField& field = *column.DSFields()[0];
+    result.Type = field.GetFieldType();
+    result.IsKey = IsKey(field);
   }
   return known;
 }
@@ -67,8 +87,10 @@ void TMainWindow::ShowQuery() {
   if (!FWorkspace) return;
   FStorePane->SetModified(FWorkspace->IsQueryModified());
   RefreshTitle();
-  ShowStatement();
-  ShowRows();
+  const std::unique_ptr<TJQueryPanel> copy = CopyToShow();
+  if (!copy) return;
+  ShowStatement(*copy);
+  ShowRows(*copy);
 }
 
 void TMainWindow::QueryLoaded() {
@@ -80,19 +102,20 @@ void TMainWindow::QueryLoaded() {
   QueryChanged();
 }
 
-void TMainWindow::ShowStatement() {
+void TMainWindow::ShowStatement(TJQueryPanel& copy) {
+  // The syntax is one to look at: the query runs in that of its database.
+  const TSQLSyntax own = copy.GetSQLSyntax();
+  copy.SetSQLSyntax(FSqlPane->GetSyntax());
   try {
-    // The syntax is one to look at: the query runs in that of its database.
-    const std::unique_ptr<TJQueryPanel> copy = CopyOfQuery();
-    copy->SetSQLSyntax(FSqlPane->GetSyntax());
-    if (copy->RFields().Empty() && copy->RootBracket().GetRowCount() == 0) return FSqlPane->SetStatement({});
-    FSqlPane->SetStatement(copy->GetQueryText());
-    FSqlPane->SetWarnings(copy->QResult().Warnings());
+    const bool isEmpty = copy.RFields().Empty() && copy.RootBracket().GetRowCount() == 0;
+    FSqlPane->SetStatement(isEmpty ? std::string() : copy.GetQueryText());
+    if (!isEmpty) FSqlPane->SetWarnings(copy.QResult().Warnings());
   } catch (const EQueryRowError& error) {
     FSqlPane->ShowFault(QString::fromUtf8(error.what()), error.RowID());
   } catch (const EException& error) {
     FSqlPane->ShowFault(QString::fromUtf8(error.what()));
   }
+  copy.SetSQLSyntax(own);
 }
 
 std::unique_ptr<TJQueryPanel> TMainWindow::CopyOfQuery() const {
@@ -105,21 +128,31 @@ std::unique_ptr<TJQueryPanel> TMainWindow::CopyOfQuery() const {
   return copy;
 }
 
-void TMainWindow::ShowRows() {
+std::unique_ptr<TJQueryPanel> TMainWindow::CopyToShow() {
+  try {
+    return CopyOfQuery();
+  } catch (const EException& error) {
+    const QString words = QString::fromUtf8(error.what());
+    FSqlPane->ShowFault(words);
+    if (FResultPane->GetPreview()) FResultPane->ShowFault(words);
+    return nullptr;
+  }
+}
+
+void TMainWindow::ShowRows(TJQueryPanel& copy) {
   if (!FResultPane->GetPreview()) return;
   try {
-    const std::unique_ptr<TJQueryPanel> copy = CopyOfQuery();
-    if (copy->RFields().Empty()) return FResultPane->ShowNothing(tr("Add a column to the result to see rows."));
+    if (copy.RFields().Empty()) return FResultPane->ShowNothing(tr("Add a column to the result to see rows."));
     // So that the database need not make more rows than are shown, and one to know that there are more.
-    if (FWorkspace->HasLimitClause() && copy->GetSQLLimitClause().empty() && copy->GetSQLTopClause().empty()) {
-      copy->SetSQLLimitClause(std::to_string(FSettings.PreviewRows + 1));
+    if (FWorkspace->HasLimitClause() && copy.GetSQLLimitClause().empty() && copy.GetSQLTopClause().empty()) {
+      copy.SetSQLLimitClause(std::to_string(FSettings.PreviewRows + 1));
     }
-    const TBoundStatement statement = copy->GetBoundStatement(msQuestion);
+    const TBoundStatement statement = copy.GetBoundStatement(msQuestion);
     if (HasMissingValues(statement)) {
       return FResultPane->ShowNothing(tr("The query asks for values: run it to give them."));
     }
     FResultPane->Preview(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),
-                         static_cast<std::size_t>(FSettings.PreviewRows), KnownColumns(copy->RFields()));
+                         static_cast<std::size_t>(FSettings.PreviewRows), KnownColumns(copy.RFields()));
   } catch (const EQueryRowError& error) {
     FResultPane->ShowFault(QString::fromUtf8(error.what()));
     FResultPane->SetFaultAction(tr("Show in query"), [this, id = error.RowID()] { FQueryArea->GoToRow(id); });
@@ -170,7 +203,12 @@ void TMainWindow::ShowFaultOfRow(const QString& words, const std::string& rowID)
 void TMainWindow::RowsEnded() {
   RefreshCommands();
   if (FResultPane->IsRunning()) return;
-  FChartPane->SetRows(FResultPane->GetRows(), *FResultPane->GetOrder());
+  FChartPane->SetRows(FResultPane->GetRows(), *FResultPane->GetOrder(), FResultPane->GetExtent());
+}
+
+void TMainWindow::ReadAllForChart() {
+  RunQuery();
+  if (FResultPane->IsRunning()) FResultTabs->setCurrentWidget(FChartPane);
 }
 
 bool TMainWindow::SaveQuery() {
@@ -229,25 +267,25 @@ void TMainWindow::PasteSql(const std::string& sql) {
   QueryChanged();
 }
 
-bool TMainWindow::HasAllRows() {
-  if (FResultPane->IsRunning() || !FResultPane->GetRows()) return false;
-  const auto most = static_cast<std::size_t>(FSettings.PreviewRows);
-  if (!FResultPane->IsPreview() || FResultPane->GetRows()->GetRowCount() < most) return true;
-  QMessageBox box(QMessageBox::Question, QGuiApplication::applicationDisplayName(),
-                  tr("Only the first %L1 rows are here. Run the query first to have all of them.").arg(most),
-                  QMessageBox::NoButton, this);
-  box.setObjectName(QStringLiteral("preview"));
-  QPushButton* run = box.addButton(tr("&Run"), QMessageBox::AcceptRole);
-  QPushButton* take = box.addButton(tr("&These rows only"), QMessageBox::DestructiveRole);
-  box.setEscapeButton(box.addButton(QMessageBox::tr("Cancel"), QMessageBox::RejectRole));
-  box.setDefaultButton(run);
-  box.exec();
-  if (box.clickedButton() == run) RunQuery();
-  return box.clickedButton() == take && !FResultPane->IsRunning() && FResultPane->GetRows();
+bool TMainWindow::MayTakeRows() {
+  const std::shared_ptr<const TResultRows> rows = FResultPane->GetRows();
+  if (FResultPane->IsRunning() || !rows) return false;
+  const TExtent extent = FResultPane->GetExtent();
+  if (extent == exWhole) return true;
+  const TChoice run{QStringLiteral("run"), tr("&Run")}, take{QStringLiteral("take"), tr("&These rows only")};
+  const QString words = extent == exBeginning
+                            ? tr("Only the first %L1 rows are here. Run the query first to have all of them.")
+                            : tr("Only the first %L1 rows are here: the settings let a run read no more.");
+  const std::vector<TChoice> choices = extent == exBeginning ? std::vector{run, take} : std::vector{take};
+  const auto answer = AskChoice(this, QStringLiteral("rows"), words.arg(rows->GetRowCount()), choices);
+  if (!answer) return false;
+  if (choices[*answer].Name == run.Name) RunQuery();
+  // They may have gone while the box was open.
+  return choices[*answer].Name == take.Name && FResultPane->GetRows() == rows && !FResultPane->IsRunning();
 }
 
 void TMainWindow::ExportRows() {
-  if (!HasAllRows()) return;
+  if (!MayTakeRows()) return;
   const TMemory memory{
       [this](const QString& key) -> QVariant {
         return key == QStringLiteral("export.folder") ? FSettings.ExportFolder : FSettings.ExportFormat;
@@ -255,12 +293,17 @@ void TMainWindow::ExportRows() {
       [this](const QString& key, const QVariant& value) {
         (key == QStringLiteral("export.folder") ? FSettings.ExportFolder : FSettings.ExportFormat) = value.toString();
       }};
-  tolvi::ExportRows(this, FResultPane->GetRows(), *FResultPane->GetOrder(), QueryName(), memory);
+  const std::shared_ptr<const TResultRows> rows = FResultPane->GetRows();
+  const QString file = tolvi::ExportRows(this, rows, *FResultPane->GetOrder(), QueryName(), memory);
+  if (file.isEmpty()) return;
+  const auto count = static_cast<int>(rows->GetRowCount());
+  const QString words = count == 1 ? tr("1 row is in %1.") : tr("%Ln rows are in %1.", nullptr, count);
+  statusBar()->showMessage(words.arg(QDir::toNativeSeparators(file)), 15'000);
 }
 
 void TMainWindow::PrintRows() {
-  if (!HasAllRows()) return;
-  tolvi::PrintRows(this, FResultPane->GetRows(), *FResultPane->GetOrder(), QueryName());
+  if (!MayTakeRows()) return;
+  tolvi::PrintRows(this, FResultPane->GetRows(), *FResultPane->GetOrder(), QueryName(), FResultPane->GetExtent());
 }
 
 }  // namespace tolvi
