@@ -109,7 +109,7 @@ TEST_F(RowFiles, ASpreadsheetHoldsValuesAsTheirKind) {
 
 TEST_F(RowFiles, WhatASheetCannotHoldIsToldAndTheOldFileStays) {
   Written(rfCsv, *ResultOf({"old"}, {}));
-  const auto fault = [this](const QString& file, TRowFileFormat format, const TResultRows& rows) {
+  const auto fault = [](const QString& file, TRowFileFormat format, const TResultRows& rows) {
     try {
       WriteRowFile(file, format, {rows, {}});
     } catch (const EFileError& error) {
