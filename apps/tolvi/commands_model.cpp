@@ -17,7 +17,7 @@ TFillOptions FillOptionsOf(const TSession& session, TDatabaseKind kind) {
   TFillOptions options = FillOptionsFor(kind);
   for (const std::string_view table : session.Arguments.Values("table")) options.Tables.Add(table);
   options.Views = !session.Arguments.Has("no-views");
-  options.LinksFromNames = session.Arguments.Has("links-from-names");
+  if (session.Arguments.Has("links-from-names")) options.LinksFromNames = true;
   if (session.Arguments.Has("outer-links")) options.LinkType = ltOuterLeft;
   options.TakeChangedTypes = session.Arguments.Has("changed-types");
   return options;

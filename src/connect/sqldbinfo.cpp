@@ -30,6 +30,7 @@ void ReadValues(const TSqlSession& session, std::string_view sql, std::string_vi
 TFillOptions FillOptionsFor(TDatabaseKind kind) {
   TFillOptions options;
   options.QuoteMixedCase = kind == dkPostgreSQL;
+  options.LinksFromNames = kind == dkODBC;
   return options;
 }
 

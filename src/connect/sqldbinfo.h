@@ -15,7 +15,8 @@ namespace tolvi {
 
 class TSqlCatalogue;
 
-/// How to fill a model from a database of that kind: the defaults, with names quoted where it would fold their case.
+/// How to fill a model from a database of that kind: the defaults, with names quoted where it would fold their case,
+/// and links by the names of columns where there are no keys to be had.
 [[nodiscard]] TOLVI_CONNECT_API TFillOptions FillOptionsFor(TDatabaseKind kind);
 
 /// The catalogue of an open SQLite, PostgreSQL, MySQL or ODBC database. The connection is the host's own QSqlDatabase,
@@ -32,7 +33,8 @@ class TSqlCatalogue;
 ///    asked for tables, and after `Update`. All other answers are of the same reading.
 /// 3. Links come from foreign keys between the tables of the list, columns joined by " and ", names in double quotes
 ///    where they are no plain words.
-/// 4. Of ODBC, there are no databases and no links to be had, and each table takes statements of its own.
+/// 4. Of ODBC, there are no databases and no links to be had, and each table takes statements of its own (filling
+///    finds links by names, see `FillOptionsFor`).
 ///
 /// Every question raises `EConnectError` when there is no open connection of that name or the database refuses; a table
 /// that is not in the catalogue has no fields.
