@@ -158,14 +158,16 @@ TEST_F(CommandLine, RunsWithParametersGivenOrAsked) {
             "tolvi: queries/04-silent-customers.qry: there is no parameter \"Until\"; the query has Since\n");
   const std::string asked =
       "run --model MODEL --query QUERIES/21-orders-of-one-seller.qry --db DB --format csv --limit 1 ";
-  EXPECT_EQ(Run(asked + "--param Param1=Gruber").err,
-            "tolvi: queries/21-orders-of-one-seller.qry: no value for Param2, Param3: give --param Param2=VALUE\n");
-  const TOutcome outcome = Run(asked + "--param Param1=Gruber", "2025-01-01\n2025-12-31\n", true);
+  EXPECT_EQ(
+      Run(asked + "--param Seller=Gruber").err,
+      "tolvi: queries/21-orders-of-one-seller.qry: no value for First_day, Last_day: give --param First_day=VALUE\n");
+  const TOutcome outcome = Run(asked + "--param Seller=Gruber", "2025-01-01\n2025-12-31\n", true);
   EXPECT_EQ(outcome.status, 0) << outcome.err;
   EXPECT_EQ(outcome.out, "Order_no,Ordered,Company,City,Freight\n3667,2025-01-01,Steiner Eisenhof,Linz,84.75\n");
   EXPECT_EQ(
       outcome.err,
-      "Param2 (Order date is between <Param2> and <Param3>): Param3 (Order date is between <Param2> and <Param3>): ");
+      "First_day (Order date is between <First_day> and <Last_day>): Last_day (Order date is between <First_day> and "
+      "<Last_day>): ");
 }
 
 TEST_F(CommandLine, ParsesStatementsIntoJson) {
