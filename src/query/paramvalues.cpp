@@ -6,6 +6,7 @@
 #include <tolvi/query/explain.h>
 #include <tolvi/query/paramvalues.h>
 #include <tolvi/query/querpnl.h>
+#include <tolvi/query/rowphrase.h>
 
 namespace tolvi {
 namespace {
@@ -66,6 +67,20 @@ class TParamWalk {
   std::size_t FTaken = 0;
 };
 
+std::string PromptOf(const TSQLParam& param) {
+  if (!param.GetOwnDisplayName().empty()) return param.GetOwnDisplayName();
+  return param.HasAutomaticName() ? std::string() : param.GetParamName();
+}
+
+std::string QuestionOf(const TSQLParam& param) {
+  const TFilterCond& condition = param.GetCondition();
+  TPhrase phrase = RowPhrase(condition, TFieldNames(condition.GetQueryPanel().GetDBStruct()));
+  for (TPhrasePart& part : phrase) {
+    if (part.Kind == pkParameter && part.ValueIndex == param.GetValueIndex()) part.Text = "…";
+  }
+  return PhraseText(phrase);
+}
+
 }  // namespace
 
 std::vector<TParamInfo> ListParams(TJQueryPanel& panel) {
@@ -75,7 +90,8 @@ std::vector<TParamInfo> ListParams(TJQueryPanel& panel) {
     const int index = param.GetValueIndex();
     params.push_back({param.GetParamName(), param.GetDisplayName(), ExplainCondition(condition), param.GetValue(),
                       param.GetFullValue(), param.GetParamType(), condition.GetValueKind(index) == vkList,
-                      condition.GetValueName(index), condition.GetValueEditor(index)});
+                      condition.GetValueName(index), condition.GetValueEditor(index), PromptOf(param),
+                      QuestionOf(param)});
     return false;
   };
   TParamWalk(call).Run(panel);

@@ -26,6 +26,10 @@ struct TParamInfo {
   std::string ValueName = {};
   /// How the value is entered; the model's. Null: by its type.
   TDSValueEditor* Editor = nullptr;
+  /// The words or the name that somebody has given the parameter; empty when it has only what it was given by itself.
+  std::string Prompt = {};
+  /// The sentence with "…" in the place of the value.
+  std::string Question = {};
 };
 
 /// The parameters of a query and of the sub-queries that take part in its statement, by the names that the statement

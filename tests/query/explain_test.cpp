@@ -101,6 +101,7 @@ Result fields:
   const std::vector<TParamInfo> params = ListParams(FPanel);
   ASSERT_EQ(params.size(), 2U);
   EXPECT_EQ(params[0].Sentence + "|" + params[0].FullValue, "City contains <Param1: Oslo>|%Oslo%");
+  EXPECT_EQ(params[0].Prompt + "|" + params[0].Question, "|City contains …");
   EXPECT_EQ(params[1].Sentence + "|" + params[1].FullValue, "Total is greater than <Param2: 99.5>|99.5");
   const TBoundStatement statement = FPanel.GetBoundStatement();
   ASSERT_EQ(statement.Values.size(), 2U);

@@ -59,7 +59,7 @@ class Params : public testing::Test {
       if (FDialog != nullptr && FDialog->isVisible()) FDialog->reject();
     });
     timer.start(2);
-    return AskParams(nullptr, Panel, Last);
+    return AskParams(nullptr, Panel, Last, Source);
   }
 
   template <typename T>
@@ -80,7 +80,7 @@ class Params : public testing::Test {
   }
   QPushButton& Ok() { return *FDialog->findChild<QPushButton*>(QStringLiteral("params.ok")); }
   QString Remembered(const char* param) {
-    const QString* value = Last.Get(TParamMemory::KeyOf("LATE", param));
+    const QString* value = Last.Get(TParamMemory::KeyOf(Source, "LATE", param));
     return value != nullptr ? *value : QStringLiteral("(none)");
   }
   std::vector<std::string> Values() {
@@ -91,11 +91,12 @@ class Params : public testing::Test {
 
   std::unique_ptr<TJDBStructure> Model = OrdersModel();
   TJQueryPanel Panel;
+  const QString Source = QStringLiteral("shop");
   TParamMemory Last;
   QPointer<QDialog> FDialog;
 };
 
-TEST_F(Params, OfAQueryWithoutAnyAreNotAskedFor) { EXPECT_TRUE(AskParams(nullptr, Panel, Last)); }
+TEST_F(Params, OfAQueryWithoutAnyAreNotAskedFor) { EXPECT_TRUE(AskParams(nullptr, Panel, Last, Source)); }
 
 TEST_F(Params, AreAskedForByTheirTypesAndGivenToTheQuery) {
   Panel.RFields().Add(FieldOf(*Model, "Orders.OrderNo"));
@@ -108,9 +109,12 @@ TEST_F(Params, AreAskedForByTheirTypesAndGivenToTheQuery) {
   EXPECT_TRUE(Ask([this] {
     EXPECT_FALSE(Ok().isEnabled());
     EXPECT_EQ(Fault("Least"), "") << "nothing is complained of beforehand";
-    const QList<QLabel*> labels = FDialog->findChildren<QLabel*>();
-    EXPECT_TRUE(std::any_of(labels.begin(), labels.end(),
-                            [](const QLabel* label) { return label->text() == QStringLiteral("Since when?"); }));
+    for (const char* words : {"Least", "Total is greater than …", "Since when?"}) {
+      const QList<QLabel*> labels = FDialog->findChildren<QLabel*>();
+      EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [words](const QLabel* label) {
+        return label->text() == QString::fromUtf8(words);
+      })) << words;
+    }
     Type("Least", QStringLiteral("12,5x"));
     EXPECT_NE(Fault("Least"), "");
     Type("Least", QStringLiteral("12,5"));
@@ -137,9 +141,9 @@ TEST_F(Params, BeginWithTheirOwnValueOrElseTheLastOne) {
   Add("Orders.Total", "GreaterThan", "Least");
   Add("Orders.SaleDate", "Equal", "Day").SetValue("45000");
   Add("Orders.SaleDate", "Equal", "Other");
-  Last.Set(TParamMemory::KeyOf("late", "LEAST"), QStringLiteral("7.25"));
-  Last.Set(TParamMemory::KeyOf("Late", "Day"), QStringLiteral("2000-01-01"));
-  Last.Set(TParamMemory::KeyOf("Late", "Other"), QStringLiteral("no day"));
+  Last.Set(TParamMemory::KeyOf(Source, "late", "LEAST"), QStringLiteral("7.25"));
+  Last.Set(TParamMemory::KeyOf(Source, "Late", "Day"), QStringLiteral("2000-01-01"));
+  Last.Set(TParamMemory::KeyOf(Source, "Late", "Other"), QStringLiteral("no day"));
   EXPECT_FALSE(Ask([this] {
     EXPECT_EQ(Editor<QLineEdit>("Least").text(), QStringLiteral("7,25"));
     EXPECT_EQ(ToEditForm("45000", ListParams(Panel)[1], Panel), QStringLiteral("2023-03-15"));
@@ -178,6 +182,49 @@ TEST_F(Params, AreChosenFromTheListOfTheField) {
   const std::vector<TParamInfo> params = ListParams(Panel);
   EXPECT_EQ(params[0].Value, "P");
   EXPECT_EQ(params[1].Value, "K,O,X");
+}
+
+TEST_F(Params, AreAskedForByTheirConditionWhereNobodyHasNamedThem) {
+  Add("Orders.Total", "GreaterThan", "Param1").SetValue("7,5");
+  EXPECT_FALSE(Ask([this] {
+    const auto* caption = FDialog->findChild<QLabel*>();
+    EXPECT_EQ(caption->text(), QStringLiteral("Total is greater than …"));
+    EXPECT_EQ(Editor<QLineEdit>("Param1").accessibleName(), caption->text());
+  }));
+}
+
+TEST_F(Params, ThatAreListsAreRememberedTheSameInEveryLanguage) {
+  Add("Orders.Total", "InList", "Totals");
+  Add("Orders.SaleDate", "InList", "Days");
+  EXPECT_TRUE(Ask([this] {
+    Editor<QPlainTextEdit>("Totals").setPlainText(QStringLiteral("12,5\n7"));
+    Editor<QPlainTextEdit>("Days").setPlainText(QStringLiteral("2025-02-28\n2025-03-01"));
+    EXPECT_TRUE(Ok().isEnabled());
+    QTest::mouseClick(&Ok(), Qt::LeftButton);
+  }));
+  EXPECT_EQ(Remembered("Totals"), QStringLiteral("12.5,7"));
+  EXPECT_EQ(Remembered("Days"), QStringLiteral("2025-02-28,2025-03-01"));
+  const std::vector<std::string> values{"12.5", "7", "2025-02-28", "2025-03-01"};
+  EXPECT_EQ(Values(), values);
+
+  for (const char* name : {"Totals", "Days"}) SetParamValue(Panel, name, "");
+  EXPECT_FALSE(Ask([this] {
+    EXPECT_EQ(Editor<QPlainTextEdit>("Totals").toPlainText(), QStringLiteral("12,5\n7"));
+    EXPECT_TRUE(Ok().isEnabled()) << Fault("Days");
+  }));
+}
+
+TEST(ParamMemory, KnowsDatabasesApartAndForgetsTheOldest) {
+  TParamMemory memory;
+  const QString first = TParamMemory::KeyOf(QStringLiteral("shop"), "Late", "Day");
+  EXPECT_NE(first, TParamMemory::KeyOf(QStringLiteral("other"), "Late", "Day"));
+  memory.Set(first, QStringLiteral("1"));
+  for (std::size_t i = 1; i < TParamMemory::Most; ++i) memory.Set(QString::number(i), QStringLiteral("2"));
+  memory.Set(first, QStringLiteral("3"));
+  memory.Set(QStringLiteral("new"), QStringLiteral("4"));
+  EXPECT_EQ(*memory.Get(first), QStringLiteral("3"));
+  EXPECT_EQ(memory.Get(QStringLiteral("1")), nullptr);
+  EXPECT_EQ(memory.Values().size(), TParamMemory::Most);
 }
 
 TEST_F(Params, TakeADayFromTheCalendarAndKeepTheTime) {

@@ -72,38 +72,73 @@ class TLineEdit final : public TParamEdit {
   bool FUpper = false, FLower = false;
 };
 
-/// Long texts, or several items, one a line.
-class TLinesEdit final : public TParamEdit {
+/// Long texts.
+class TMemoEdit final : public TParamEdit {
  public:
-  TLinesEdit(bool isList, QWidget* parent) : TParamEdit(parent), FLines(new QPlainTextEdit(this)), FIsList(isList) {
+  TMemoEdit(const QString& placeholder, QWidget* parent) : TParamEdit(parent), FLines(new QPlainTextEdit(this)) {
     AddWhole(*this, *FLines);
+    FLines->setPlaceholderText(placeholder);
     FLines->setTabChangesFocus(true);
     FLines->setFixedHeight(5 * fontMetrics().lineSpacing());
-    if (isList) FLines->setPlaceholderText(TParamEdit::tr("One a line"));
     connect(FLines, &QPlainTextEdit::textChanged, this, [this] {
       if (OnChange) OnChange();
     });
   }
 
+  void SetValue(const QString& value) override { FLines->setPlainText(value); }
+  QString GetValue() const override { return FLines->toPlainText(); }
+
+ private:
+  QPlainTextEdit* FLines;
+};
+
+/// Several items, one a line, each as a line of its own would show it.
+class TItemsEdit final : public TParamEdit {
+ public:
+  TItemsEdit(std::optional<TDateKind> kind, char decimalSeparator, QWidget* parent)
+      : TParamEdit(parent),
+        FLines(new TMemoEdit(TParamEdit::tr("One a line"), this)),
+        FKind(kind),
+        FSeparator(QChar::fromLatin1(decimalSeparator)) {
+    if (kind) FFormat = LocaleFormat(*kind, locale());
+    AddWhole(*this, *FLines);
+    setFocusProxy(FLines->focusProxy());
+    FLines->OnChange = [this] {
+      if (OnChange) OnChange();
+    };
+  }
+
   void SetValue(const QString& value) override {
-    if (!FIsList) return FLines->setPlainText(value);
     QStringList items;
-    for (const std::string& item : SplitCommaText(FromQString(value))) items << ToQString(item);
-    FLines->setPlainText(items.join(u'\n'));
+    for (const std::string& item : SplitCommaText(FromQString(value))) items << Shown(ToQString(item));
+    FLines->SetValue(items.join(u'\n'));
   }
   QString GetValue() const override {
-    if (!FIsList) return FLines->toPlainText();
     TStrings items;
-    const QStringList lines = FLines->toPlainText().split(u'\n');
+    const QStringList lines = FLines->GetValue().split(u'\n');
     for (const QString& line : lines) {
-      if (!line.trimmed().isEmpty()) items.Add(FromQString(line.trimmed()));
+      if (!line.trimmed().isEmpty()) items.Add(FromQString(Plain(line.trimmed())));
     }
     return ToQString(items.GetCommaText());
   }
 
  private:
-  QPlainTextEdit* FLines;
-  const bool FIsList;
+  QString Shown(const QString& item) const {
+    if (!FKind) return QString(item).replace(u'.', FSeparator);
+    const auto date = ReadDate(item, *FKind, IsoFormat(*FKind));
+    return date ? WriteDate(*date, FFormat) : item;
+  }
+  QString Plain(const QString& item) const {
+    if (!FKind) return QString(item).replace(FSeparator, u'.');
+    const auto date = ReadDate(item, *FKind, FFormat);
+    return date ? WriteDate(*date, IsoFormat(*FKind)) : item;
+  }
+
+  TMemoEdit* FLines;
+  const std::optional<TDateKind> FKind;
+  // '.' leaves texts as they are.
+  const QChar FSeparator;
+  QString FFormat;
 };
 
 /// A line, and a calendar below its button.
@@ -295,13 +330,38 @@ std::optional<TDateKind> DateKindOf(const TParamInfo& param) {
 
 bool IsNumber(TFieldType type) { return FloatFieldTypes.Contains(type) || IntegerFieldTypes.Contains(type); }
 
+/// The value, or each of its items.
+template <typename TConvert>
+std::string Converted(const std::string& value, const TParamInfo& param, const TConvert& convert) {
+  if (!param.IsList) return convert(value);
+  TStrings items;
+  for (const std::string& item : SplitCommaText(value)) items.Add(convert(item));
+  return items.GetCommaText();
+}
+
+std::string PlainForm(const std::string& stored, const TParamInfo& param, const TJQueryPanel& panel) {
+  const TFormatSettings& settings = panel.GetFormatSettings();
+  if (stored.empty()) return stored;
+  if (const auto kind = DateKindOf(param)) {
+    constexpr TFieldType Types[] = {ftDate, ftTime, ftDateTime};
+    const auto date = TryReadDate(stored, settings);
+    return date ? PlainDate(*date, Types[static_cast<int>(*kind)]) : stored;
+  }
+  if (param.Type == ftBoolean) {
+    const auto truth = TryXStrToBool(stored);
+    return truth ? std::string(XBoolToStr(*truth)) : stored;
+  }
+  return IsNumber(param.Type) ? ReplaceStr(stored, std::string(1, settings.DecimalSeparator), ".") : stored;
+}
+
 }  // namespace
 
 TParamEdit* MakeParamEdit(const TParamInfo& param, const TJQueryPanel& panel, QWidget* parent) {
   constexpr TFieldTypes LongTextTypes{ftMemo, ftFmtMemo};
   const std::vector<TItem> items = ItemsOf(param.Editor);
   if (param.IsList && !items.empty()) return new TCheckEdit(items, parent);
-  if (param.IsList) return new TLinesEdit(true, parent);
+  const char separator = IsNumber(param.Type) ? panel.GetFormatSettings().DecimalSeparator : '.';
+  if (param.IsList) return new TItemsEdit(DateKindOf(param), separator, parent);
   if (!items.empty()) return new TChoiceEdit(items, true, parent);
   if (param.Type == ftBoolean) {
     return new TChoiceEdit({{ToQString(panel.GetTitle("ttlTrue")), QStringLiteral("1")},
@@ -309,34 +369,20 @@ TParamEdit* MakeParamEdit(const TParamInfo& param, const TJQueryPanel& panel, QW
                            false, parent);
   }
   if (const auto kind = DateKindOf(param)) return new TDateLine(*kind, parent);
-  if (LongTextTypes.Contains(param.Type)) return new TLinesEdit(false, parent);
-  const char separator = IsNumber(param.Type) ? panel.GetFormatSettings().DecimalSeparator : '.';
+  if (LongTextTypes.Contains(param.Type)) return new TMemoEdit({}, parent);
   return new TLineEdit(dynamic_cast<const TDSTextEditor*>(param.Editor), separator, parent);
 }
 
 QString ToEditForm(const std::string& stored, const TParamInfo& param, const TJQueryPanel& panel) {
-  const TFormatSettings& settings = panel.GetFormatSettings();
-  const QString text = ToQString(stored);
-  if (stored.empty() || param.IsList) return text;
-  if (const auto kind = DateKindOf(param)) {
-    constexpr TFieldType Types[] = {ftDate, ftTime, ftDateTime};
-    const auto date = TryReadDate(stored, settings);
-    return date ? ToQString(PlainDate(*date, Types[static_cast<int>(*kind)])) : text;
-  }
-  if (param.Type == ftBoolean) {
-    const auto truth = TryXStrToBool(stored);
-    return truth ? ToQString(XBoolToStr(*truth)) : text;
-  }
-  return IsNumber(param.Type) ? QString(text).replace(QChar::fromLatin1(settings.DecimalSeparator), u'.') : text;
+  return ToQString(Converted(stored, param, [&](const std::string& item) { return PlainForm(item, param, panel); }));
 }
 
 std::string ToStoredForm(const QString& value, const TParamInfo& param, const TJQueryPanel& panel) {
-  if (const auto kind = DateKindOf(param); kind && !param.IsList && !value.isEmpty()) {
-    if (const auto date = ReadDate(value, *kind, IsoFormat(*kind))) {
-      return FloatToStr(*date, panel.GetFormatSettings());
-    }
-  }
-  return FromQString(value);
+  const auto kind = DateKindOf(param);
+  return Converted(FromQString(value), param, [&](const std::string& item) {
+    const auto date = kind && !item.empty() ? ReadDate(ToQString(item), *kind, IsoFormat(*kind)) : std::nullopt;
+    return date ? FloatToStr(*date, panel.GetFormatSettings()) : item;
+  });
 }
 
 QString FaultOfParam(const QString& value, const TParamInfo& param, const TJQueryPanel& panel) {

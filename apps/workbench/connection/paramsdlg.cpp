@@ -36,7 +36,8 @@ std::vector<TParamInfo> ParamsOf(TJQueryPanel& panel) {
 
 class TParamsDialog final : public QDialog {
  public:
-  TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<TParamInfo> params, const TParamMemory& last);
+  TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<TParamInfo> params, const TParamMemory& last,
+                const QString& source);
 
   struct TRow {
     TParamInfo Param;
@@ -57,7 +58,7 @@ class TParamsDialog final : public QDialog {
 };
 
 TParamsDialog::TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<TParamInfo> params,
-                             const TParamMemory& last)
+                             const TParamMemory& last, const QString& source)
     : QDialog(parent), FPanel(panel) {
   constexpr int Columns = 64;
   constexpr double MostOfScreen = 0.8;
@@ -67,7 +68,7 @@ TParamsDialog::TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<T
   auto* form = new QWidget(this);
   auto* rows = new QVBoxLayout(form);
   for (const TParamInfo& param : params) {
-    const QString* known = last.Get(TParamMemory::KeyOf(panel.GetQueryName(), param.Name));
+    const QString* known = last.Get(TParamMemory::KeyOf(source, panel.GetQueryName(), param.Name));
     const auto* text = dynamic_cast<const TDSTextEditor*>(param.Editor);
     QString value = ToEditForm(param.Value, param, panel);
     if (value.isEmpty() && known != nullptr) value = *known;
@@ -113,12 +114,10 @@ void TParamsDialog::AddRow(QVBoxLayout& form, const TParamInfo& param, const QSt
   constexpr double WeakPart = 0.7;
   const QPalette colors = palette();
   const QColor text = colors.color(QPalette::WindowText);
-  // A prompt that nobody gave says nothing.
-  const bool hasPrompt = !param.DisplayName.starts_with(FPanel.GetTitle("ttlParameter"));
-  const QColor weak = hasPrompt ? MixedColor(text, colors.color(QPalette::Window), WeakPart) : text;
-  QLabel* caption = hasPrompt ? AddText(form, ToQString(param.DisplayName), text) : nullptr;
-  QLabel* sentence = AddText(form, ToQString(param.Sentence).trimmed(), weak);
-  if (caption == nullptr) caption = sentence;
+  // A name that nobody gave says nothing: the condition asks then.
+  const QString prompt = ToQString(param.Prompt).replace(u'_', u' '), question = ToQString(param.Question).trimmed();
+  QLabel* caption = AddText(form, prompt.isEmpty() ? question : prompt, text);
+  if (!prompt.isEmpty()) AddText(form, question, MixedColor(text, colors.color(QPalette::Window), WeakPart));
   QFont bold = caption->font();
   bold.setBold(true);
   caption->setFont(bold);
@@ -126,7 +125,7 @@ void TParamsDialog::AddRow(QVBoxLayout& form, const TParamInfo& param, const QSt
   edit->setObjectName(QStringLiteral("params.") + ToQString(param.Name));
   edit->SetValue(value);
   QWidget* focus = edit->focusProxy() != nullptr ? edit->focusProxy() : edit;
-  focus->setAccessibleName(ToQString(param.DisplayName + ": " + param.Sentence));
+  focus->setAccessibleName(prompt.isEmpty() ? question : prompt + QStringLiteral(": ") + question);
   caption->setBuddy(focus);
   form.addWidget(edit);
   QLabel* fault = AddText(form, {}, FaultColor());
@@ -155,19 +154,27 @@ void TParamsDialog::Check() {
 
 }  // namespace
 
-QString TParamMemory::KeyOf(std::string_view queryName, std::string_view paramName) {
-  return ToQString(FoldCase(queryName)) + u'\n' + ToQString(FoldCase(paramName));
+QString TParamMemory::KeyOf(const QString& source, std::string_view queryName, std::string_view paramName) {
+  return source + u'\n' + ToQString(FoldCase(queryName)) + u'\n' + ToQString(FoldCase(paramName));
 }
 
 const QString* TParamMemory::Get(const QString& key) const {
-  const auto found = FValues.find(key);
-  return found == FValues.end() ? nullptr : &found->second;
+  for (const auto& [known, value] : FValues) {
+    if (known == key) return &value;
+  }
+  return nullptr;
 }
 
-bool AskParams(QWidget* parent, TJQueryPanel& panel, TParamMemory& last) {
+void TParamMemory::Set(const QString& key, const QString& value) {
+  std::erase_if(FValues, [&key](const auto& known) { return known.first == key; });
+  FValues.insert(FValues.begin(), {key, value});
+  if (FValues.size() > Most) FValues.resize(Most);
+}
+
+bool AskParams(QWidget* parent, TJQueryPanel& panel, TParamMemory& last, const QString& source) {
   std::vector<TParamInfo> params = ParamsOf(panel);
   if (params.empty()) return true;
-  const QPointer<TParamsDialog> dialog = new TParamsDialog(parent, panel, std::move(params), last);
+  const QPointer<TParamsDialog> dialog = new TParamsDialog(parent, panel, std::move(params), last, source);
   const bool isTaken = dialog->exec() == QDialog::Accepted;
   // It may have gone with its parent.
   if (!dialog) return false;
@@ -175,7 +182,7 @@ bool AskParams(QWidget* parent, TJQueryPanel& panel, TParamMemory& last) {
     for (const auto& [param, edit, fault, isTouched] : dialog->Rows()) {
       const QString value = edit->GetValue();
       SetParamValue(panel, param.Name, ToStoredForm(value, param, panel));
-      last.Set(TParamMemory::KeyOf(panel.GetQueryName(), param.Name), value);
+      last.Set(TParamMemory::KeyOf(source, panel.GetQueryName(), param.Name), value);
     }
   }
   delete dialog;

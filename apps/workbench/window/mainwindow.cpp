@@ -40,8 +40,8 @@ TLeaving AskToLeave(QWidget* parent, const QString& question, const QString& sav
 
 TMainWindow::TMainWindow(TSettings& settings, const QString& language) : FSettings(settings), FLanguage(language) {
   setObjectName(QStringLiteral("workbench"));
-  for (auto value = settings.Params.begin(); value != settings.Params.end(); ++value) {
-    FParams.Set(value.key(), value->toString());
+  for (qsizetype i = settings.Params.size() - 2; i >= 0; i -= 2) {
+    FParams.Set(settings.Params[i].toString(), settings.Params[i + 1].toString());
   }
   BuildPanes();
   BuildMenus();
@@ -289,9 +289,11 @@ void TMainWindow::SavePlaces() {
   FSettings.Layout.clear();
   QDataStream layout(&FSettings.Layout, QIODevice::WriteOnly);
   for (const auto& [splitter, shares] : Splitters()) layout << splitter->saveState();
-  QJsonObject params;
-  for (const auto& [key, value] : FParams.Values()) params.insert(key, value);
-  FSettings.Params = params;
+  FSettings.Params = {};
+  for (const auto& [key, value] : FParams.Values()) {
+    FSettings.Params << key;
+    FSettings.Params << value;
+  }
   if (FWorkspace) FSettings.LastQueries.insert(SourceKey(FWorkspace->GetSource()), QueryName());
 }
 

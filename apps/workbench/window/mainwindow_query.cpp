@@ -168,7 +168,7 @@ void TMainWindow::RunQuery() {
   try {
     const std::unique_ptr<TJQueryPanel> copy = CopyOfQuery();
     copy->SetQueryName(FromQString(QueryName()));
-    if (!AskParams(this, *copy, FParams)) return;
+    if (!AskParams(this, *copy, FParams, SourceKey(FWorkspace->GetSource()))) return;
     TBoundStatement statement = copy->GetBoundStatement(msQuestion);
     TakeGiven(statement, *copy);
     FResultPane->Run(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <algorithm>
 
@@ -70,7 +69,7 @@ TSettings FromJson(const QJsonObject& json) {
   settings.ExportFormat = text(QLatin1String("exportFormat"));
   settings.Orders = json.value(QLatin1String("orders")).toObject();
   settings.Syntaxes = json.value(QLatin1String("syntaxes")).toObject();
-  settings.Params = json.value(QLatin1String("params")).toObject();
+  settings.Params = json.value(QLatin1String("params")).toArray();
   return settings;
 }
 

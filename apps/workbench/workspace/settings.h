@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
 #include <cstdint>
@@ -30,9 +31,10 @@ struct TSettings {
   std::vector<TSource> Recent = {};
   QByteArray Geometry = {}, Layout = {};
   QString ExportFolder = {}, ExportFormat = {};
-  /// By `SourceKey`: the order of the queries, the one shown last, the syntax of the statement that is shown. The last
-  /// values of parameters.
-  QJsonObject Orders = {}, LastQueries = {}, Syntaxes = {}, Params = {};
+  /// By `SourceKey`: the order of the queries, the one shown last, the syntax of the statement that is shown.
+  QJsonObject Orders = {}, LastQueries = {}, Syntaxes = {};
+  /// The last values of parameters, keys and values by turns.
+  QJsonArray Params = {};
 
   /// Puts the source at the head of `Recent`.
   void Remember(const TSource& source);
