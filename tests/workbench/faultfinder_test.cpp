@@ -25,7 +25,7 @@ class FaultFinder : public testing::Test {
     FInner = &inner;
   }
 
-  /// The row that is found; "none" when none is within the time.
+  /// The row or the number of the column that is found; "none" when none is within the time.
   std::string Find() {
     std::string found = "none";
     const std::string text = FQuery.SaveToText();
@@ -37,7 +37,7 @@ class FaultFinder : public testing::Test {
           copy->LoadFromText(text);
           return copy;
         },
-        "1", [&found](const std::string& rowID) { found = rowID; });
+        "1", [&found](const TFaultPart& part) { found = part.Column < 0 ? part.RowID : std::to_string(part.Column); });
     // As long as a fault may take; a row that is none must not come at all.
     (void)QTest::qWaitFor([&found] { return found != "none"; }, 1000);
     return found;
@@ -56,10 +56,19 @@ TEST_F(FaultFinder, FindsTheConditionThatTheDatabaseRefuses) {
   EXPECT_EQ(Find(), "none") << "it does not take part";
 }
 
-TEST_F(FaultFinder, IsSilentWhenNoConditionIsAtFault) {
+TEST_F(FaultFinder, FindsTheColumnThatTheDatabaseRefuses) {
   FQuery.RFields().AddBySQLExpr("no_such_function(Customers.City)");
-  EXPECT_EQ(Find(), "none");
+  FQuery.RFields().Add(*FModel.FieldByName(fnFullName, "Customers.City"));
+  EXPECT_EQ(Find(), "1");
+  FInner->GetRow(0).SetEnabled(false);
+  FQuery.RootBracket().SetEnabled(false);
+  EXPECT_EQ(Find(), "1") << "also without conditions";
+  static_cast<void>(FQuery.RFields().Delete(0));
+  static_cast<void>(FQuery.RFields().Delete(1));
+  EXPECT_EQ(Find(), "0") << "also alone";
 }
+
+TEST_F(FaultFinder, IsSilentWhenEachPartAloneIsTaken) { EXPECT_EQ(Find(), "none"); }
 
 }  // namespace
 }  // namespace tolvi

@@ -1,6 +1,7 @@
 #include "apps/workbench/window/faultfinder.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/query/querpnl.h>
@@ -21,63 +22,95 @@ void Collect(TFilterBracket& bracket, std::vector<TFilterRow*>& conditions) {
   }
 }
 
+/// Nothing for what cannot be built, which is told elsewhere, and for what lacks values: the runner would refuse it,
+/// not the database.
+std::optional<TBoundStatement> StatementOf(TJQueryPanel& query, const std::string& limit) {
+  if (!limit.empty()) query.SetSQLLimitClause(limit);
+  try {
+    TBoundStatement statement = query.GetBoundStatement(msQuestion);
+    const bool isComplete = std::none_of(statement.Values.begin(), statement.Values.end(),
+                                         [](const TBoundValue& value) { return value.IsMissing; });
+    if (isComplete) return statement;
+  } catch (const EException&) {
+    return std::nullopt;
+  }
+  return std::nullopt;
+}
+
+/// Turns off all conditions but that one.
+void LeaveCondition(TJQueryPanel& query, const std::string& rowID) {
+  std::vector<TFilterRow*> rows;
+  Collect(query.RootBracket(), rows);
+  for (TFilterRow* row : rows) {
+    if (row->GetRowID() != rowID) row->SetEnabled(false);
+  }
+}
+
+void LeaveColumn(TJQueryPanel& query, std::size_t column) {
+  LeaveCondition(query, {});
+  for (std::size_t i = query.RFields().Count(); i-- > 0;) {
+    if (i != column) static_cast<void>(query.RFields().Delete(i));
+  }
+}
+
 }  // namespace
 
 TFaultFinder::TFaultFinder(QObject* parent) : QObject(parent) {
   FReader.OnEnd = [this](const TRunStats&) {
-    // Without conditions it works: one of them is at fault.
     ++FNext;
     TryNext();
   };
   FReader.OnFault = [this](const QString&, const QString&) {
-    const std::string rowID = FTrials[FNext].RowID;
-    FTrials.clear();
-    if (!rowID.empty() && FFound) FFound(rowID);
+    if (FTrials == &FConditions && FNext == 0) {
+      // Without conditions it fails as well: it is one of the columns.
+      FTrials = &FColumns;
+      return TryNext();
+    }
+    const TFaultPart part = (*FTrials)[FNext].Part;
+    Stop();
+    if (FFound) FFound(part);
   };
 }
 
 void TFaultFinder::Stop() {
   FReader.Drop();
-  FTrials.clear();
+  FConditions.clear();
+  FColumns.clear();
 }
 
 void TFaultFinder::Find(const std::function<std::unique_ptr<TJQueryPanel>()>& copyOfQuery, const std::string& limit,
-                        std::function<void(const std::string& rowID)> found) {
+                        std::function<void(const TFaultPart& part)> found) {
   Stop();
   FFound = std::move(found);
   const std::unique_ptr<TJQueryPanel> query = copyOfQuery();
   FQuotedBooleans = query->GetDBStruct()->SQLFormats().GetQuoteBool();
-  std::vector<TFilterRow*> conditions;
-  Collect(query->RootBracket(), conditions);
-  if (conditions.empty() || conditions.size() > MostTrials) return;
+  std::vector<TFilterRow*> rows;
+  Collect(query->RootBracket(), rows);
+  const std::size_t columns = query->RFields().Count();
+  if (rows.size() + columns > MostTrials) return;
   std::vector<std::string> rowIDs{""};
-  for (const TFilterRow* row : conditions) rowIDs.push_back(row->GetRowID());
+  for (const TFilterRow* row : rows) rowIDs.push_back(row->GetRowID());
   for (const std::string& rowID : rowIDs) {
     const std::unique_ptr<TJQueryPanel> copy = copyOfQuery();
-    std::vector<TFilterRow*> rows;
-    Collect(copy->RootBracket(), rows);
-    for (TFilterRow* row : rows) {
-      if (row->GetRowID() != rowID) row->SetEnabled(false);
-    }
-    if (!limit.empty()) copy->SetSQLLimitClause(limit);
-    try {
-      TBoundStatement statement = copy->GetBoundStatement(msQuestion);
-      // Without its values, the runner would refuse it, not the database.
-      const bool isComplete = std::none_of(statement.Values.begin(), statement.Values.end(),
-                                           [](const TBoundValue& value) { return value.IsMissing; });
-      if (isComplete) FTrials.push_back({rowID, std::move(statement)});
-    } catch (const EException&) {
-      // What cannot be built is told elsewhere.
-    }
+    LeaveCondition(*copy, rowID);
+    if (auto statement = StatementOf(*copy, limit)) FConditions.push_back({{rowID}, std::move(*statement)});
     // Without the first trial, nothing could be told of the others.
-    if (FTrials.empty()) return;
+    if (FConditions.empty()) return;
   }
+  for (std::size_t i = 0; i < columns; ++i) {
+    const std::unique_ptr<TJQueryPanel> copy = copyOfQuery();
+    LeaveColumn(*copy, i);
+    if (auto statement = StatementOf(*copy, limit)) {
+      FColumns.push_back({{{}, static_cast<std::ptrdiff_t>(i)}, std::move(*statement)});
+    }
+  }
+  FTrials = &FConditions;
   FNext = 0;
   TryNext();
 }
 
 void TFaultFinder::TryNext() {
-  if (FNext < FTrials.size()) FReader.Start(FTrials[FNext].Statement, FQuotedBooleans, 1);
+  if (FNext < FTrials->size()) FReader.Start((*FTrials)[FNext].Statement, FQuotedBooleans, 1);
 }
 
 }  // namespace tolvi

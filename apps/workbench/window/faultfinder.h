@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -13,34 +14,43 @@ namespace tolvi {
 
 class TJQueryPanel;
 
-/// Finds the condition for which a database refuses a query, as databases do not tell: by trying the query with each of
-/// its conditions alone, in the background.
+/// The part of a query at which a database takes offence: a condition, by the ID of its row, or a column, by its index
+/// among all result columns.
+struct TFaultPart {
+  std::string RowID = {};
+  std::ptrdiff_t Column = -1;
+};
+
+/// Finds the part for which a database refuses a query, as databases do not tell: by trying, in the background, the
+/// columns without conditions, then each condition alone, or else each column alone.
 class TFaultFinder final : public QObject {
  public:
   explicit TFaultFinder(QObject* parent = nullptr);
 
   void SetConnection(const TConnectionUrl& url) { FReader.SetConnection(url); }
   /// `copyOfQuery` gives copies of the query, with the model's way to write it; `limit` is a LIMIT clause, or empty.
-  /// `found` gets the ID of the row. It is not called when the fault is not that of one condition, nor once `Stop` or
-  /// another `Find` was called. Queries of many conditions are not looked into.
+  /// `found` is not called when no part alone is at fault, nor once `Stop` or another `Find` was called. Queries of
+  /// many conditions or columns are not looked into.
   void Find(const std::function<std::unique_ptr<TJQueryPanel>()>& copyOfQuery, const std::string& limit,
-            std::function<void(const std::string& rowID)> found);
+            std::function<void(const TFaultPart& part)> found);
   void Stop();
 
  private:
   struct TTrial {
-    // Empty: the query without conditions.
-    std::string RowID;
+    TFaultPart Part;
     TBoundStatement Statement;
   };
 
   void TryNext();
 
   TResultReader FReader;
-  std::vector<TTrial> FTrials;
+  // The first one of the conditions is the query without any.
+  std::vector<TTrial> FConditions, FColumns;
+  // Those that are being tried.
+  const std::vector<TTrial>* FTrials = nullptr;
   std::size_t FNext = 0;
   bool FQuotedBooleans = false;
-  std::function<void(const std::string& rowID)> FFound;
+  std::function<void(const TFaultPart& part)> FFound;
 };
 
 }  // namespace tolvi

@@ -121,6 +121,7 @@ class TMainWindow final : public QMainWindow {
   void RowsEnded();
   void ReadAllForChart();
   QString QueryName() const;
+  void ShowFaultOfColumn(const QString& words, std::size_t column);
 
   // The model.
   void ModelChanged();

@@ -185,7 +185,10 @@ void TMainWindow::ShowDatabaseFault(const QString& words) {
   const std::string limit = FWorkspace->HasLimitClause() ? "1" : "";
   try {
     FFaultFinder->Find([this] { return CopyOfQuery(); }, limit,
-                       [this, words](const std::string& rowID) { ShowFaultOfRow(words, rowID); });
+                       [this, words](const TFaultPart& part) {
+                         if (part.Column < 0) return ShowFaultOfRow(words, part.RowID);
+                         ShowFaultOfColumn(words, static_cast<std::size_t>(part.Column));
+                       });
   } catch (const EException&) {
     // The query has changed since: so will what is shown.
   }
@@ -198,6 +201,17 @@ void TMainWindow::ShowFaultOfRow(const QString& words, const std::string& rowID)
   const QString sentence = condition == nullptr ? ToQString(rowID.substr(1)) : ToQString(ExplainCondition(*condition));
   FResultPane->ShowFault(tr("The database refuses the condition “%1”:\n%2").arg(sentence, words));
   FResultPane->SetFaultAction(tr("Show in query"), [this, rowID] { FQueryArea->GoToRow(rowID); });
+}
+
+void TMainWindow::ShowFaultOfColumn(const QString& words, std::size_t column) {
+  const TRFieldList& columns = FWorkspace->Panel().RFields();
+  if (column >= columns.Count() || FResultPane->IsRunning()) return;
+  FResultPane->ShowFault(
+      tr("The database refuses the column “%1”:\n%2").arg(ToQString(columns[column].GetCaption()), words));
+  FResultPane->SetFaultAction(tr("Show in query"), [this, column] {
+    TResultFieldRows& rows = FQueryArea->Columns().GetRows();
+    if (column < rows.Count()) rows[column].GetPart(rpField).setFocus(Qt::OtherFocusReason);
+  });
 }
 
 void TMainWindow::RowsEnded() {
