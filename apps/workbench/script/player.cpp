@@ -100,7 +100,14 @@ class TPlayer final : public QObject {
     Continue(0);
   }
 
-  int GetResult() const { return FResult; }
+  /// Once the program has ended, be it by its script or by a command of it: the picture is due all the same, and lines
+  /// that are left have not been played. The exit status.
+  int Finish() {
+    SkipNotes();
+    if (FNext < FLines.size()) Tell(FNext, QStringLiteral("the program ended before this line"));
+    if (!FHasPicture) MakePicture();
+    return FResult;
+  }
 
  private:
   using TRun = void (TPlayer::*)(const QString& rest);
@@ -116,8 +123,12 @@ class TPlayer final : public QObject {
     QTimer::singleShot(milliseconds, this, [this] { PlayLine(); });
   }
 
-  void PlayLine() {
+  void SkipNotes() {
     while (FNext < FLines.size() && (FLines[FNext].trimmed().isEmpty() || FLines[FNext].startsWith(u'#'))) ++FNext;
+  }
+
+  void PlayLine() {
+    SkipNotes();
     // Keys let events come, this one, too.
     if (FIsTyping) return Continue(Step);
     if (FNext >= FLines.size()) return End();
@@ -157,10 +168,14 @@ class TPlayer final : public QObject {
     Continue(Step);
   }
 
-  void Fail(qsizetype line, const QString& words) {
-    if (FResult != 0) return;
+  void Tell(qsizetype line, const QString& words) {
     FResult = 1;
     std::fprintf(stderr, "%s:%d: %s\n", qPrintable(FScript), static_cast<int>(line) + 1, qPrintable(words));
+  }
+
+  void Fail(qsizetype line, const QString& words) {
+    if (FResult != 0) return;
+    Tell(line, words);
     if (!FPicture.isEmpty()) Picture(FProgram).save(FPicture, "PNG");
     // Without closing windows, which would ask.
     std::fflush(nullptr);
@@ -168,18 +183,23 @@ class TPlayer final : public QObject {
   }
 
   void End() {
-    if (!FPicture.isEmpty()) {
-      if (FScript.isEmpty() && !FWaited.isValid()) FWaited.start();
-      TMainWindow& window = FProgram.Window();
-      const bool isReady = window.ResultPane().GetRows() && !window.ResultPane().IsRunning();
-      if (FScript.isEmpty() && !isReady && !FWaited.hasExpired(Patience)) return Continue(Step);
-      try {
-        SavePicture(FProgram, FPicture);
-      } catch (const std::exception& error) {
-        Fail(FNext, QString::fromUtf8(error.what()));
-      }
+    if (FScript.isEmpty() && !FPicture.isEmpty()) {
+      if (!FWaited.isValid()) FWaited.start();
+      const TResultPane& results = FProgram.Window().ResultPane();
+      const bool isReady = results.GetRows() && !results.IsRunning();
+      if (!isReady && !FWaited.hasExpired(Patience)) return Continue(Step);
     }
+    MakePicture();
     QCoreApplication::exit(FResult);
+  }
+
+  void MakePicture() {
+    FHasPicture = true;
+    try {
+      if (!FPicture.isEmpty()) SavePicture(FProgram, FPicture);
+    } catch (const std::exception& error) {
+      Tell(FNext, QString::fromUtf8(error.what()));
+    }
   }
 
   // Commands
@@ -279,7 +299,7 @@ class TPlayer final : public QObject {
   const QString FScript, FPicture;
   QStringList FLines;
   int FNext = 0, FResult = 0;
-  bool FIsTyping = false;
+  bool FIsTyping = false, FHasPicture = false;
   std::function<bool()> FWaiting;
   std::function<QString()> FFound;
   QElapsedTimer FWaited;
@@ -318,7 +338,8 @@ int PlayScript(TProgram& program, const QString& script, const QString& picture)
   QTimer::singleShot(0, &program, [&program] { program.Start(); });
   TPlayer player(program, script, picture);
   const int status = QApplication::exec();
-  return status != 0 ? status : player.GetResult();
+  const int result = player.Finish();
+  return status != 0 ? status : result;
 }
 
 }  // namespace tolvi
