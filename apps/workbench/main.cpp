@@ -3,7 +3,10 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QIcon>
+#include <QThreadPool>
+#include <QTimer>
 #include <cstdio>
+#include <cstdlib>
 
 #include "apps/workbench/script/player.h"
 #include "apps/workbench/window/program.h"
@@ -33,6 +36,17 @@ TSource NamedSource(const QCommandLineParser& arguments, const QString& database
   source.QueryFolder = path(QStringLiteral("queries"));
   source.QueriesInDatabase = arguments.isSet(QStringLiteral("queries-in-database"));
   return source;
+}
+
+int Run(const TProgram::TOptions& options, const QCommandLineParser& arguments) {
+  TProgram program(options);
+  const QString script = QStringLiteral("script"), picture = QStringLiteral("screenshot");
+  if (arguments.isSet(script) || arguments.isSet(picture)) {
+    return PlayScript(program, arguments.value(script), arguments.value(picture));
+  }
+  // What opening asks has a loop of its own, which is to be one within that of the program.
+  QTimer::singleShot(0, &program, &TProgram::Start);
+  return QApplication::exec();
 }
 
 }  // namespace
@@ -79,13 +93,12 @@ int main(int argc, char** argv) try {
     options.Source = NamedSource(arguments, database);
     if (IsConnectionUrl(FromQString(database))) options.Password = ParseConnectionUrl(FromQString(database)).Password;
   }
-  TProgram program(options);
-  const bool plays = arguments.isSet(QStringLiteral("script")) || arguments.isSet(QStringLiteral("screenshot"));
-  if (!plays) {
-    program.Start();
-    return QApplication::exec();
-  }
-  return PlayScript(program, arguments.value(QStringLiteral("script")), arguments.value(QStringLiteral("screenshot")));
+  const int status = Run(options, arguments);
+  // A server that does not answer may keep a thread, but not the program.
+  constexpr int patience = 500;
+  if (QThreadPool::globalInstance()->waitForDone(patience)) return status;
+  std::fflush(nullptr);
+  std::_Exit(status);
 } catch (const std::exception& error) {
   std::fprintf(stderr, "tolvi-workbench: %s\n", error.what());
   return 2;

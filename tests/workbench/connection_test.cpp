@@ -7,29 +7,80 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMap>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include "apps/workbench/connection/connectiondlg.h"
 #include "apps/workbench/connection/connectiontest.h"
+#include "apps/workbench/connection/passworddlg.h"
 #include "apps/workbench/connection/secrets.h"
+#include "tests/workbench/silentserver.h"
+#include <tolvi/connect/sqlconnection.h>
+#include <tolvi/connect/sqldbinfo.h>
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
 namespace {
 
 const QString ShopFile = QStringLiteral(TOLVI_SHOP_DATABASE);
+
+/// What several keychains see: its texts, and how it behaves.
+struct TVault {
+  QMap<QString, QString> Texts = {};
+  /// What it says to everything, or to writing alone.
+  QString Fault = {}, WriteFault = {};
+  /// It answers only when it is told to.
+  bool IsSlow = false;
+  std::vector<std::function<void()>> Waiting = {};
+
+  void Answer() {
+    for (const auto& answer : std::exchange(Waiting, {})) answer();
+  }
+};
+
+class TTestKeychain final : public TKeychain {
+ public:
+  explicit TTestKeychain(TVault& vault) : FVault(vault) {}
+  void Read(const QString& key, TAnswered answered) override {
+    const bool isKnown = FVault.Fault.isEmpty() && FVault.Texts.contains(key);
+    Tell({FVault.Fault, isKnown, isKnown ? FVault.Texts.value(key) : QString()}, std::move(answered));
+  }
+  void Write(const QString& key, const QString& password, TAnswered answered) override {
+    const QString fault = FVault.Fault + FVault.WriteFault;
+    if (fault.isEmpty()) FVault.Texts.insert(key, password);
+    Tell({fault}, std::move(answered));
+  }
+  void Delete(const QString& key, TAnswered answered) override {
+    if (FVault.Fault.isEmpty()) FVault.Texts.remove(key);
+    Tell({FVault.Fault}, std::move(answered));
+  }
+
+ private:
+  void Tell(const TKeychainAnswer& answer, TAnswered answered) {
+    const auto call = [answer, answered = std::move(answered)] { answered(answer); };
+    if (FVault.IsSlow) return FVault.Waiting.push_back(call);
+    QTimer::singleShot(0, qApp, call);
+  }
+
+  TVault& FVault;
+};
+
+std::unique_ptr<TSecrets> SecretsIn(TVault& vault) {
+  auto secrets = std::make_unique<TSecrets>(std::make_unique<TTestKeychain>(vault));
+  if (!vault.IsSlow) secrets->WaitForKeychain(5000);
+  return secrets;
+}
 
 class ConnectionDialog : public testing::Test {
  protected:
@@ -58,7 +109,8 @@ class ConnectionDialog : public testing::Test {
   std::string Fault() { return FromQString(Find<QLabel>("fault").text()); }
   bool CanAccept() { return Find<QPushButton>("ok").isEnabled(); }
 
-  TSecrets Secrets;
+  TVault Vault;
+  TSecrets Secrets{std::make_unique<TTestKeychain>(Vault)};
   T_dlgConnection Dialog{Secrets};
 };
 
@@ -147,8 +199,11 @@ TEST_F(ConnectionDialog, TestsInTheBackground) {
     return FromQString(told.text());
   };
   Type("file", ShopFile);
-  const std::string words = test();
-  EXPECT_TRUE(words.starts_with("The connection works; ")) << words;
+  const TSqlConnection connection(ParseConnectionUrl("sqlite:" + FromQString(ShopFile)));
+  TJSqlDBInfo info(connection.GetName());
+  TStrings tables;
+  info.GetTableNames(tables);
+  EXPECT_EQ(test(), "The connection works; " + std::to_string(tables.Count()) + " table(s) found.");
   EXPECT_EQ(Find<QPushButton>("test").text(), QStringLiteral("&Test"));
   // What was said of another connection goes.
   Type("file", QStringLiteral(TOLVI_SOURCE_DIR "/README.md"));
@@ -157,40 +212,34 @@ TEST_F(ConnectionDialog, TestsInTheBackground) {
 }
 
 TEST_F(ConnectionDialog, KeepsPasswordsWhereTheUserWants) {
-  const bool hasKeychain = Secrets.GetKeychain() == TSecrets::kcReady;
+  EXPECT_TRUE(Find<QCheckBox>("remember").isEnabled());
   ChooseKind(1);
-  EXPECT_EQ(Find<QCheckBox>("remember").isEnabled(), hasKeychain);
-  EXPECT_EQ(Find<QLabel>("rememberTold").text().isEmpty(), hasKeychain);
   Type("database", QStringLiteral("shop"));
   Type("password", QStringLiteral("s3cret"));
   EXPECT_FALSE(Secrets.InSession(Dialog.GetUrl()).has_value());
   QTest::mouseClick(&Find<QPushButton>("ok"), Qt::LeftButton);
   EXPECT_EQ(Dialog.result(), QDialog::Accepted);
   EXPECT_EQ(Secrets.InSession(Dialog.GetUrl()), "s3cret");
+  EXPECT_TRUE(Vault.Texts.isEmpty());
+
+  Vault.WriteFault = QStringLiteral("it is locked");
+  Dialog.show();
+  Find<QCheckBox>("remember").setChecked(true);
+  QTest::mouseClick(&Find<QPushButton>("ok"), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Find<QLabel>("told").isVisible(); }));
+  EXPECT_EQ(FromQString(Find<QLabel>("told").text()),
+            "The keychain did not take the password: it is locked. It is known until the program ends.");
+  EXPECT_TRUE(Dialog.isVisible());
 }
 
-/// Takes connections and says nothing.
-class TSilentServer final {
- public:
-  TSilentServer() {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    EXPECT_EQ(bind(FSocket, reinterpret_cast<sockaddr*>(&address), size), 0);
-    EXPECT_EQ(listen(FSocket, 5), 0);
-    getsockname(FSocket, reinterpret_cast<sockaddr*>(&address), &size);
-    Port = ntohs(address.sin_port);
-  }
-  ~TSilentServer() { close(FSocket); }
-  TSilentServer(const TSilentServer&) = delete;
-  TSilentServer& operator=(const TSilentServer&) = delete;
-
-  int Port = 0;
-
- private:
-  const int FSocket = socket(AF_INET, SOCK_STREAM, 0);
-};
+TEST(ConnectionDialogAlone, SaysThatThereIsNoKeychain) {
+  TVault vault{.Fault = QStringLiteral("no such service")};
+  const auto secrets = SecretsIn(vault);
+  const T_dlgConnection dialog(*secrets);
+  EXPECT_FALSE(dialog.findChild<QCheckBox*>(QStringLiteral("connection.remember"))->isEnabled());
+  EXPECT_EQ(FromQString(dialog.findChild<QLabel*>(QStringLiteral("connection.rememberTold"))->text()),
+            "This system has no keychain: passwords are forgotten when the program ends.");
+}
 
 TEST(ConnectionTest, EndsWhereAServerIsSilentAndIsNotHeardOnceStopped) {
   TSilentServer server;
@@ -215,38 +264,101 @@ TEST(ConnectionTest, EndsWhereAServerIsSilentAndIsNotHeardOnceStopped) {
   EXPECT_TRUE(words.isEmpty());
 }
 
-TEST(Secrets, AreForgottenOnRequestAndNotToldToTheDead) {
-  const TConnectionUrl url = ParseConnectionUrl("postgresql://tolvi-test@localhost/nowhere");
-  auto secrets = std::make_unique<TSecrets>();
-  const bool hasKeychain = secrets->WaitForKeychain(5000) == TSecrets::kcReady;
-  EXPECT_EQ(secrets->GetKeychainFault().isEmpty(), hasKeychain);
-  std::optional<QString> fault;
-  secrets->KeepInKeychain(url, "s3cret", [&](const QString& words) { fault = words; });
-  ASSERT_TRUE(QTest::qWaitFor([&] { return fault.has_value(); }));
-  EXPECT_EQ(fault->isEmpty(), hasKeychain);
-  const auto find = [&] {
+class Secrets : public testing::Test {
+ protected:
+  static std::optional<std::string> Find(TSecrets& secrets) {
     std::optional<std::string> found;
     bool isDone = false;
-    secrets->Find(url, [&](const std::optional<std::string>& password) {
+    secrets.Find(Url, [&](const std::optional<std::string>& password) {
       found = password;
       isDone = true;
     });
     EXPECT_TRUE(QTest::qWaitFor([&] { return isDone; }));
     return found;
-  };
-  // Without a keychain, it is known for the session.
-  EXPECT_EQ(find(), "s3cret");
-  secrets->Forget(url);
-  EXPECT_EQ(find(), std::nullopt);
-  secrets->Find(url, [](const std::optional<std::string>&) { ADD_FAILURE() << "told to nobody"; });
+  }
+  /// What it says.
+  static std::string Keep(TSecrets& secrets) {
+    std::optional<QString> fault;
+    secrets.KeepInKeychain(Url, "s3cret", [&](const QString& words) { fault = words; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fault.has_value(); }));
+    return FromQString(*fault);
+  }
+
+  static inline const TConnectionUrl Url = ParseConnectionUrl("postgresql://anna@db/shop");
+  TVault Vault;
+};
+
+TEST_F(Secrets, OutliveTheProgramInTheKeychainUntilTheyAreForgotten) {
+  EXPECT_EQ(Keep(*SecretsIn(Vault)), "");
+  EXPECT_EQ(Vault.Texts.value(QStringLiteral("postgresql://anna@db/shop")), QStringLiteral("s3cret"));
+  const auto later = SecretsIn(Vault);
+  EXPECT_EQ(later->InSession(Url), std::nullopt);
+  EXPECT_EQ(Find(*later), "s3cret");
+  Vault.Texts.clear();
+  EXPECT_EQ(Find(*later), "s3cret") << "the keychain is not asked again";
+  later->Forget(Url);
+  EXPECT_EQ(Find(*later), std::nullopt);
+}
+
+TEST_F(Secrets, LastAsLongAsTheProgramWhereAKeychainIsMissingOrRefuses) {
+  Vault.Fault = QStringLiteral("no such service");
+  const auto missing = SecretsIn(Vault);
+  EXPECT_EQ(missing->GetKeychain(), TSecrets::kcNone);
+  EXPECT_EQ(missing->GetKeychainFault(), Vault.Fault);
+  EXPECT_EQ(Keep(*missing), "no such service");
+  EXPECT_EQ(Find(*missing), "s3cret");
+  std::optional<QString> fault;
+  missing->Forget(Url, [&](const QString& words) { fault = words; });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return fault.has_value(); }));
+  EXPECT_EQ(*fault, QString()) << "there was nothing to forget";
+  EXPECT_EQ(Find(*missing), std::nullopt);
+
+  Vault = {.WriteFault = QStringLiteral("it is locked")};
+  const auto refusing = SecretsIn(Vault);
+  EXPECT_EQ(refusing->GetKeychain(), TSecrets::kcReady);
+  EXPECT_EQ(Keep(*refusing), "it is locked");
+  EXPECT_EQ(Find(*refusing), "s3cret");
+}
+
+TEST_F(Secrets, AreNotWaitedForLongerThanIsWanted) {
+  Vault.Texts.insert(QStringLiteral("postgresql://anna@db/shop"), QStringLiteral("s3cret"));
+  EXPECT_EQ(SecretsIn(Vault)->WaitFor(Url, 60'000), "s3cret");
+  Vault.IsSlow = true;
+  auto secrets = SecretsIn(Vault);
+  EXPECT_EQ(secrets->WaitForKeychain(10), TSecrets::kcUnknown);
+  EXPECT_EQ(secrets->WaitFor(Url, 10), std::nullopt);
+  Vault.Answer();
+  EXPECT_EQ(secrets->InSession(Url), "s3cret") << "the answer came after all";
+  EXPECT_EQ(secrets->GetKeychain(), TSecrets::kcReady);
+
+  // What is typed meanwhile is not replaced by an older one.
+  secrets->Forget(Url);
+  secrets->Find(Url, [](const std::optional<std::string>& password) { EXPECT_EQ(password, "typed"); });
+  secrets->KeepInSession(Url, "typed");
+  Vault.Answer();
+  EXPECT_EQ(secrets->InSession(Url), "typed");
+
+  const TConnectionUrl other = ParseConnectionUrl("postgresql://bob@db/shop");
+  secrets->Find(other, [](const std::optional<std::string>&) { ADD_FAILURE() << "told to nobody"; });
   secrets.reset();
-  QTest::qWait(20);
+  Vault.Answer();
+}
+
+TEST_F(Secrets, OfTheSystemAnswerBeThereAKeychainOrNot) {
+  TSecrets secrets;
+  const bool hasKeychain = secrets.WaitForKeychain(5000) == TSecrets::kcReady;
+  EXPECT_EQ(secrets.GetKeychainFault().isEmpty(), hasKeychain);
+  EXPECT_EQ(Keep(secrets).empty(), hasKeychain);
+  EXPECT_EQ(Find(secrets), "s3cret");
+  secrets.Forget(Url);
+  EXPECT_EQ(Find(secrets), std::nullopt);
 }
 
 TEST(Passwords, AreAskedForWithWhatTheServerSaid) {
   const TConnectionUrl url = ParseConnectionUrl("postgresql://anna@db/shop");
-  TSecrets secrets;
-  const auto ask = [&](Qt::Key key, const QString& fault) {
+  TVault vault;
+  const auto secrets = SecretsIn(vault);
+  const auto ask = [&](Qt::Key key, const QString& fault, bool remember) {
     QTimer timer;
     timer.callOnTimeout([&] {
       QWidget* dialog = QApplication::activeModalWidget();
@@ -254,15 +366,26 @@ TEST(Passwords, AreAskedForWithWhatTheServerSaid) {
       timer.stop();
       EXPECT_EQ(dialog->findChild<QLabel*>(QStringLiteral("password.fault")) != nullptr, !fault.isEmpty());
       QTest::keyClicks(dialog->findChild<QLineEdit*>(QStringLiteral("password.password")), QStringLiteral("s3cret"));
+      dialog->findChild<QCheckBox*>(QStringLiteral("password.remember"))->setChecked(remember);
       QTest::keyClick(dialog, key);
     });
     timer.start(5);
-    return AskPassword(nullptr, url, secrets, fault);
+    return AskPassword(nullptr, url, *secrets, fault);
   };
-  EXPECT_EQ(ask(Qt::Key_Escape, {}), std::nullopt);
-  EXPECT_EQ(secrets.InSession(url), std::nullopt);
-  EXPECT_EQ(ask(Qt::Key_Return, QStringLiteral("password authentication failed")), "s3cret");
-  EXPECT_EQ(secrets.InSession(url), "s3cret");
+  EXPECT_FALSE(ask(Qt::Key_Escape, {}, false));
+  for (const bool remember : {false, true}) {
+    const auto given = ask(Qt::Key_Return, QStringLiteral("password authentication failed"), remember);
+    ASSERT_TRUE(given);
+    EXPECT_EQ(given->Password, "s3cret");
+    EXPECT_EQ(given->IsForKeychain, remember);
+  }
+  EXPECT_EQ(secrets->InSession(url), std::nullopt) << "nobody knows yet whether it is the right one";
+  vault.WriteFault = QStringLiteral("it is locked");
+  std::string told;
+  KeepPassword(*secrets, url, {"s3cret", true}, [&](const QString& words) { told = FromQString(words); });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !told.empty(); }));
+  EXPECT_EQ(told, "The keychain did not take the password: it is locked. It is known until the program ends.");
+  EXPECT_EQ(secrets->InSession(url), "s3cret");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -73,17 +74,83 @@ TEST_F(Workspace, KeepsQueriesInTheDatabaseWhenToldTo) {
   EXPECT_GE(Open(source)->Store().IndexByName("In here"), 0);
 }
 
-TEST_F(Workspace, SaysWhichFileCannotBeRead) {
+/// The message of what cannot be opened.
+std::string FaultOf(const std::function<void()>& open) {
+  try {
+    open();
+  } catch (const EException& error) {
+    return error.Message();
+  }
+  return "none";
+}
+
+TEST_F(Workspace, SaysWhatCannotBeReadAndHowToMendIt) {
   TSource source = Bare();
   source.ModelFile = FromQString(Path("broken.model"));
   WriteFileAtomically(source.ModelFile, "[FieldsCount]\nCount=many\n");
-  try {
-    Open(source);
-    FAIL() << "a broken model was opened";
-  } catch (const EFileError& error) {
-    EXPECT_NE(error.Message().find("broken.model: "), std::string::npos) << error.Message();
-  }
+  EXPECT_EQ(FaultOf([&] { Open(source); }),
+            source.ModelFile +
+                " is no data model, or a damaged one: Can not find section Main. Choose another file; "
+                "where there is none, a model is made from the tables of the database.");
   EXPECT_THROW(Open({"sqlite:" + FromQString(Path("none.sqlite"))}), EConnectError);
+
+  source = Bare();
+  source.QueriesInDatabase = true;
+  TSqlConnection(ParseConnectionUrl(source.Url)).Execute("CREATE TABLE tolvi_queries (a)");
+  EXPECT_EQ(FaultOf([&] { Open(source); }).find("Queries cannot be kept in this database: "), 0U);
+  EXPECT_EQ(
+      FaultOf([] { UnpackSample(QStringLiteral("/dev/null/sample")); }),
+      "The sample cannot be put into /dev/null/sample: the folder cannot be made. The option --home names another "
+      "place.");
+}
+
+TEST_F(Workspace, OpensADatabaseAlsoWhereNothingCanBeKept) {
+  TSource source = Bare();
+  source.QueryFolder = "/proc/nowhere/queries";
+  TWorkspace workspace(source, {}, QStringLiteral("/proc/nowhere"), {});
+  const std::string notes = workspace.GetNotes().Joined(" ");
+  EXPECT_NE(notes.find("The data model cannot be kept: "), std::string::npos) << notes;
+  EXPECT_NE(notes.find("Queries cannot be kept in /proc/nowhere/queries: "), std::string::npos) << notes;
+  EXPECT_EQ(workspace.Store().Count(), 0);
+  EXPECT_NE(workspace.Panel().GetQueryText().find("SELECT"), std::string::npos);
+  EXPECT_TRUE(workspace.Unsaved().IsEmpty()) << "the user has done nothing yet";
+  EXPECT_THROW(workspace.SaveQuery(), EQueryStoreError);
+}
+
+TEST_F(Workspace, TellsOfADatabaseWithoutTablesAndOfADriverWithoutLinks) {
+  const std::string file = FromQString(Path("small.sqlite")), odbc = "odbc:Driver={SQLite3};Database=" + file;
+  TSqlConnection small({.Kind = dkSQLite, .Database = file}, {.MustExist = false});
+  EXPECT_EQ(Open({"sqlite:" + file})->GetNotes().GetText(),
+            "The database has no tables that can be read. Once it has some, Model > Read new tables from the database "
+            "finds them.\r\n");
+  small.Execute("CREATE TABLE customers (cust_no INTEGER PRIMARY KEY, name TEXT)");
+  small.Execute("CREATE TABLE orders (order_no INTEGER PRIMARY KEY, cust_no INTEGER)");
+  const auto workspace = Open({odbc});
+  EXPECT_EQ(workspace->Model().GetLinkCount(), 1U);
+  EXPECT_EQ(workspace->GetNotes().GetText().find("The driver tells nothing of links between tables. 1 link"), 0U)
+      << workspace->GetNotes().GetText();
+}
+
+TEST_F(Workspace, CopiesTheQueriesOfAnotherPlaceOnce) {
+  const TSource sample = UnpackSample(Path("sample"));
+  TSource database = sample;
+  database.QueriesInDatabase = true;
+  const auto workspace = Open(database);
+  EXPECT_EQ(workspace->QueryFolderOf(sample), Path("sample/queries"));
+  EXPECT_EQ(workspace->QueryFolderOf(database), QString());
+  const std::string shown = workspace->QueryText();
+  EXPECT_EQ(workspace->CopyQueries(sample), 40);
+  EXPECT_EQ(workspace->Store().Count(), 41);
+  EXPECT_EQ(workspace->QueryText(), shown);
+  EXPECT_EQ(workspace->CopyQueries(sample), 0);
+  // One of the same name that says something else is another one.
+  workspace->Store().SetItemIndex(workspace->Store().IndexByName("Best customers"));
+  workspace->Panel().AddCondition(workspace->Panel().RootBracket(), workspace->Model().GetField(1));
+  workspace->SaveQuery();
+  EXPECT_EQ(workspace->CopyQueries(sample), 1);
+  EXPECT_GE(workspace->Store().IndexByName("Best customers (2)"), 0);
+  // The other way round, out of a database that is open for reading only.
+  EXPECT_EQ(Open(sample)->CopyQueries(database), 3);
 }
 
 TEST_F(Workspace, PutsUnsavedWorkBackAlsoWhenItsQueryIsGone) {

@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #include <tolvi/connect/connecturl.h>
@@ -73,10 +72,5 @@ class T_dlgConnection final : public QDialog {
   int FTestSeconds = 10;
   bool FShowing = false;
 };
-
-/// Asks for the password of a connection, and keeps it where the user wants. Nothing: the user gave up. `fault` is what
-/// the server said to the one before.
-std::optional<std::string> AskPassword(QWidget* parent, const TConnectionUrl& url, TSecrets& secrets,
-                                       const QString& fault = {});
 
 }  // namespace tolvi

@@ -2,12 +2,14 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QSqlDatabase>
 #include <QThreadPool>
 #include <QTimer>
 #include <exception>
 
+#include <tolvi/connect/queryrunner.h>
 #include <tolvi/connect/sqlconnection.h>
-#include <tolvi/connect/sqldbinfo.h>
+#include <tolvi/query/values.h>
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
@@ -19,16 +21,44 @@ struct TAnswer {
   QString Words;
 };
 
+/// One question to the catalogue: what can be read at all is counted, which is not all that there is to know of it.
+/// None for ODBC, whose drivers have a call for it.
+const char* CountOf(TDatabaseKind kind) {
+  switch (kind) {
+    case dkSQLite:
+      return "SELECT count(*) FROM sqlite_master WHERE type IN ('table', 'view') AND name NOT LIKE 'sqlite~_%' "
+             "ESCAPE '~' AND name <> 'tolvi_queries'";
+    case dkPostgreSQL:
+      return "SELECT count(*) FROM pg_catalog.pg_class WHERE relkind IN ('r', 'p', 'v', 'm', 'f') AND "
+             "pg_catalog.pg_table_is_visible(oid) AND relname <> 'tolvi_queries' AND relnamespace NOT IN (SELECT oid "
+             "FROM pg_catalog.pg_namespace WHERE nspname IN ('pg_catalog', 'information_schema'))";
+    case dkMySQL:
+      return "SELECT count(*) FROM information_schema.tables WHERE table_schema = DATABASE() AND table_name <> "
+             "'tolvi_queries'";
+    case dkODBC:
+      break;
+  }
+  return nullptr;
+}
+
+int CountTables(const TSqlConnection& connection) {
+  const char* sql = CountOf(connection.GetKind());
+  const QSqlDatabase database = QSqlDatabase::database(ToQString(connection.GetName()), false);
+  if (sql == nullptr) return static_cast<int>(database.tables(QSql::TableType(QSql::Tables | QSql::Views)).size());
+  TJQueryRunner runner(connection.GetName());
+  TBoundStatement statement;
+  statement.SQL = sql;
+  runner.Run(statement, false);
+  return runner.Next() ? ToQString(runner.Value(0).Text).toInt() : 0;
+}
+
 /// In a thread of its own.
 TAnswer Connect(const TConnectionUrl& url, int seconds) {
   TAnswer answer;
   try {
     const TSqlConnection connection(url, {.ReadOnly = true, .TimeoutSeconds = seconds});
-    TJSqlDBInfo info(connection.GetName());
-    TStrings tables;
-    info.GetTableNames(tables);
+    answer.Tables = CountTables(connection);
     answer.Works = true;
-    answer.Tables = static_cast<int>(tables.Count());
   } catch (const EException& error) {
     answer.Words = ToQString(error.Message());
   } catch (const std::exception& error) {

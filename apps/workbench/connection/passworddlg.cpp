@@ -1,11 +1,14 @@
+#include "apps/workbench/connection/passworddlg.h"
+
 #include <QCheckBox>
+#include <QCoreApplication>
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 
-#include "apps/workbench/connection/connectiondlg.h"
 #include "apps/workbench/connection/secrets.h"
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/dialogs/checkstyle.h>
@@ -70,20 +73,26 @@ class TPasswordDialog final : public QDialog {
 
 }  // namespace
 
-std::optional<std::string> AskPassword(QWidget* parent, const TConnectionUrl& url, TSecrets& secrets,
-                                       const QString& fault) {
+std::optional<TGivenPassword> AskPassword(QWidget* parent, const TConnectionUrl& url, TSecrets& secrets,
+                                          const QString& fault) {
   const bool hasKeychain = secrets.WaitForKeychain(KeychainMilliseconds) == TSecrets::kcReady;
   const QPointer<TPasswordDialog> dialog = new TPasswordDialog(parent, url, hasKeychain, fault);
   const bool isTaken = dialog->exec() == QDialog::Accepted;
   if (!dialog) return std::nullopt;
-  const std::string password = dialog->Password();
-  if (isTaken && dialog->IsRemembered()) {
-    secrets.KeepInKeychain(url, password);
-  } else if (isTaken) {
-    secrets.KeepInSession(url, password);
-  }
+  TGivenPassword given{dialog->Password(), dialog->IsRemembered()};
   delete dialog;
-  return isTaken ? std::optional(password) : std::nullopt;
+  return isTaken ? std::optional(std::move(given)) : std::nullopt;
+}
+
+void KeepPassword(TSecrets& secrets, const TConnectionUrl& url, const TGivenPassword& given,
+                  const std::function<void(const QString& words)>& told) {
+  if (!given.IsForKeychain) return secrets.KeepInSession(url, given.Password);
+  secrets.KeepInKeychain(url, given.Password, [told](const QString& fault) {
+    if (fault.isEmpty()) return;
+    told(QCoreApplication::translate("tolvi::T_dlgConnection",
+                                     "The keychain did not take the password: %1. It is known until the program ends.")
+             .arg(fault));
+  });
 }
 
 }  // namespace tolvi

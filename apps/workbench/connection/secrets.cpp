@@ -5,52 +5,35 @@
 #include <QTimer>
 #include <utility>
 
-#include <qt6keychain/keychain.h>
-
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
 namespace {
 
-QString Service() { return QStringLiteral("tolvi-workbench"); }
-
 /// What tells whether there is a keychain at all; nothing is stored there.
 QString ProbeKey() { return QStringLiteral("probe"); }
 
-template <typename TJob>
-TJob* MakeJob(const QString& key) {
-  auto* job = new TJob(Service());
-  job->setAutoDelete(true);
-  job->setInsecureFallback(false);
-  job->setKey(key);
-  return job;
-}
-
 QString KeyOf(const TConnectionUrl& url) { return ToQString(url.Shown()); }
-
-QString FaultOf(const QKeychain::Job& job) {
-  return job.error() == QKeychain::NoError || job.error() == QKeychain::EntryNotFound ? QString() : job.errorString();
-}
 
 }  // namespace
 
-TSecrets::TSecrets(QObject* parent) : QObject(parent) {
-  auto* job = MakeJob<QKeychain::ReadPasswordJob>(ProbeKey());
-  connect(job, &QKeychain::Job::finished, this, [this](const QKeychain::Job* done) {
-    const QString fault = FaultOf(*done);
-    Known(done->error() == QKeychain::NoError || done->error() == QKeychain::EntryNotFound ? kcReady : kcNone, fault);
-  });
-  job->start();
+TSecrets::TSecrets(std::unique_ptr<TKeychain> keychain, QObject* parent)
+    : QObject(parent), FKeychain(std::move(keychain)) {
+  FKeychain->Read(ProbeKey(), Guarded([this](const TKeychainAnswer& answer) {
+                    FState = answer.Fault.isEmpty() ? kcReady : kcNone;
+                    FKeychainFault = answer.Fault;
+                    if (const auto handler = OnKeychain) handler();
+                  }));
 }
 
-void TSecrets::Known(TKeychain keychain, const QString& fault) {
-  FKeychain = keychain;
-  FKeychainFault = fault;
-  if (const auto handler = OnKeychain) handler();
+TKeychain::TAnswered TSecrets::Guarded(TKeychain::TAnswered answered) {
+  return [self = QPointer(this), answered = std::move(answered)](const TKeychainAnswer& answer) {
+    if (self) answered(answer);
+  };
 }
 
-TSecrets::TKeychain TSecrets::WaitForKeychain(int milliseconds) {
-  if (FKeychain != kcUnknown) return FKeychain;
+TSecrets::TKeychainState TSecrets::WaitForKeychain(int milliseconds) {
+  if (FState != kcUnknown) return FState;
   const QPointer<TSecrets> self = this;
   QEventLoop loop;
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
@@ -59,8 +42,8 @@ TSecrets::TKeychain TSecrets::WaitForKeychain(int milliseconds) {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
   if (!self) return kcNone;
   OnKeychain = handler;
-  if (FKeychain != kcUnknown && handler) handler();
-  return self ? FKeychain : kcNone;
+  if (FState != kcUnknown && handler) handler();
+  return self ? FState : kcNone;
 }
 
 std::optional<std::string> TSecrets::InSession(const TConnectionUrl& url) const {
@@ -69,19 +52,37 @@ std::optional<std::string> TSecrets::InSession(const TConnectionUrl& url) const 
 }
 
 void TSecrets::Find(const TConnectionUrl& url, TFound found) {
-  if (const auto password = InSession(url); password || FKeychain == kcNone) {
+  if (const auto password = InSession(url); password || FState == kcNone) {
     QMetaObject::invokeMethod(
         this, [found = std::move(found), password] { found(password); }, Qt::QueuedConnection);
     return;
   }
-  auto* job = MakeJob<QKeychain::ReadPasswordJob>(KeyOf(url));
-  connect(job, &QKeychain::Job::finished, this, [this, url, found = std::move(found)](QKeychain::Job* done) {
-    if (done->error() != QKeychain::NoError) return found(std::nullopt);
-    const std::string password = FromQString(static_cast<QKeychain::ReadPasswordJob*>(done)->textData());
-    KeepInSession(url, password);
-    found(password);
+  FKeychain->Read(KeyOf(url), Guarded([this, url, found = std::move(found)](const TKeychainAnswer& answer) {
+                    // One that was typed meanwhile is the newer one.
+                    if (const auto typed = InSession(url)) return found(typed);
+                    if (!answer.IsKnown) return found(std::nullopt);
+                    const std::string password = FromQString(answer.Password);
+                    KeepInSession(url, password);
+                    found(password);
+                  }));
+}
+
+std::optional<std::string> TSecrets::WaitFor(const TConnectionUrl& url, int milliseconds) {
+  // Outlives this call, should the keychain answer later.
+  struct TWait {
+    std::optional<std::string> Password;
+    QPointer<QEventLoop> Loop;
+  };
+  QEventLoop loop;
+  const auto wait = std::make_shared<TWait>();
+  wait->Loop = &loop;
+  Find(url, [wait](std::optional<std::string> password) {
+    wait->Password = std::move(password);
+    if (wait->Loop) wait->Loop->quit();
   });
-  job->start();
+  QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  return wait->Password;
 }
 
 void TSecrets::KeepInSession(const TConnectionUrl& url, const std::string& password) {
@@ -90,21 +91,16 @@ void TSecrets::KeepInSession(const TConnectionUrl& url, const std::string& passw
 
 void TSecrets::KeepInKeychain(const TConnectionUrl& url, const std::string& password, TDone done) {
   KeepInSession(url, password);
-  auto* job = MakeJob<QKeychain::WritePasswordJob>(KeyOf(url));
-  job->setTextData(ToQString(password));
-  connect(job, &QKeychain::Job::finished, this, [done = std::move(done)](const QKeychain::Job* job) {
-    if (done) done(FaultOf(*job));
-  });
-  job->start();
+  FKeychain->Write(KeyOf(url), ToQString(password), Guarded([done = std::move(done)](const TKeychainAnswer& answer) {
+                     if (done) done(answer.Fault);
+                   }));
 }
 
 void TSecrets::Forget(const TConnectionUrl& url, TDone done) {
   FSession.erase(url.Shown());
-  auto* job = MakeJob<QKeychain::DeletePasswordJob>(KeyOf(url));
-  connect(job, &QKeychain::Job::finished, this, [this, done = std::move(done)](const QKeychain::Job* job) {
-    if (done) done(FKeychain == kcNone ? QString() : FaultOf(*job));
-  });
-  job->start();
+  FKeychain->Delete(KeyOf(url), Guarded([this, done = std::move(done)](const TKeychainAnswer& answer) {
+                      if (done) done(FState == kcNone ? QString() : answer.Fault);
+                    }));
 }
 
 }  // namespace tolvi

@@ -4,9 +4,11 @@
 #include <QString>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "apps/workbench/connection/keychain.h"
 #include <tolvi/connect/connecturl.h>
 
 namespace tolvi {
@@ -19,24 +21,28 @@ class TSecrets final : public QObject {
   Q_OBJECT
 
  public:
-  enum TKeychain { kcUnknown, kcNone, kcReady };
+  enum TKeychainState { kcUnknown, kcNone, kcReady };
 
-  explicit TSecrets(QObject* parent = nullptr);
+  explicit TSecrets(QObject* parent = nullptr) : TSecrets(SystemKeychain(), parent) {}
+  explicit TSecrets(std::unique_ptr<TKeychain> keychain, QObject* parent = nullptr);
 
   /// Asked when the object is made, known a moment later: `OnKeychain` tells.
-  TKeychain GetKeychain() const { return FKeychain; }
+  TKeychainState GetKeychain() const { return FState; }
   /// Why there is no keychain, for people.
   const QString& GetKeychainFault() const { return FKeychainFault; }
   std::function<void()> OnKeychain;
 
   /// Waits until it is known whether there is a keychain, but no longer than this; for programs without a dialog.
-  TKeychain WaitForKeychain(int milliseconds);
+  TKeychainState WaitForKeychain(int milliseconds);
 
   using TFound = std::function<void(std::optional<std::string> password)>;
   using TDone = std::function<void(const QString& fault)>;
 
   /// The password of the session, or else that of the keychain; nothing when neither knows one.
   void Find(const TConnectionUrl& url, TFound found);
+  /// As `Find`, but waits for the keychain, though no longer than this: it may ask its user. A later answer is kept for
+  /// the session.
+  std::optional<std::string> WaitFor(const TConnectionUrl& url, int milliseconds);
   /// That of the session only.
   std::optional<std::string> InSession(const TConnectionUrl& url) const;
   /// Until the program ends.
@@ -47,10 +53,12 @@ class TSecrets final : public QObject {
   void Forget(const TConnectionUrl& url, TDone done = {});
 
  private:
-  void Known(TKeychain keychain, const QString& fault);
+  // Called only while this object is there.
+  TKeychain::TAnswered Guarded(TKeychain::TAnswered answered);
 
+  std::unique_ptr<TKeychain> FKeychain;
   std::map<std::string, std::string> FSession;
-  TKeychain FKeychain = kcUnknown;
+  TKeychainState FState = kcUnknown;
   QString FKeychainFault;
 };
 

@@ -141,7 +141,8 @@ void TMainWindow::SetWorkspace(std::unique_ptr<TWorkspace> workspace, const QStr
     FWorkspace->Store().AfterScroll = nullptr;
   }
   FWorkspace = std::move(workspace);
-  centralWidget()->setEnabled(FWorkspace != nullptr);
+  // The note stays of use.
+  FColumns->setEnabled(FWorkspace != nullptr);
   RefreshTitle();
   RefreshCommands();
   if (!FWorkspace) {

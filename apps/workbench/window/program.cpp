@@ -1,21 +1,19 @@
 #include "apps/workbench/window/program.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QEventLoop>
 #include <QLocale>
-#include <QMessageBox>
 #include <QStandardPaths>
 
 #include "apps/workbench/connection/connectiondlg.h"
+#include "apps/workbench/connection/passworddlg.h"
 #include "apps/workbench/store/storepane.h"
 #include "apps/workbench/window/languages.h"
 #include "apps/workbench/window/mainwindow.h"
+#include "apps/workbench/window/openingdlg.h"
 #include "apps/workbench/window/themes.h"
 #include "apps/workbench/workspace/sample.h"
 #include <tolvi/foundation/numbers.h>
-#include <tolvi/ui/controls/waitcursor.h>
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
@@ -50,15 +48,43 @@ void TProgram::Start() {
   if (FOptions.Source && !FOptions.Password.empty()) {
     FSecrets.KeepInSession(ParseConnectionUrl(FOptions.Source->Url), FOptions.Password);
   }
-  if (!Recover()) {
-    bool isOpen = false;
-    if (FOptions.Source) isOpen = Open(*FOptions.Source);
-    if (!FOptions.Source && !FOptions.OpensSample && !Settings().Recent.empty())
-      isOpen = Open(Settings().Recent.front());
-    if (!isOpen && FWindow->GetWorkspace() == nullptr) OpenSample();
+  const std::optional<TUnsavedWork> work = FRecovery.Find();
+  try {
+    const std::optional<TSource> named = NamedSource();
+    const bool isOther = named && work && work->Source != *named;
+    const bool isRecovered = work && !isOther && Recover(*work);
+    if (!isRecovered && FWindow->GetWorkspace() == nullptr) OpenFirst(named ? *named : LastSource());
+    if (isOther) Offer(*work);
+  } catch (const std::exception& error) {
+    FWindow->Tell(QString::fromUtf8(error.what()));
   }
   if (!FSettingsFile.GetNote().isEmpty()) FWindow->Tell(FSettingsFile.GetNote());
   FKeep.start(KeepMilliseconds);
+}
+
+std::optional<TSource> TProgram::NamedSource() const {
+  if (FOptions.OpensSample) return UnpackSample(SampleFolder());
+  return FOptions.Source;
+}
+
+TSource TProgram::LastSource() {
+  return Settings().Recent.empty() ? UnpackSample(SampleFolder()) : Settings().Recent.front();
+}
+
+void TProgram::OpenFirst(const TSource& source) {
+  try {
+    if (auto workspace = Opened(source)) return Show(std::move(workspace));
+    TellNotOpened(source, tr("%1 is not open.").arg(ToQString(source.Url)));
+  } catch (const std::exception& error) {
+    TellNotOpened(source, QString::fromUtf8(error.what()));
+  }
+}
+
+void TProgram::TellNotOpened(const TSource& source, const QString& why) {
+  FWindow->SetWorkspace(nullptr, why);
+  FWindow->Tell(why, {{tr("Try again"), [this, source] { OpenFirst(source); }},
+                      {tr("Open another one..."), [this] { Connect(); }},
+                      {tr("Open the sample"), [this] { OpenSample(); }}});
 }
 
 void TProgram::MakeWindow() {
@@ -84,44 +110,42 @@ void TProgram::UseLanguage(const QString& code) {
   MakeWindow();
 }
 
-std::optional<std::string> TProgram::KnownPassword(const TConnectionUrl& url) {
-  if (url.Kind == dkSQLite) return std::string();
-  // Outlives this call, should the keychain answer later.
-  struct TAnswer {
-    std::optional<std::string> Password;
-    bool IsThere = false;
-  };
-  const auto answer = std::make_shared<TAnswer>();
-  FSecrets.Find(url, [answer](std::optional<std::string> password) { *answer = {std::move(password), true}; });
+std::unique_ptr<TWorkspace> TProgram::Opened(const TSource& source) {
   // A keychain may ask its user; one that does not answer is not waited for.
-  QEventLoop loop;
-  const QDeadlineTimer patience(5'000);
-  while (!answer->IsThere && !patience.hasExpired()) {
-    loop.processEvents(QEventLoop::ExcludeUserInputEvents, 50);
+  constexpr int keychainPatience = 5'000;
+  const TConnectionUrl url = ParseConnectionUrl(source.Url);
+  TGivenPassword given;
+  bool isAsked = false;
+  if (url.Kind != dkSQLite) given.Password = FSecrets.WaitFor(url, keychainPatience).value_or(std::string());
+  while (true) {
+    QString fault;
+    try {
+      auto workspace = OpenWorkspace(FWindow.get(), source, given.Password, FolderOf(source, FData), SystemFormats());
+      if (workspace && isAsked) {
+        KeepPassword(FSecrets, url, given, [this](const QString& words) { FWindow->Tell(words); });
+      }
+      return workspace;
+    } catch (const ENoAnswerError&) {
+      throw;
+    } catch (const EConnectError& error) {
+      // A server may want another password; nothing else can be mended by one.
+      if (url.Kind == dkSQLite) throw;
+      fault = QString::fromUtf8(error.what());
+    }
+    const std::optional<TGivenPassword> answer = AskPassword(FWindow.get(), url, FSecrets, fault);
+    if (!answer) return nullptr;
+    given = *answer;
+    isAsked = true;
   }
-  return answer->Password;
 }
 
 bool TProgram::Open(const TSource& source) {
   if (!FWindow->MayLeaveQuery() || !FWindow->MayLeaveModel()) return false;
   try {
-    const TConnectionUrl url = ParseConnectionUrl(source.Url);
-    std::string password = KnownPassword(url).value_or(std::string());
-    while (true) {
-      QString fault;
-      try {
-        const TWaitCursor wait;
-        Show(std::make_unique<TWorkspace>(source, password, FolderOf(source, FData), SystemFormats()));
-        return true;
-      } catch (const EConnectError& error) {
-        // A server may want another password; nothing else can be mended by one.
-        if (url.Kind == dkSQLite) throw;
-        fault = QString::fromUtf8(error.what());
-      }
-      const std::optional<std::string> given = AskPassword(FWindow.get(), url, FSecrets, fault);
-      if (!given) return false;
-      password = *given;
-    }
+    auto workspace = Opened(source);
+    if (!workspace) return false;
+    Show(std::move(workspace));
+    return true;
   } catch (const std::exception& error) {
     FWindow->TellFault(QString::fromUtf8(error.what()));
     return false;
@@ -179,21 +203,40 @@ void TProgram::RestoreSample() {
   }
 }
 
-bool TProgram::Recover() {
-  const std::optional<TUnsavedWork> work = FRecovery.Find();
-  if (!work) return false;
+bool TProgram::Recover(const TUnsavedWork& work) {
   const QString file = QDir::toNativeSeparators(FRecovery.FoundFile());
-  if (!Open(work->Source) || !FWindow->Restore(*work)) {
+  if (!Open(work.Source) || !FWindow->Restore(work)) {
     FRecovery.Leave();
     FWindow->TellFault(
         tr("Changes that were not saved cannot be put back now. They stay in %1, and the next start tries "
            "it again.")
             .arg(file));
-    return FWindow->GetWorkspace() != nullptr;
+    return false;
   }
   Keep();
   FRecovery.Drop();
   return true;
+}
+
+void TProgram::Offer(const TUnsavedWork& work) {
+  const QString source = SourceName(work.Source);
+  const QString words =
+      work.QueryText
+          ? tr("The program ended before changes of “%1” in %2 were saved. They are kept until you take them or "
+               "discard them.")
+                .arg(ToQString(work.QueryName), source)
+          : tr("The program ended before changes of the data model of %1 were saved. They are kept until you take them "
+               "or discard them.")
+                .arg(source);
+  FWindow->Tell(words, {{tr("Open %1 with them").arg(source),
+                         [this, work] {
+                           if (FWindow->MayLeaveQuery() && FWindow->MayLeaveModel()) {
+                             Recover(work);
+                           } else {
+                             Offer(work);
+                           }
+                         }},
+                        {tr("Discard"), [this] { FRecovery.Drop(); }}});
 }
 
 void TProgram::Keep() {

@@ -38,12 +38,15 @@ class TProgram final : public QObject {
   explicit TProgram(const TOptions& options);
   ~TProgram() override;
 
-  /// Shows the window, opens the source, brings unsaved work of a program that was killed back.
+  /// Shows the window, opens the source, brings unsaved work of a program that was killed back. A source that cannot be
+  /// opened is told in the window, which is empty then: nobody asked for another one. Unsaved work of another source
+  /// than the one that was named is only offered.
   void Start();
-  /// False when it could not be opened and the user gave up; the former source is then still open.
+  /// False when it could not be opened, which is told, or the user gave up; the former source is then still open.
   bool Open(const TSource& source);
   TMainWindow& Window() const { return *FWindow; }
   TSettings& Settings() { return FSettingsFile.Settings; }
+  TSecrets& Secrets() { return FSecrets; }
 
   /// How often unsaved work is kept.
   static constexpr int KeepMilliseconds = 2000;
@@ -51,14 +54,21 @@ class TProgram final : public QObject {
  private:
   void MakeWindow();
   void Show(std::unique_ptr<TWorkspace> workspace);
-  std::optional<std::string> KnownPassword(const TConnectionUrl& url);
+  // Null: the user gave up. Raises why it cannot be opened.
+  std::unique_ptr<TWorkspace> Opened(const TSource& source);
+  // Both raise `EFileError`, for the sample.
+  std::optional<TSource> NamedSource() const;
+  TSource LastSource();
+  void OpenFirst(const TSource& source);
+  void TellNotOpened(const TSource& source, const QString& why);
   void UseLanguage(const QString& code);
   void Connect();
   void OpenSample();
   void RestoreSample();
   void Keep();
   void Quit();
-  bool Recover();
+  bool Recover(const TUnsavedWork& work);
+  void Offer(const TUnsavedWork& work);
   QString SampleFolder() const;
 
   const QString FData;

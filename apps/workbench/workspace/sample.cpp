@@ -1,5 +1,6 @@
 #include "apps/workbench/workspace/sample.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -37,7 +38,13 @@ TSource UnpackSample(const QString& folder) {
                 queries = place.filePath(QStringLiteral("queries"));
   // The database is the last: with it, the sample is whole.
   if (!QFileInfo::exists(database)) {
-    if (!QDir().mkpath(queries)) throw EFileError("cannot make the folder " + FromQString(queries));
+    if (!QDir().mkpath(queries)) {
+      throw EFileError(FromQString(
+          QCoreApplication::translate("tolvi::TWorkspace",
+                                      "The sample cannot be put into %1: the folder cannot be made. The option --home "
+                                      "names another place.")
+              .arg(QDir::toNativeSeparators(folder))));
+    }
     const QDir stored(Root + QStringLiteral("/queries"));
     for (const QString& name : stored.entryList()) CopyQuery(stored.filePath(name), QDir(queries));
     for (const QString& file : {model, database}) {
@@ -51,7 +58,11 @@ QString RestoreSample(const QString& folder) {
   QString kept;
   if (QFileInfo::exists(folder)) {
     kept = folder + QDateTime::currentDateTime().toString(QStringLiteral("-yyyyMMdd-HHmmss"));
-    if (!QDir().rename(folder, kept)) throw EFileError("cannot rename the folder " + FromQString(folder));
+    if (!QDir().rename(folder, kept)) {
+      throw EFileError(FromQString(
+          QCoreApplication::translate("tolvi::TWorkspace", "The sample stays as it is: %1 cannot be renamed.")
+              .arg(QDir::toNativeSeparators(folder))));
+    }
   }
   UnpackSample(folder);
   return kept;

@@ -1,5 +1,6 @@
 #include "apps/workbench/workspace/workspace.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
@@ -14,6 +15,12 @@
 
 namespace tolvi {
 namespace {
+
+struct TTexts {
+  Q_DECLARE_TR_FUNCTIONS(tolvi::TWorkspace)
+};
+
+QString Words(const EException& error) { return ToQString(error.Message()); }
 
 /// The password of the URL itself goes before the one given.
 TConnectionUrl UrlOf(const TSource& source, const std::string& password) {
@@ -46,21 +53,27 @@ QString FolderOf(const TSource& source, const QString& home) {
 }
 
 TWorkspace::TWorkspace(const TSource& source, const std::string& password, const QString& folder,
-                       const TFormatSettings& formats)
+                       const TFormatSettings& formats, const std::function<void()>& onStep)
     : FSource(source),
+      FFolder(folder),
       FUrl(UrlOf(source, password)),
       FConnection(FUrl, TSqlConnectOptions{.ReadOnly = !source.QueriesInDatabase}),
       FInfo(FConnection.GetName()),
       FModelEditor(FModel),
       FLink(FPanel) {
-  const QDir own(folder);
+  const auto step = [&onStep] {
+    if (onStep) onStep();
+  };
+  step();
   FPanel.SetFormatSettings(formats);
   FModel.SetDatabaseInfo(&FInfo);
-  OpenModel(source.ModelFile.empty() ? own.filePath(QStringLiteral("database.model")) : ToQString(source.ModelFile));
+  OpenModel(source.ModelFile.empty() ? QDir(folder).filePath(QStringLiteral("database.model"))
+                                     : ToQString(source.ModelFile));
   FModelEditor.ForgetSteps();
   FPanel.SetDBStruct(&FModel);
   FPanel.SetActive(true);
-  OpenStore(source.QueryFolder.empty() ? own.filePath(QStringLiteral("queries")) : ToQString(source.QueryFolder));
+  step();
+  OpenStore();
 }
 
 TWorkspace::~TWorkspace() {
@@ -76,13 +89,36 @@ void TWorkspace::OpenModel(const QString& file) {
   } else {
     FillModelAnew();
     // Without tables, the catalogue may not have been to be had.
-    if (FModel.GetTableCount() > 0) SaveModel();
+    if (FModel.GetTableCount() > 0) KeepNewModel();
+  }
+}
+
+void TWorkspace::KeepNewModel() {
+  try {
+    SaveModel();
+  } catch (const EException& error) {
+    FNotes.Add(
+        FromQString(TTexts::tr("The data model cannot be kept: %1. Model > Save as... keeps it in another place.")
+                        .arg(Words(error))));
+    FModelEditor.SetUnmodified();
   }
 }
 
 void TWorkspace::FillModelAnew() {
   ApplyFormatPreset(FModel.SQLFormats(), FormatPresetOf(FUrl.Kind));
-  FNotes = FillModel(FModel, FInfo, FillOptionsFor(FUrl.Kind)).Notes;
+  const TFillReport report = FillModel(FModel, FInfo, FillOptionsFor(FUrl.Kind));
+  FNotes = report.Notes;
+  if (FUrl.Kind == dkODBC && FModel.GetTableCount() > 1) {
+    FNotes.Add(
+        FromQString(TTexts::tr("The driver tells nothing of links between tables. %n link(s) were found by the "
+                               "names of columns; Model > Diagram... shows them, and can draw others.",
+                               nullptr, static_cast<int>(report.AddedLinks.Count()))));
+  }
+  if (FModel.GetTableCount() == 0) {
+    FNotes.Add(
+        FromQString(TTexts::tr("The database has no tables that can be read. Once it has some, Model > Read new "
+                               "tables from the database finds them.")));
+  }
 }
 
 void TWorkspace::LoadModel(const QString& file) {
@@ -91,7 +127,10 @@ void TWorkspace::LoadModel(const QString& file) {
   } catch (const EFileError&) {
     throw;
   } catch (const EException& error) {
-    throw EFileError(FromQString(QDir::toNativeSeparators(file)) + ": " + error.Message());
+    throw EFileError(
+        FromQString(TTexts::tr("%1 is no data model, or a damaged one: %2. Choose another file; where there "
+                               "is none, a model is made from the tables of the database.")
+                        .arg(QDir::toNativeSeparators(file), Words(error))));
   }
   FModelFile = file;
   FModelEditor.ForgetSteps();
@@ -130,26 +169,70 @@ TFillReport TWorkspace::RefreshModel() {
   return FillModel(FModel, FInfo, FillOptionsFor(FUrl.Kind));
 }
 
-void TWorkspace::OpenStore(const QString& folder) {
-  if (FSource.QueriesInDatabase) {
-    FStore = std::make_unique<TJSqlQueryBase>(FConnection.GetName());
-  } else {
-    auto files = std::make_unique<TJFileQueryBase>();
-    files->SetFolder(FromQString(folder));
-    FStore = std::move(files);
-  }
+QString TWorkspace::QueryFolderOf(const TSource& source) const {
+  if (source.QueriesInDatabase) return {};
+  return source.QueryFolder.empty() ? QDir(FFolder).filePath(QStringLiteral("queries")) : ToQString(source.QueryFolder);
+}
+
+std::unique_ptr<TJStoredQueryBase> TWorkspace::StoreOf(const TSource& source) const {
+  if (source.QueriesInDatabase) return std::make_unique<TJSqlQueryBase>(FConnection.GetName());
+  auto files = std::make_unique<TJFileQueryBase>();
+  files->SetFolder(FromQString(QueryFolderOf(source)));
+  return files;
+}
+
+void TWorkspace::OpenStore() {
+  FStore = StoreOf(FSource);
   FStore->AddLink(FLink);
   try {
     FStore->Open();
   } catch (const EException& error) {
     // One query that cannot be shown does not keep the others away.
-    if (!FStore->GetActive()) throw;
+    if (!FStore->GetActive()) throw EQueryStoreError(NotKept(error));
     FNotes.Add(error.Message());
   }
-  if (FStore->Count() > 0) return;
-  FStore->SetItemIndex(FStore->IndexByName(FStore->NewQuery()->GetQueryName()));
-  AddFirstColumns(FPanel, FModel);
-  SaveQuery();
+  if (FStore->Count() == 0) AddFirstQuery();
+}
+
+void TWorkspace::AddFirstQuery() {
+  try {
+    FStore->SetItemIndex(FStore->IndexByName(FStore->NewQuery()->GetQueryName()));
+    AddFirstColumns(FPanel, FModel);
+    SaveQuery();
+  } catch (const EException& error) {
+    // Asked for, a place in the database is there or not; a folder that others fill may be one to read only.
+    if (FSource.QueriesInDatabase) throw EQueryStoreError(NotKept(error));
+    if (FPanel.RFields().Empty()) AddFirstColumns(FPanel, FModel);
+    FPanel.SetModified(false);
+    FNotes.Add(NotKept(error));
+  }
+}
+
+std::string TWorkspace::NotKept(const EException& error) const {
+  const QString words = FSource.QueriesInDatabase
+                            ? TTexts::tr("Queries cannot be kept in this database: %1").arg(Words(error))
+                            : TTexts::tr(
+                                  "Queries cannot be kept in %1: %2. Choose another folder by Query > Where "
+                                  "queries are kept.")
+                                  .arg(QDir::toNativeSeparators(QueryFolderOf(FSource)), Words(error));
+  return FromQString(words);
+}
+
+int TWorkspace::CopyQueries(const TSource& from) {
+  const std::unique_ptr<TJStoredQueryBase> store = StoreOf(from);
+  store->Open();
+  int count = 0;
+  for (int i = 0; i < store->Count(); ++i) {
+    TJStoredQuery& query = store->GetStoredQuery(i);
+    TStrings text, here;
+    query.LoadContent(text);
+    const int known = FStore->IndexByName(query.GetQueryName());
+    if (known >= 0) FStore->GetStoredQuery(known).LoadContent(here);
+    if (known >= 0 && here == text) continue;
+    FStore->AddQuery(FreeName(query.GetQueryName()), text);
+    ++count;
+  }
+  return count;
 }
 
 TJStoredQuery* TWorkspace::CurrentQuery() const {

@@ -23,10 +23,12 @@ namespace tolvi {
 class TWorkspace final {
  public:
   /// Opens all of it. `folder` is where the workbench keeps what the source has no place of its own for. A database
-  /// without a model gets one that is filled from its catalogue, a store without queries a first one. Waits for the
-  /// database. Raises `EConnectError`, `EFileError`, `EQueryStoreError`, and what reading a model raises, which then
-  /// names the file.
-  TWorkspace(const TSource& source, const std::string& password, const QString& folder, const TFormatSettings& formats);
+  /// without a model gets one that is filled from its catalogue, a store without queries a first one. What cannot be
+  /// kept, as a folder is not to be written, is there all the same, and told in the notes. Waits for the database.
+  /// `onStep` is called once the database is connected, and between later steps; what it raises ends the opening.
+  /// Raises `EConnectError`, `EFileError`, `EQueryStoreError`.
+  TWorkspace(const TSource& source, const std::string& password, const QString& folder, const TFormatSettings& formats,
+             const std::function<void()>& onStep = {});
   TWorkspace(const TWorkspace&) = delete;
   TWorkspace& operator=(const TWorkspace&) = delete;
   ~TWorkspace();
@@ -69,6 +71,12 @@ class TWorkspace final {
   /// Shows the stored query again.
   void RevertQuery();
 
+  /// Where the source's queries are, for people: a folder, or "" for the database itself. The source is one of this
+  /// database.
+  QString QueryFolderOf(const TSource& source) const;
+  /// Adds the queries that are kept where that source has them, but for those that are here already; how many.
+  int CopyQueries(const TSource& from);
+
   /// What is not stored; puts back what was not. A query that the store lost becomes a new one there.
   TUnsavedWork Unsaved();
   void Restore(const TUnsavedWork& work);
@@ -76,12 +84,17 @@ class TWorkspace final {
  private:
   void LoadModel(const QString& file);
   void OpenModel(const QString& file);
-  void OpenStore(const QString& folder);
+  std::unique_ptr<TJStoredQueryBase> StoreOf(const TSource& source) const;
+  void OpenStore();
+  void AddFirstQuery();
+  std::string NotKept(const EException& error) const;
   void FillModelAnew();
+  void KeepNewModel();
   TJStoredQuery* CurrentQuery() const;
   std::string FreeName(const std::string& wanted) const;
 
   TSource FSource;
+  const QString FFolder;
   TConnectionUrl FUrl;
   TSqlConnection FConnection;
   TJSqlDBInfo FInfo;
