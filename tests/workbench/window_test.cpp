@@ -90,7 +90,7 @@ TEST_F(Workbench, ChangesTheLanguageWithoutLosingWhatIsEdited) {
   AddCondition();
   const std::string text = Window().GetWorkspace()->QueryText();
   for (const auto& [code, direction, word] :
-       {std::tuple{"de", Qt::LeftToRight, "alle"}, {"ar", Qt::RightToLeft, ""}, {"en", Qt::LeftToRight, "all"}}) {
+       {std::tuple{"de", Qt::LeftToRight, "alle"}, {"ar", Qt::RightToLeft, "جميع"}, {"en", Qt::LeftToRight, "all"}}) {
     Window().Requests.UseLanguage(QLatin1String(code));
     Wait([this] { return Window().isWindowModified(); }, code);
     EXPECT_EQ(Window().GetWorkspace()->QueryText(), text) << code;
@@ -98,7 +98,7 @@ TEST_F(Workbench, ChangesTheLanguageWithoutLosingWhatIsEdited) {
     const QString menu = Window().findChild<QMenu*>(QStringLiteral("menu.query"))->title();
     EXPECT_EQ(menu == QStringLiteral("&Query"), QLatin1String(code) == QLatin1String("en")) << menu.toStdString();
     Wait([this] { return Shown("query.conditions").contains(QStringLiteral("Atlantis")); }, code);
-    EXPECT_TRUE(Shown("query.conditions").contains(QLatin1String(word))) << code;
+    EXPECT_TRUE(Shown("query.conditions").contains(QString::fromUtf8(word))) << code;
   }
 }
 
@@ -111,6 +111,57 @@ TEST_F(Workbench, LeadsToTheConditionThatTheDatabaseRefuses) {
   EXPECT_TRUE(Shown("results.fault").contains(QStringLiteral("no_such_function")));
   QTest::mouseClick(Window().findChild<QAbstractButton*>(QStringLiteral("results.faultAction")), Qt::LeftButton);
   EXPECT_EQ(Panel().GetCurrentRow()->GetRowID(), rowID);
+}
+
+TEST_F(Workbench, LeadsToTheColumnThatTheDatabaseRefuses) {
+  Panel().SetAllowSQLFragments(true);
+  Panel().RFields().AddBySQLExpr("no_such_function(Products.ProductName)");
+  Panel().SetModified(true);
+  const std::size_t last = Panel().RFields().Count() - 1;
+  Panel().RFields()[last].SetCaption("Broken");
+  Window().QueryArea().OnChange();
+  Wait([this] { return Shown("results.fault").contains(QStringLiteral("refuses the column “Broken”")); }, "fault");
+  QTest::mouseClick(Window().findChild<QAbstractButton*>(QStringLiteral("results.faultAction")), Qt::LeftButton);
+  EXPECT_NE(Window().QueryArea().Columns().GetRows()[last].GetFocusedPart(), nullptr);
+}
+
+TEST_F(Workbench, ShowsWhereQueriesAreKeptAndLeadsBack) {
+  const auto isChecked = [this](const char* name) {
+    return Window().findChild<QAction*>(QLatin1String(name))->isChecked();
+  };
+  const auto choose = [this](const QString& choice) {
+    for (QAbstractButton* button : Window().findChild<TNoteBar*>()->findChildren<QAbstractButton*>()) {
+      if (button->text() == choice && button->isVisible()) return QTest::mouseClick(button, Qt::LeftButton);
+    }
+    ADD_FAILURE() << choice.toStdString();
+  };
+  const TSource sample = Window().GetWorkspace()->GetSource();
+  EXPECT_TRUE(isChecked("query.keepfolder"));
+  const auto keep = [&] {
+    Window().findChild<QAction*>(QStringLiteral("query.keepdatabase"))->trigger();
+    Wait([&] { return Window().GetWorkspace()->GetSource().QueriesInDatabase; }, "kept there");
+  };
+  keep();
+  EXPECT_TRUE(isChecked("query.keepdatabase"));
+  EXPECT_EQ(
+      Shown("note.words"),
+      QStringLiteral("The former queries are still in %1.").arg(FHome.filePath(QStringLiteral("sample/queries"))));
+  choose(QStringLiteral("Back"));
+  EXPECT_EQ(Window().GetWorkspace()->GetSource(), sample);
+  EXPECT_TRUE(isChecked("query.keepfolder"));
+  keep();
+  choose(QStringLiteral("Copy them here"));
+  EXPECT_EQ(Window().GetWorkspace()->Store().Count(), 41);
+  EXPECT_TRUE(Shown("status").contains(QStringLiteral("40 quer"))) << Shown("status").toStdString();
+}
+
+TEST_F(Workbench, TellsInAFewWordsWhatIsNewInTheDatabase) {
+  TSqlConnection(ParseConnectionUrl(Window().GetWorkspace()->GetSource().Url))
+      .Execute("CREATE TABLE News (NewsID INTEGER PRIMARY KEY, Headline TEXT)");
+  Window().findChild<QAction*>(QStringLiteral("model.refresh"))->trigger();
+  const QString words = Shown("note.words");
+  EXPECT_TRUE(words.startsWith(QStringLiteral("The model has now: 1 new table"))) << words.toStdString();
+  EXPECT_FALSE(words.contains(QStringLiteral("ft"))) << words.toStdString();
 }
 
 TEST_F(Workbench, AsksBeforeChangesAreLost) {

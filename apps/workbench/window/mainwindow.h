@@ -83,6 +83,8 @@ class TMainWindow final : public QMainWindow {
   void BuildDatabaseMenu();
   void BuildQueryMenu();
   void BuildStoreMenu(QMenu& parent);
+  void KeepQueriesAt(const TSource& source);
+  void TellFormerQueries(const TSource& former);
   void BuildEditMenu();
   void BuildModelMenu();
   void BuildViewMenu();
@@ -118,10 +120,10 @@ class TMainWindow final : public QMainWindow {
   void PasteSql(const std::string& sql = {});
   void ShowDatabaseFault(const QString& words);
   void ShowFaultOfRow(const QString& words, const std::string& rowID);
+  void ShowFaultOfColumn(const QString& words, std::size_t column);
   void RowsEnded();
   void ReadAllForChart();
   QString QueryName() const;
-  void ShowFaultOfColumn(const QString& words, std::size_t column);
 
   // The model.
   void ModelChanged();
@@ -131,6 +133,7 @@ class TMainWindow final : public QMainWindow {
   void SaveModelAs();
   void LoadModel();
   void RefreshModel();
+  void TellModelNews(const TFillReport& report);
   void StepModel(void (TModelEditor::*step)());
 
   // Rows. Whether to take those that are here: when they are not all, the user is asked.

@@ -1,11 +1,13 @@
 // The menus of the window.
 #include <QActionGroup>
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QTabWidget>
 
 #include "apps/workbench/export/chartpane.h"
@@ -121,16 +123,19 @@ void TMainWindow::BuildQueryMenu() {
 void TMainWindow::BuildStoreMenu(QMenu& parent) {
   QMenu& menu = *parent.addMenu(tr("&Where queries are kept"));
   menu.setObjectName(QStringLiteral("menu.kept"));
+  auto* group = new QActionGroup(&menu);
   // The source is opened anew: not while the menu is open.
-  const auto keep = [this, &menu](const QString& name, const QString& caption,
-                                  const std::function<bool(TSource&)>& change) {
-    QAction* action = AddCommand(menu, name, caption, {}, [] {});
+  const auto keep = [this, &menu, group](const QString& name, const QString& caption,
+                                         const std::function<bool(TSource&)>& change) {
+    QAction* action = group->addAction(AddCommand(menu, name, caption, {}, [] {}));
+    action->setCheckable(true);
     connect(
         action, &QAction::triggered, this,
         [this, change] {
           if (!FWorkspace || !Requests.Open) return;
           TSource source = FWorkspace->GetSource();
-          if (change(source) && source != FWorkspace->GetSource()) Requests.Open(source);
+          if (change(source)) KeepQueriesAt(source);
+          RefreshCommands();
         },
         Qt::QueuedConnection);
   };
@@ -150,6 +155,31 @@ void TMainWindow::BuildStoreMenu(QMenu& parent) {
     source.QueriesInDatabase = true;
     return true;
   });
+}
+
+void TMainWindow::KeepQueriesAt(const TSource& source) {
+  const TSource former = FWorkspace->GetSource();
+  if (source == former) return;
+  Requests.Open(source);
+  if (FWorkspace && FWorkspace->GetSource() == source) TellFormerQueries(former);
+}
+
+void TMainWindow::TellFormerQueries(const TSource& former) {
+  const QString folder = FWorkspace->QueryFolderOf(former);
+  const QString words = folder.isEmpty()
+                            ? tr("The former queries are still in the database.")
+                            : tr("The former queries are still in %1.").arg(QDir::toNativeSeparators(folder));
+  // What opening the other place had to tell goes before it.
+  Tell(ToQString(FWorkspace->GetNotes().Joined(" ") + (FWorkspace->GetNotes().Empty() ? "" : " ")) + words,
+       {{tr("Back"),
+         [this, former] {
+           if (Requests.Open) Requests.Open(former);
+         }},
+        {tr("Copy them here"), [this, former] {
+           int count = 0;
+           if (!FWorkspace || !Try([&] { count = FWorkspace->CopyQueries(former); })) return;
+           statusBar()->showMessage(tr("%n query(ies) copied.", nullptr, count), 10'000);
+         }}});
 }
 
 void TMainWindow::BuildEditMenu() {
@@ -273,6 +303,16 @@ void TMainWindow::RefreshCommands() {
   for (const char* name : {"query.save", "query.revert", "query.find", "query.pastesql", "model.edit", "model.diagram",
                            "model.refresh", "model.load", "model.save", "model.saveas", "edit.columns"}) {
     CommandOf(QString::fromLatin1(name))->setEnabled(isOpen);
+  }
+  const TSource source = isOpen ? FWorkspace->GetSource() : TSource();
+  const std::pair<const char*, bool> places[] = {
+      {"query.keepown", source.QueryFolder.empty() && !source.QueriesInDatabase},
+      {"query.keepfolder", !source.QueryFolder.empty() && !source.QueriesInDatabase},
+      {"query.keepdatabase", source.QueriesInDatabase}};
+  for (const auto& [name, isHere] : places) {
+    QAction* place = CommandOf(QString::fromLatin1(name));
+    place->setEnabled(isOpen);
+    if (isHere) place->setChecked(true);
   }
   CommandOf(QStringLiteral("database.export"))->setEnabled(hasRows);
   CommandOf(QStringLiteral("database.print"))->setEnabled(hasRows);

@@ -1,4 +1,5 @@
 // The data model of the window: its editor, its diagram, its file.
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
@@ -129,13 +130,39 @@ void TMainWindow::RefreshModel() {
     return;
   RefreshCommands();
   if (report.Empty()) return Tell(tr("The model has all tables and columns of the database."));
-  const QStringList lines = ToQStringList(report.ToStrings());
-  constexpr int shown = 5;
-  if (lines.size() <= shown) return Tell(lines.join(u'\n'));
-  QMessageBox box(QMessageBox::Information, QGuiApplication::applicationDisplayName(),
-                  lines.mid(0, shown).join(u'\n') + QStringLiteral("\n…"), QMessageBox::Ok, this);
-  box.setDetailedText(lines.join(u'\n'));
-  box.exec();
+  TellModelNews(report);
+}
+
+void TMainWindow::TellModelNews(const TFillReport& report) {
+  const auto count = [](const TStrings& lines) { return static_cast<int>(lines.Count()); };
+  const std::pair<int, QString> news[] = {
+      {count(report.AddedTables), tr("%n new table(s)", nullptr, count(report.AddedTables))},
+      {count(report.AddedFields), tr("%n new column(s)", nullptr, count(report.AddedFields))},
+      {count(report.AddedLinks), tr("%n new link(s)", nullptr, count(report.AddedLinks))}};
+  const int gone = count(report.VanishedTables) + count(report.VanishedFields) + count(report.VanishedLinks),
+            changed = count(report.ChangedTypes);
+  QStringList added;
+  for (const auto& [number, words] : news) {
+    if (number > 0) added << words;
+  }
+  QStringList sentences{added.isEmpty() ? tr("The database has no new tables and columns.")
+                                        : tr("The model has now: %1.").arg(added.join(tr(", ")))};
+  if (gone > 0)
+    sentences << tr("%n table(s), column(s) or link(s) of the model are not in the database.", nullptr, gone);
+  if (changed > 0)
+    sentences << tr("%n column(s) have another type in the database than in the model.", nullptr, changed);
+  const QString words = sentences.join(u' ');
+  Tell(words, {{tr("Show..."), [this, words, lines = ToQStringList(report.ToStrings())] {
+                  QMessageBox box(QMessageBox::Information, QGuiApplication::applicationDisplayName(), words,
+                                  QMessageBox::Ok, this);
+                  box.setObjectName(QStringLiteral("news"));
+                  box.setDetailedText(lines.join(u'\n'));
+                  // Shown for its details.
+                  for (QAbstractButton* button : box.buttons()) {
+                    if (box.buttonRole(button) == QMessageBox::ActionRole) button->click();
+                  }
+                  box.exec();
+                }}});
 }
 
 }  // namespace tolvi
