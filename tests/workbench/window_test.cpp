@@ -160,7 +160,7 @@ TEST_F(Workbench, TellsInAFewWordsWhatIsNewInTheDatabase) {
       .Execute("CREATE TABLE News (NewsID INTEGER PRIMARY KEY, Headline TEXT)");
   Window().findChild<QAction*>(QStringLiteral("model.refresh"))->trigger();
   const QString words = Shown("note.words");
-  EXPECT_TRUE(words.startsWith(QStringLiteral("The model has now: 1 new table"))) << words.toStdString();
+  EXPECT_TRUE(words.startsWith(QStringLiteral("New in the model: 1 new table"))) << words.toStdString();
   EXPECT_FALSE(words.contains(QStringLiteral("ft"))) << words.toStdString();
 }
 

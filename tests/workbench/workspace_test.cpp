@@ -110,7 +110,8 @@ TEST_F(Workspace, OpensADatabaseAlsoWhereNothingCanBeKept) {
   TWorkspace workspace(source, {}, QStringLiteral("/proc/nowhere"), {});
   const std::string notes = workspace.GetNotes().Joined(" ");
   EXPECT_NE(notes.find("The data model cannot be kept: "), std::string::npos) << notes;
-  EXPECT_NE(notes.find("Queries cannot be kept in /proc/nowhere/queries: "), std::string::npos) << notes;
+  EXPECT_NE(notes.find("Queries cannot be kept: Cannot create the folder /proc/nowhere/queries: "), std::string::npos)
+      << notes;
   EXPECT_EQ(workspace.Store().Count(), 0);
   EXPECT_NE(workspace.Panel().GetQueryText().find("SELECT"), std::string::npos);
   EXPECT_TRUE(workspace.Unsaved().IsEmpty()) << "the user has done nothing yet";

@@ -146,7 +146,7 @@ void TMainWindow::TellModelNews(const TFillReport& report) {
     if (number > 0) added << words;
   }
   QStringList sentences{added.isEmpty() ? tr("The database has no new tables and columns.")
-                                        : tr("The model has now: %1.").arg(added.join(tr(", ")))};
+                                        : tr("New in the model: %1.").arg(added.join(tr(", ")))};
   if (gone > 0)
     sentences << tr("%n table(s), column(s) or link(s) of the model are not in the database.", nullptr, gone);
   if (changed > 0)

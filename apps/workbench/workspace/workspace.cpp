@@ -209,13 +209,12 @@ void TWorkspace::AddFirstQuery() {
 }
 
 std::string TWorkspace::NotKept(const EException& error) const {
-  const QString words = FSource.QueriesInDatabase
-                            ? TTexts::tr("Queries cannot be kept in this database: %1").arg(Words(error))
-                            : TTexts::tr(
-                                  "Queries cannot be kept in %1: %2. Choose another folder by Query > Where "
-                                  "queries are kept.")
-                                  .arg(QDir::toNativeSeparators(QueryFolderOf(FSource)), Words(error));
-  return FromQString(words);
+  // The errors of a folder name it.
+  const QString words = FSource.QueriesInDatabase ? TTexts::tr("Queries cannot be kept in this database: %1")
+                                                  : TTexts::tr(
+                                                        "Queries cannot be kept: %1. Query > Where queries are "
+                                                        "kept has other places.");
+  return FromQString(words.arg(Words(error)));
 }
 
 int TWorkspace::CopyQueries(const TSource& from) {
