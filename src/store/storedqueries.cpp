@@ -145,9 +145,10 @@ void TJStoredQueryBase::LoadQueries() {
 }
 
 TJQueryItem* TJStoredQueryBase::NewQuery() {
-  for (int number = 1;; ++number) {
-    const std::string name = std::string(NewQueryName) + (number == 1 ? "" : " " + std::to_string(number));
-    if (IndexByName(name) >= 0) continue;
+  for (int taken = 0;; ++taken) {
+    const std::string name = FreeQueryName(*this, [taken](int number) {
+      return std::string(NewQueryName) + (number + taken == 1 ? "" : " " + std::to_string(number + taken));
+    });
     try {
       TRef<TJQueryBase> alive;
       alive.Set(this);
@@ -282,6 +283,13 @@ TStoreChanges TJStoredQueryBase::Refresh() {
   }
   errors.Raise();
   return changes;
+}
+
+std::string FreeQueryName(const TJQueryBase& base, const std::function<std::string(int number)>& nameOf) {
+  for (int number = 1;; ++number) {
+    std::string name = nameOf(number);
+    if (base.IndexByName(name) < 0) return name;
+  }
 }
 
 }  // namespace tolvi

@@ -7,6 +7,7 @@
 //   base.RenameQuery(base.IndexByName("Late orders"), "Late orders of 2025");
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -178,5 +179,9 @@ class TOLVI_CORE_API TJStoredQueryBase : public TJQueryBase {
   // While a query is being deleted: whether a handler has deleted another one.
   bool* FHasInner = nullptr;
 };
+
+/// A name that no query of the base has, ignoring case: the first of `nameOf(1)`, `nameOf(2)`, ...; `nameOf` gives
+/// another name for each number.
+TOLVI_CORE_API std::string FreeQueryName(const TJQueryBase& base, const std::function<std::string(int number)>& nameOf);
 
 }  // namespace tolvi

@@ -363,6 +363,14 @@ TEST_F(FileQueryBase, LosesNothingWhenTwoProcessesWriteOneQuery) {
   }
 }
 
+TEST_F(FileQueryBase, NamesNewQueriesAroundThoseThatOthersHaveMadeMeanwhile) {
+  a.Open();
+  b.Open();
+  for (const char* name : {"New query", "New query 2"}) EXPECT_EQ(b.NewQuery()->GetQueryName(), name);
+  a.AddQuery("new query 3", {});
+  EXPECT_EQ(a.NewQuery()->GetQueryName(), "New query 4");
+}
+
 TEST_F(FileQueryBase, HoldsTheOldOrTheNewQueryAfterAnyCrash) {
   using TClock = std::chrono::steady_clock;
   constexpr int Crashes = 300;

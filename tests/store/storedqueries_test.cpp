@@ -154,5 +154,12 @@ TEST_F(StoredQueries, AreNotEmptiedWhenNoViewShowsThem) {
   EXPECT_EQ(copies.find("a")->second.Text, "of a\n");
 }
 
+TEST_F(StoredQueries, GetNamesThatAreFree) {
+  const auto nameOf = [](int number) { return number == 1 ? "D" : "D " + std::to_string(number); };
+  EXPECT_EQ(FreeQueryName(base, nameOf), "D 2");
+  base.AddQuery("d 2", {});
+  EXPECT_EQ(FreeQueryName(base, nameOf), "D 3");
+}
+
 }  // namespace
 }  // namespace tolvi

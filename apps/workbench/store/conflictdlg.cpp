@@ -151,12 +151,9 @@ void TConflictDialog::AddButton(QDialogButtonBox& box, const QString& name, cons
   });
 }
 
-std::string FreeName(const TJStoredQueryBase& base, const std::string& name) {
-  for (int number = 1;; ++number) {
-    const QString own = number == 1 ? QObject::tr("%1 (mine)").arg(ToQString(name))
-                                    : QObject::tr("%1 (mine %2)").arg(ToQString(name)).arg(number);
-    if (base.IndexByName(FromQString(own)) < 0) return FromQString(own);
-  }
+std::string OwnName(const std::string& name, int number) {
+  return FromQString(number == 1 ? QObject::tr("%1 (mine)").arg(ToQString(name))
+                                 : QObject::tr("%1 (mine %2)").arg(ToQString(name), QString::number(number)));
 }
 
 }  // namespace
@@ -198,7 +195,8 @@ void SettleConflict(TJStoredQueryBase& base, int index, const EQueryConflictErro
   }
   if (!error.GetStored()) return base.DeleteQuery(index);
   const std::string id = query.Entry().Id;
-  const int own = choice == ccKeepBoth ? base.AddQuery(FreeName(base, query.GetQueryName()), lines) : -1;
+  const auto ownName = [name = query.GetQueryName()](int number) { return OwnName(name, number); };
+  const int own = choice == ccKeepBoth ? base.AddQuery(FreeQueryName(base, ownName), lines) : -1;
   const std::string ownId = own >= 0 ? base.GetStoredQuery(own).Entry().Id : std::string();
   base.Refresh();
   const auto indexOf = [&base](const std::string& wanted) {

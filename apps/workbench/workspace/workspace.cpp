@@ -241,9 +241,8 @@ TJStoredQuery* TWorkspace::CurrentQuery() const {
 
 std::string TWorkspace::FreeName(const std::string& wanted) const {
   const std::string base = wanted.empty() ? "New query" : wanted;
-  std::string name = base;
-  for (int number = 2; FStore->IndexByName(name) >= 0; ++number) name = base + " (" + std::to_string(number) + ")";
-  return name;
+  return FreeQueryName(*FStore,
+                       [&](int number) { return number == 1 ? base : base + " (" + std::to_string(number) + ")"; });
 }
 
 void TWorkspace::SaveQuery() {
