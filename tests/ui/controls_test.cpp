@@ -213,6 +213,14 @@ TEST_F(Controls, ColoursCanBeReadOnAnyBackground) {
       EXPECT_GE(ContrastRatio(ReadableColor(color, background), background), 4.5)
           << color.name().toStdString() << " on " << background.name().toStdString();
   EXPECT_EQ(ReadableColor(Qt::blue, Qt::white), QColor(Qt::blue));
+  // Links of all panels look alike in the dark; a colour of the host's own keeps its hue.
+  QPalette palette;
+  palette.setColor(QPalette::Link, QColor(110, 170, 255));
+  const QColor dark(30, 31, 34), unset, green(0, 128, 0);
+  EXPECT_EQ(ReadableLinkColor(Qt::blue, palette, Qt::white), QColor(Qt::blue));
+  EXPECT_EQ(ReadableLinkColor(Qt::blue, palette, dark), palette.color(QPalette::Link));
+  EXPECT_EQ(ReadableLinkColor(unset, palette, dark), palette.color(QPalette::Link));
+  EXPECT_EQ(ReadableLinkColor(green, palette, dark), ReadableColor(green, dark));
 }
 
 TEST_F(Controls, EditsShapeAndCheckWhatIsTyped) {

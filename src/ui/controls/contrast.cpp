@@ -35,6 +35,12 @@ QColor ReadableColor(const QColor& color, const QColor& background, double ratio
   return goal;
 }
 
+QColor ReadableLinkColor(const QColor& color, const QPalette& palette, const QColor& background) {
+  constexpr double readable = 4.5;
+  const bool isUsable = color.isValid() && (color != Qt::blue || ContrastRatio(color, background) >= readable);
+  return ReadableColor(isUsable ? color : palette.color(QPalette::Link), background, readable);
+}
+
 QColor MixedColor(const QColor& color, const QColor& background, double part) {
   const auto mix = [part](float over, float under) {
     return static_cast<float>(std::clamp(part * over + (1 - part) * under, 0.0, 1.0));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 #include <tolvi/ui/api.h>
 class QWidget;
@@ -13,6 +14,10 @@ TOLVI_WIDGETS_API double ContrastRatio(const QColor& one, const QColor& other);
 
 /// `color`, made lighter on a dark background and darker on a light one until its contrast is at least `ratio`.
 TOLVI_WIDGETS_API QColor ReadableColor(const QColor& color, const QColor& background, double ratio = 4.5);
+
+/// What a link of that colour is painted in on `background`, readable; an invalid one stands for the palette's link
+/// colour. So does plain blue where it cannot be read: made lighter, it would be violet.
+TOLVI_WIDGETS_API QColor ReadableLinkColor(const QColor& color, const QPalette& palette, const QColor& background);
 
 /// `part` (0 to 1) of `color` laid over `background`; opaque.
 TOLVI_WIDGETS_API QColor MixedColor(const QColor& color, const QColor& background, double part);

@@ -286,7 +286,7 @@ QColor TDropDownLabel::TextColor() const {
   const QColor plain = palette().color(foregroundRole());
   if (FCaption.isEmpty()) return ReadableColor(MixedColor(plain, background, 0.6), background);
   if (FReadOnly) return ReadableColor(plain, background);
-  return ReadableColor(FLinkColor.isValid() ? FLinkColor : palette().color(QPalette::Link), background);
+  return ReadableLinkColor(FLinkColor, palette(), background);
 }
 
 void TDropDownLabel::paintEvent(QPaintEvent*) {

@@ -29,8 +29,7 @@ void TLinkLabel::paintEvent(QPaintEvent*) {
   QFont textFont = font();
   textFont.setUnderline(underMouse() && isEnabled());
   painter.setFont(textFont);
-  const QColor link = FLinkColor.isValid() ? FLinkColor : palette().color(QPalette::Link);
-  painter.setPen(isEnabled() ? ReadableColor(link, BackgroundOf(*this))
+  painter.setPen(isEnabled() ? ReadableLinkColor(FLinkColor, palette(), BackgroundOf(*this))
                              : palette().color(QPalette::Disabled, QPalette::WindowText));
   painter.drawText(rect(), static_cast<int>(Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine), text());
   if (!hasFocus()) return;

@@ -53,7 +53,7 @@ class TOLVI_WIDGETS_API TRFPAppearance final : public QObject {
   const TRFSpaces& Spaces() const { return FSpaces; }
 
   /// Of the sort label (default green) and the field label (default blue), adjusted where they could not be read on
-  /// the background.
+  /// the background: blue becomes the palette's link colour there.
   const QColor& GetSortColor() const { return FSortColor; }
   void SetSortColor(const QColor& color) { Set(FSortColor, color); }
   void ResetSortColor() { SetSortColor(TRFPAppearance().FSortColor); }
