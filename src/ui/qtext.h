@@ -24,6 +24,13 @@ inline QString PlainToolTip(const QString& text) {
   return QStringLiteral("<p style=\"white-space:pre-wrap\">") + text.toHtmlEscaped() + QStringLiteral("</p>");
 }
 
+/// In a line of the direction, a text keeps that of its own letters: "Total (€)" must not become "(€) Total", nor dots
+/// at its end come before it.
+inline QString AsWritten(const QString& text, Qt::LayoutDirection direction) {
+  constexpr QChar firstStrongIsolate(0x2068), popIsolate(0x2069);
+  return text.isRightToLeft() == (direction == Qt::RightToLeft) ? text : firstStrongIsolate + text + popIsolate;
+}
+
 inline QStringList ToQStringList(const TStrings& lines) {
   QStringList result;
   for (const std::string& line : lines) result << ToQString(line);

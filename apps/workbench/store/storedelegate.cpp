@@ -7,6 +7,7 @@
 
 #include "apps/workbench/store/storemodel.h"
 #include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/qtext.h>
 
 namespace tolvi {
 namespace {
@@ -37,8 +38,9 @@ TRowColors ColorsOf(const QStyleOptionViewItem& option) {
 
 void DrawLine(QPainter& painter, const QStyleOptionViewItem& option, const QRect& rect, const QString& text) {
   const Qt::Alignment side = QStyle::visualAlignment(option.direction, Qt::AlignLeft);
+  const QString line = painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width());
   painter.drawText(rect, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine,
-                   painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
+                   AsWritten(line, option.direction));
 }
 
 }  // namespace

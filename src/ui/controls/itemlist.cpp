@@ -14,6 +14,7 @@
 
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/controls/itemlist.h>
+#include <tolvi/ui/qtext.h>
 
 namespace tolvi {
 
@@ -28,12 +29,6 @@ QFont HeadingFont(QFont font) {
 }
 
 int TextMargin(const QFontMetrics& metrics) { return std::max(4, metrics.averageCharWidth() * 2 / 3); }
-
-/// In a line of the direction, a text keeps that of its own letters: "Total (€)" must not become "(€) Total".
-QString AsWritten(const QString& text, Qt::LayoutDirection direction) {
-  constexpr QChar firstStrongIsolate(0x2068), popIsolate(0x2069);
-  return text.isRightToLeft() == (direction == Qt::RightToLeft) ? text : firstStrongIsolate + text + popIsolate;
-}
 
 /// Paints headings and groups; the rest is the style's.
 class TRowPainter final : public QStyledItemDelegate {
