@@ -1,11 +1,13 @@
 #include "apps/workbench/window/notebar.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
+
+#include <tolvi/ui/dialogs/signicon.h>
 
 namespace tolvi {
 
@@ -18,13 +20,10 @@ TNoteBar::TNoteBar(QWidget* parent) : QFrame(parent), FWords(new QLabel), FChoic
   FWords->setWordWrap(true);
   FWords->setTextFormat(Qt::PlainText);
   FWords->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  auto* close = new QToolButton;
+  auto* closing = new QAction(SignIcon(sgTimes, *this), tr("Close this note"), this);
+  connect(closing, &QAction::triggered, this, &QWidget::hide);
+  QToolButton* close = MakeSignButton(*closing, *this);
   close->setObjectName(QStringLiteral("note.close"));
-  close->setAutoRaise(true);
-  close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-  close->setToolTip(tr("Close this note"));
-  close->setAccessibleName(close->toolTip());
-  connect(close, &QToolButton::clicked, this, &QWidget::hide);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(8, 4, 4, 4);
   line->addWidget(FWords, 1);

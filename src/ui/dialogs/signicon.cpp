@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -141,18 +142,35 @@ class TSignEngine final : public TDrawnIconEngine {
   const QPointer<const QWidget> FOwner;
 };
 
+class TSignButton final : public QToolButton {
+ public:
+  explicit TSignButton(QWidget& parent) : QToolButton(&parent) {
+    setAutoRaise(true);
+    setFocusPolicy(Qt::TabFocus);
+    FitIcon();
+  }
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::FontChange) FitIcon();
+  }
+
+ private:
+  void FitIcon() {
+    const int side = fontMetrics().height();
+    setIconSize(QSize(side, side));
+  }
+};
+
 }  // namespace
 
 QIcon SignIcon(TSign sign, const QWidget& owner) { return QIcon(new TSignEngine(sign, owner)); }
 
 QToolButton* MakeSignButton(QAction& action, QWidget& parent) {
-  auto* button = new QToolButton(&parent);
+  auto* button = new TSignButton(parent);
   button->setDefaultAction(&action);
-  button->setAutoRaise(true);
-  button->setFocusPolicy(Qt::TabFocus);
   button->setAccessibleName(action.text());
-  const int side = parent.fontMetrics().height();
-  button->setIconSize(QSize(side, side));
   return button;
 }
 

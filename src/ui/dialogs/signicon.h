@@ -32,7 +32,7 @@ enum TSign : std::uint8_t {
 /// The sign in the colours of `owner`, and mirrored with it; `owner` may go before the icon.
 QIcon SignIcon(TSign sign, const QWidget& owner);
 
-/// A flat button of the action, owned by `parent`, its sign as high as the text.
+/// A flat button of the action, owned by `parent`, its sign as high as the text, whatever the size of letters becomes.
 QToolButton* MakeSignButton(QAction& action, QWidget& parent);
 
 }  // namespace tolvi
