@@ -114,9 +114,51 @@ class ConnectionDialog : public testing::Test {
   T_dlgConnection Dialog{Secrets};
 };
 
+TEST_F(ConnectionDialog, TellsWhatIsMissingOnceTheUserHasBegun) {
+  for (const auto& [kind, field, fault] : {std::tuple{0, "file", "Choose a file."},
+                                           {1, "database", "Name the database."},
+                                           {3, "source", "Name the data source."}}) {
+    ChooseKind(kind);
+    QTest::keyClick(&Find<QLineEdit>("url"), Qt::Key_Tab);
+    EXPECT_EQ(Fault(), "");
+    QTest::mouseClick(&Find<QPushButton>(kind == 1 ? "test" : "ok"), Qt::LeftButton);
+    EXPECT_EQ(Fault(), fault);
+    EXPECT_FALSE(CanAccept());
+    EXPECT_TRUE(Dialog.isVisible() && Find<QLineEdit>(field).hasFocus()) << field;
+  }
+  Type("source", QStringLiteral("shop"));
+  EXPECT_EQ(Fault(), "");
+  Type("source", {});
+  EXPECT_EQ(Fault(), "Name the data source.");
+}
+
+TEST_F(ConnectionDialog, FitsALowScreenWithLargeLetters) {
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSize(20);
+  QApplication::setFont(large);
+  {
+    T_dlgConnection dialog(Secrets);
+    dialog.SetRecent({ParseConnectionUrl("postgresql://anna@db/shop")});
+    dialog.resize(800, 600);
+    dialog.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    EXPECT_LE(dialog.minimumSizeHint().width(), 800);
+    EXPECT_LE(dialog.height(), 600);
+    auto& ok = *dialog.findChild<QPushButton*>(QStringLiteral("connection.ok"));
+    EXPECT_TRUE(dialog.rect().contains(QRect(ok.mapTo(&dialog, QPoint()), ok.size())));
+    // Who goes on by key sees where he is.
+    dialog.findChild<QComboBox*>(QStringLiteral("connection.kind"))->setCurrentIndex(1);
+    auto& password = *dialog.findChild<QLineEdit*>(QStringLiteral("connection.password"));
+    dialog.findChild<QLineEdit*>(QStringLiteral("connection.user"))->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(password.hasFocus());
+    EXPECT_EQ(password.visibleRegion().boundingRect(), password.rect());
+  }
+  QApplication::setFont(usual);
+}
+
 TEST_F(ConnectionDialog, WritesTheUrlOfTheFields) {
-  EXPECT_EQ(Fault(), "Choose a file.");
-  EXPECT_FALSE(CanAccept());
   Type("file", ShopFile);
   EXPECT_EQ(Url(), "sqlite:" + FromQString(ShopFile));
   EXPECT_TRUE(CanAccept());
@@ -126,8 +168,8 @@ TEST_F(ConnectionDialog, WritesTheUrlOfTheFields) {
   EXPECT_EQ(Fault(), "This is no file.");
 
   ChooseKind(1);
-  EXPECT_EQ(Fault(), "Name the database.");
   Type("host", QStringLiteral("db.example"));
+  EXPECT_EQ(Fault(), "Name the database.");
   Type("port", QStringLiteral("5433"));
   Type("database", QStringLiteral("my/shop"));
   Type("schema", QStringLiteral("sales"));

@@ -12,6 +12,9 @@
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <exception>
@@ -37,6 +40,29 @@ QString FileOf(const QMimeData* data) {
 QString NameOf(const TConnectionUrl& url) {
   return url.Kind == dkSQLite ? QFileInfo(ToQString(url.Database)).fileName() : ToQString(url.Database);
 }
+
+/// As high as the form where there is room, else the form can be scrolled.
+class TFormArea final : public QScrollArea {
+ public:
+  explicit TFormArea(TConnectionForm& form) : FForm(form) {
+    setObjectName(QStringLiteral("connection.form"));
+    setWidget(&form);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+  }
+
+  QSize sizeHint() const override { return FForm.sizeHint(); }
+  QSize minimumSizeHint() const override {
+    constexpr int lines = 5;
+    return {FForm.minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+            lines * fontMetrics().lineSpacing()};
+  }
+
+ private:
+  TConnectionForm& FForm;
+};
 
 TConnectionUrl WithoutPassword(TConnectionUrl url) {
   url.Password.clear();
@@ -70,15 +96,14 @@ T_dlgConnection::T_dlgConnection(TSecrets& secrets, QWidget* parent)
   });
 
   auto* right = new QVBoxLayout;
-  right->addWidget(FForm);
-  right->addStretch(1);
+  right->addWidget(new TFormArea(*FForm), 1);
   right->addWidget(MakeUrlRow());
   right->addWidget(MakeTestRow());
   auto* layout = new QHBoxLayout(this);
   layout->addWidget(FRecentList, 2);
   layout->addLayout(right, 3);
 
-  FForm->OnChange = [this] { FormChanged(); };
+  FForm->OnChange = [this] { FForm->GetUrl().Kind == FShownKind ? FormChanged() : FormBegun(); };
   FFindTimer->setSingleShot(true);
   FFindTimer->setInterval(150);
   connect(FFindTimer, &QTimer::timeout, this, &T_dlgConnection::FindPassword);
@@ -86,7 +111,7 @@ T_dlgConnection::T_dlgConnection(TSecrets& secrets, QWidget* parent)
     if (self) self->ShowKeychain();
   };
   ShowKeychain();
-  FormChanged();
+  FormBegun();
   setTabOrder(FRecentList, FForm);
   FForm->setFocus();
   Resize();
@@ -94,7 +119,11 @@ T_dlgConnection::T_dlgConnection(TSecrets& secrets, QWidget* parent)
 
 void T_dlgConnection::Resize() {
   constexpr int Columns = 76, ColumnsWithList = 116;
-  resize((FRecent.empty() ? Columns : ColumnsWithList) * fontMetrics().averageCharWidth(), sizeHint().height());
+  const QSize wanted((FRecent.empty() ? Columns : ColumnsWithList) * fontMetrics().averageCharWidth(),
+                     sizeHint().height());
+  // With room for a title.
+  const QSize most = screen()->availableSize() - QSize(0, 2 * fontMetrics().height());
+  resize(wanted.boundedTo(most));
 }
 
 T_dlgConnection::~T_dlgConnection() {
@@ -124,7 +153,7 @@ QWidget* T_dlgConnection::MakeUrlRow() {
   connect(FUrlLine, &QLineEdit::textEdited, this, &T_dlgConnection::UrlTyped);
   // The password that was typed with it is in its own field.
   connect(FUrlLine, &QLineEdit::editingFinished, this, [this] {
-    if (FFault->text().isEmpty() || FForm->Fault() == FFault->text()) FormChanged();
+    if (FFault->text().isEmpty() || FForm->Fault() == FFault->text()) ShowUrl();
   });
   return row;
 }
@@ -187,14 +216,29 @@ TConnectionUrl T_dlgConnection::GetUrl() const { return FForm->GetUrl(); }
 void T_dlgConnection::SetUrl(const TConnectionUrl& url) {
   FForm->ForgetPassword();
   FForm->SetUrl(url);
-  FormChanged();
+  url.Database.empty() ? FormBegun() : FormChanged();
 }
 
 void T_dlgConnection::SetTestSeconds(int seconds) { FTestSeconds = seconds; }
 
+void T_dlgConnection::ShowUrl() { FUrlLine->setText(ToQString(FForm->GetUrl().Shown())); }
+
 void T_dlgConnection::FormChanged() {
-  FUrlLine->setText(ToQString(FForm->GetUrl().Shown()));
+  ShowUrl();
   ShowFault(FForm->Fault());
+}
+
+void T_dlgConnection::FormBegun() {
+  ShowUrl();
+  ShowFault({});
+}
+
+bool T_dlgConnection::IsFilled() {
+  const QString fault = FFault->text().isEmpty() ? FForm->Fault() : FFault->text();
+  if (fault.isEmpty()) return true;
+  ShowFault(fault);
+  FForm->GoToFault();
+  return false;
 }
 
 void T_dlgConnection::UrlTyped(const QString& text) {
@@ -209,6 +253,7 @@ void T_dlgConnection::UrlTyped(const QString& text) {
 
 // Whatever was tested or found belongs to another connection then.
 void T_dlgConnection::ShowFault(const QString& fault) {
+  FShownKind = FForm->GetUrl().Kind;
   QPalette colors = palette();
   colors.setColor(QPalette::WindowText, ReadableColor(FaultColor(), colors.color(QPalette::Window)));
   FFault->setPalette(colors);
@@ -228,7 +273,7 @@ void T_dlgConnection::ShowFault(const QString& fault) {
 
 void T_dlgConnection::FindPassword() {
   const TConnectionUrl url = WithoutPassword(FForm->GetUrl());
-  if (url.Kind == dkSQLite || !FOk->isEnabled()) return;
+  if (url.Kind == dkSQLite || !FOk->isEnabled() || !FForm->Fault().isEmpty()) return;
   FSecrets.Find(url, [self = QPointer(this), url](const std::optional<std::string>& password) {
     if (self && WithoutPassword(self->FForm->GetUrl()) == url) self->FForm->SetKnownPassword(password);
   });
@@ -248,6 +293,7 @@ void T_dlgConnection::Test() {
     FTest->setText(tr("&Test"));
     return;
   }
+  if (!IsFilled()) return;
   FTold->hide();
   FBusy->show();
   FTest->setText(tr("S&top"));
@@ -265,7 +311,7 @@ void T_dlgConnection::ShowTold(const QString& words, bool isFault) {
 }
 
 void T_dlgConnection::accept() {
-  if (!FOk->isEnabled()) return;
+  if (!IsFilled()) return;
   FConnectionTest->Stop();
   const auto typed = FForm->TypedPassword();
   const TConnectionUrl url = WithoutPassword(FForm->GetUrl());

@@ -51,7 +51,12 @@ class T_dlgConnection final : public QDialog {
   void Resize();
   QWidget* MakeUrlRow();
   QWidget* MakeTestRow();
+  void ShowUrl();
   void FormChanged();
+  // The same before anything was filled in: what is missing is not told as a fault.
+  void FormBegun();
+  // Shows what is wrong; whether nothing is.
+  bool IsFilled();
   void UrlTyped(const QString& text);
   void ShowFault(const QString& fault);
   void FindPassword();
@@ -69,8 +74,8 @@ class T_dlgConnection final : public QDialog {
   QProgressBar* FBusy;
   QTimer* FFindTimer;
   std::unique_ptr<TConnectionTest> FConnectionTest;
+  TDatabaseKind FShownKind = dkSQLite;
   int FTestSeconds = 10;
-  bool FShowing = false;
 };
 
 }  // namespace tolvi

@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <algorithm>
 
 #include <tolvi/ui/dialogs/checkstyle.h>
 #include <tolvi/ui/qtext.h>
@@ -201,6 +200,13 @@ QString TConnectionForm::Fault() const {
                                                                 : tr("The port is a number from 1 to 65535.");
 }
 
+void TConnectionForm::GoToFault() {
+  const TKindFields& kind = Kinds[FKind->currentIndex()];
+  QLineEdit* line = kind.HasFile ? FFile : kind.HasSource ? FSource : FDatabase;
+  if (kind.HasServer && !line->text().trimmed().isEmpty()) line = FPort;
+  line->setFocus(Qt::OtherFocusReason);
+}
+
 std::optional<std::string> TConnectionForm::TypedPassword() const {
   if (FPassword->text().isEmpty() || !Kinds[FKind->currentIndex()].HasUser) return std::nullopt;
   return FromQString(FPassword->text());
@@ -221,20 +227,21 @@ void TConnectionForm::ShowKeychain(bool isThere, const QString& told) {
   KeepRoom();
 }
 
-// The dialog does not change its height when another kind is chosen.
+QSize TConnectionForm::sizeHint() const { return QWidget::sizeHint().expandedTo(FRoom); }
+
 void TConnectionForm::KeepRoom() {
   const int chosen = FKind->currentIndex();
   const QSignalBlocker quiet(FKind);
-  int height = 0;
+  FRoom = {};
   for (int i = 0; i < FKind->count(); ++i) {
     FKind->setCurrentIndex(i);
     ShowKind();
     FLayout->activate();
-    height = std::max(height, FLayout->sizeHint().height());
+    FRoom = FRoom.expandedTo(QSize(0, FLayout->sizeHint().height()));
   }
   FKind->setCurrentIndex(chosen);
   ShowKind();
-  setMinimumHeight(height);
+  updateGeometry();
 }
 
 }  // namespace tolvi

@@ -31,11 +31,16 @@ class TConnectionForm final : public QWidget {
   std::function<void()> OnChange;
   /// What is missing or wrong, for people; empty when nothing is.
   QString Fault() const;
+  /// Puts the focus where that is mended.
+  void GoToFault();
 
   /// What the user has typed; nothing when it was not touched.
   std::optional<std::string> TypedPassword() const;
   /// A password that is used unless another one is typed; not shown.
   void SetKnownPassword(const std::optional<std::string>& password);
+
+  /// Room for each kind, so that a dialog keeps its height when another one is chosen.
+  QSize sizeHint() const override;
 
   bool GetRemember() const;
   /// Whether passwords can be remembered beyond the end of the program, and what is told about that.
@@ -58,6 +63,7 @@ class TConnectionForm final : public QWidget {
   QCheckBox* FRemember;
   QLabel* FRememberTold;
   std::string FKnownPassword;
+  QSize FRoom;
   bool FShowing = false;
 };
 
