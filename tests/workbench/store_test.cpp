@@ -3,12 +3,15 @@
 #include <QAction>
 #include <QClipboard>
 #include <QDialog>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStyleOptionViewItem>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -233,12 +236,87 @@ TEST_F(StorePane, DeletesOnRequestAndBringsBack) {
   EXPECT_TRUE(answers.AllGiven());
   EXPECT_TRUE(answers.Texts[0].startsWith(QStringLiteral("Delete the query “apples”?|It is deleted for everybody")));
   EXPECT_EQ(Names(), (QStringList{QStringLiteral("Bread"), QStringLiteral("Élan")}));
-  EXPECT_EQ(Selected(), Current());
+  EXPECT_EQ(Selected(), QStringLiteral("Élan"));
   EXPECT_EQ(Note(), QStringLiteral("“apples” was deleted."));
+  // The order that the user makes meanwhile stays.
+  Key(Qt::Key_Up, Qt::AltModifier);
   user::Click(*Pane.findChild<QPushButton*>(QStringLiteral("store.noteButton")));
-  EXPECT_EQ(Names(), (QStringList{QStringLiteral("Bread"), QStringLiteral("apples"), QStringLiteral("Élan")}));
+  EXPECT_EQ(Names(), (QStringList{QStringLiteral("Élan"), QStringLiteral("Bread"), QStringLiteral("apples")}));
   EXPECT_EQ(Base.GetQuery(Base.IndexByName("apples")).GetDescription(), "Kept");
   EXPECT_EQ(Note(), QString());
+}
+
+TEST_F(StorePane, ShowsTheNeighbourOfWhatIsDeletedAndBringsBackOneAfterTheOther) {
+  for (int i = 0; i < 12; ++i) Base.AddQuery("Query " + std::to_string(10 + i), {});
+  Pane.resize(300, 12 * Pane.fontMetrics().height());
+  Key(Qt::Key_End);
+  for (int i = 0; i < 3; ++i) Key(Qt::Key_Up);
+  const auto deletes = [this](const char* next) {
+    TAnswers answers({Press(QMessageBox::Yes)});
+    Key(Qt::Key_Delete);
+    EXPECT_TRUE(answers.AllGiven());
+    EXPECT_EQ(Selected(), QLatin1String(next));
+    EXPECT_EQ(Panel.GetQueryName(), next);
+    const QRect line = Pane.List().visualRect(Pane.List().currentIndex());
+    EXPECT_TRUE(Pane.List().viewport()->rect().contains(line)) << next;
+  };
+  const auto undo = [this] { user::Click(*Pane.findChild<QPushButton*>(QStringLiteral("store.noteButton"))); };
+  const QStringList all = Names();
+  ASSERT_EQ(Selected(), QStringLiteral("Query 18"));
+  deletes("Query 19");
+  deletes("Query 20");
+  EXPECT_EQ(Note(), QStringLiteral("“Query 19” was deleted, and 1 before it."));
+  Key(Qt::Key_End);
+  deletes("Query 20");
+  // A fault does not take the offer away.
+  Pane.ShowNote(QStringLiteral("No"));
+  user::Click(*Pane.findChild<QWidget*>(QStringLiteral("store.noteClose")));
+  EXPECT_EQ(Note(), QStringLiteral("“Query 21” was deleted, and 2 before it."));
+  undo();
+  EXPECT_EQ(Selected(), QStringLiteral("Query 21"));
+  EXPECT_EQ(Note(), QStringLiteral("“Query 19” was deleted, and 1 before it."));
+  MayLeave = false;
+  undo();
+  MayLeave = true;
+  undo();
+  EXPECT_EQ(Selected(), QStringLiteral("Query 19"));
+  undo();
+  EXPECT_EQ(Note(), QString());
+  EXPECT_EQ(Names(), all);
+  {
+    TAnswers answers({Press(QMessageBox::Yes), Press(QMessageBox::Yes)});
+    Key(Qt::Key_Delete);
+    user::Click(*Pane.findChild<QWidget*>(QStringLiteral("store.noteClose")));
+    Key(Qt::Key_Delete);
+  }
+  EXPECT_FALSE(Note().contains(QStringLiteral("before it"))) << "a closed note takes back nothing any more";
+}
+
+TEST_F(StorePane, WritesNamesInTheirOwnDirection) {
+  Base.RenameQuery(Base.IndexByName("Bread"), "Bread (dark, and as fresh as can be)");
+  Settle();
+  for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    QStyleOptionViewItem option;
+    option.initFrom(&Pane.List());
+    option.state = QStyle::State_Enabled;
+    option.direction = direction;
+    option.rect = QRect({}, QSize(150, Pane.List().sizeHintForRow(1)));
+    QImage image(option.rect.size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setLayoutDirection(direction);
+    Pane.List().itemDelegate()->paint(&painter, option, Rows().index(1, 0));
+    QRegion ink;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (qGray(image.pixel(x, y)) < 160) ink += QRect(x, y, 1, 1);
+      }
+    }
+    const QRect text = ink.boundingRect();
+    const auto heightAt = [&](int x) { return (ink & QRect(x, 0, 3, image.height())).boundingRect().height(); };
+    EXPECT_GT(text.width(), 100);
+    EXPECT_GT(heightAt(text.left()), 2 * heightAt(text.right() - 2)) << "the dots stay behind the text: " << direction;
+  }
 }
 
 TEST_F(StorePane, DescribesInSeveralLines) {

@@ -24,7 +24,10 @@ TStoreNote::TStoreNote(QWidget* parent) : QFrame(parent), FWords(new QLabel(this
   FWords->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   FButton->setObjectName(QStringLiteral("store.noteButton"));
   auto* close = new QAction(SignIcon(sgTimes, *this), tr("Close"), this);
-  connect(close, &QAction::triggered, this, &QWidget::hide);
+  connect(close, &QAction::triggered, this, [this] {
+    hide();
+    if (const auto handler = OnClose) handler();
+  });
   connect(FButton, &QPushButton::clicked, this, [this] {
     hide();
     if (const auto run = std::exchange(FRun, {})) run();

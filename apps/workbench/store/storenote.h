@@ -15,6 +15,11 @@ class TStoreNote final : public QFrame {
  public:
   explicit TStoreNote(QWidget* parent);
 
+  /// The user has closed it.
+  std::function<void()> OnClose;
+  /// Whether it tells, or told, what went wrong.
+  bool IsFault() const { return FIsFault; }
+
   void ShowFault(const QString& words) { Show(words, true, {}, {}); }
   void ShowOffer(const QString& words, const QString& button, std::function<void()> run) {
     Show(words, false, button, std::move(run));

@@ -86,6 +86,7 @@ TStorePane::TStorePane(QWidget* parent)
   layout->addWidget(FNote);
   connect(FSyncTimer, &QTimer::timeout, this, &TStorePane::Sync);
   connect(FActivateTimer, &QTimer::timeout, this, &TStorePane::Activate);
+  FNote->OnClose = [this] { FNote->IsFault() ? ShowErased() : FErased.clear(); };
   setFocusProxy(FList);
   Sync();
 }
@@ -237,6 +238,7 @@ void TStorePane::SetQueryBase(TJStoredQueryBase* base) {
   if (base == GetQueryBase()) return;
   if (FNameEditor) FNameEditor->GiveUp();
   FNote->hide();
+  FErased.clear();
   FLink->SetQueryBase(base);
   IdsChanged(qboListLoaded, -1);
   FNeedsRead = true;

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <tolvi/foundation/components.h>
 #include <tolvi/model/dbstruc.h>
@@ -89,6 +90,13 @@ class TStorePane final : public QWidget {
  private:
   class TLink;
   friend class TLink;
+  /// A query that was deleted, and the order of the list before.
+  struct TErased {
+    QString Id;
+    std::string Name;
+    TStrings Text;
+    QStringList Order;
+  };
 
   void MakeActions();
   QAction* AddAction(const char* name, const QString& text, const QIcon& icon, const QKeySequence& key,
@@ -135,7 +143,10 @@ class TStorePane final : public QWidget {
   std::string FreeName(const QString& name, const std::function<QString(int number)>& next) const;
   int Add(const std::string& name, const TStrings& text, const QString& behind = {});
   QString TakeName(const QString& id, const QString& name);
-  void Restore(const QString& id, const std::string& name, const TStrings& text, QStringList order);
+  // Offers to bring back what was deleted last, then what was before it.
+  void ShowErased();
+  void BringBack();
+  void PutInOrder(const QString& id, const TErased& erased);
 
   std::unique_ptr<TLink> FLink;
   TRef<TJCustomDBStructure> FModel;
@@ -148,6 +159,8 @@ class TStorePane final : public QWidget {
   QMenu* FMenu;
   QPointer<TNameEditor> FNameEditor;
   QString FEditedId;
+  // As long as the note about them is open.
+  std::vector<TErased> FErased;
   QTimer *FSyncTimer, *FActivateTimer;
   // The IDs of the base's queries, to notice when one changes.
   QStringList FIds;

@@ -59,6 +59,12 @@ std::optional<QString> AskDescription(QWidget& parent, const QString& name, cons
   return isTaken ? std::optional(result) : std::nullopt;
 }
 
+/// What is shown when a query goes: the one below it, else the one above.
+QString NeighbourOf(const TStoreModel& rows, const QString& id) {
+  const int row = rows.RowOfId(id), below = row + 1 < rows.rowCount() ? row + 1 : row - 1;
+  return row >= 0 && below >= 0 ? rows.Row(below).Id : QString();
+}
+
 bool IsQueryText(const TStrings& text) {
   constexpr std::string_view Name = "Probe";
   if (Trim(text.GetText()).empty()) return false;
@@ -151,10 +157,7 @@ TStrings TStorePane::TextOf(int index) {
 }
 
 std::string TStorePane::FreeName(const QString& name, const std::function<QString(int number)>& next) const {
-  const TJStoredQueryBase& base = *GetQueryBase();
-  std::string free = FromQString(name);
-  for (int number = 2; base.IndexByName(free) >= 0; ++number) free = FromQString(next(number));
-  return free;
+  return FreeQueryName(*GetQueryBase(), [&](int number) { return FromQString(number == 1 ? name : next(number)); });
 }
 
 int TStorePane::Add(const std::string& name, const TStrings& text, const QString& behind) {
@@ -246,14 +249,15 @@ void TStorePane::Erase() {
   const std::string name = GetQueryBase()->GetQuery(index).GetQueryName();
   const QString question = tr("Delete the query “%1”?").arg(ToQString(name));
   const QString further =
-      tr("It is deleted for everybody who uses this store. It can be brought back only until this "
-         "note about it is closed.");
+      tr("It is deleted for everybody who uses this store. You can take that back until the note about it is closed.");
   if (Ask(*this, QMessageBox::Question, question, further, QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes ||
       !self || IndexOfId(id) < 0) {
     return;
   }
   TStrings text;
   const QStringList order = FRows->GetOrder();
+  const bool isShown = IndexOfId(id) == GetQueryBase()->GetItemIndex();
+  const QString neighbour = NeighbourOf(*FRows, id);
   // One that cannot be read can be deleted all the same.
   try {
     text = TextOf(IndexOfId(id));
@@ -265,18 +269,50 @@ void TStorePane::Erase() {
                   IndexOfId(id), [this](int now) { GetQueryBase()->EraseQuery(now); }, &TStorePane::SettleErasing);
   if (!self) return;
   Sync();
-  if (!isDone || IndexOfId(id) >= 0 || text.Empty()) return;
-  FNote->ShowOffer(tr("“%1” was deleted.").arg(ToQString(name)), tr("&Undo"),
-                   [this, id, name, text, order] { Restore(id, name, text, order); });
+  if (!isDone || IndexOfId(id) >= 0) return;
+  if (isShown) Show(IndexOfId(neighbour));
+  if (!self || text.Empty()) return;
+  FErased.push_back({id, name, text, order});
+  ShowErased();
 }
 
-void TStorePane::Restore(const QString& id, const std::string& name, const TStrings& text, QStringList order) {
+void TStorePane::ShowErased() {
+  if (FErased.empty()) return;
+  const QString name = ToQString(FErased.back().Name);
+  const auto before = static_cast<int>(FErased.size()) - 1;
+  const QString words = before == 0 ? tr("“%1” was deleted.").arg(name)
+                                    : tr("“%1” was deleted, and %n before it.", nullptr, before).arg(name);
+  FNote->ShowOffer(words, tr("&Undo"), [this] { BringBack(); });
+  // The list is lower now.
+  layout()->activate();
+  FList->scrollTo(FList->currentIndex());
+}
+
+void TStorePane::BringBack() {
+  if (FErased.empty()) return;
   const QPointer<TStorePane> self = this;
-  if (GetQueryBase() == nullptr || !MayLeave() || !self || GetQueryBase() == nullptr) return;
-  const int index = Add(name, text);
-  const qsizetype place = order.indexOf(id);
-  if (index < 0 || !self || place < 0) return;
-  order[place] = FIds[index];
+  const TErased erased = FErased.back();
+  if (!MayLeave()) {
+    if (self) ShowErased();
+    return;
+  }
+  if (GetQueryBase() == nullptr) return;
+  const int index = Add(erased.Name, erased.Text);
+  if (!self || index < 0) return;
+  FErased.pop_back();
+  ShowErased();
+  PutInOrder(FIds[index], erased);
+}
+
+// Behind what it stood behind.
+void TStorePane::PutInOrder(const QString& id, const TErased& erased) {
+  qsizetype place = erased.Order.indexOf(erased.Id);
+  if (place < 0) return;
+  QStringList order = FRows->GetOrder();
+  order.removeAll(erased.Id);
+  order.removeAll(id);
+  while (--place >= 0 && (!FIds.contains(erased.Order[place]) || !order.contains(erased.Order[place]))) continue;
+  order.insert(place < 0 ? 0 : order.indexOf(erased.Order[place]) + 1, id);
   SetOrder(order);
   if (const auto handler = OnOrderChange) handler();
 }
