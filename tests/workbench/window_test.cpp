@@ -1,6 +1,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,10 +10,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
+#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
 #include "apps/workbench/export/chartpane.h"
+#include "apps/workbench/results/resultgrid.h"
 #include "apps/workbench/results/resultpane.h"
 #include "apps/workbench/script/widgettext.h"
 #include "apps/workbench/sql/sqlpane.h"
@@ -20,6 +25,8 @@
 #include "apps/workbench/window/notebar.h"
 #include "apps/workbench/window/program.h"
 #include "apps/workbench/window/queryarea.h"
+#include "apps/workbench/window/themes.h"
+#include "tests/ui/userevents.h"
 #include <tolvi/panel/paneleditor.h>
 #include <tolvi/ui/qtext.h>
 
@@ -32,6 +39,7 @@ class Workbench : public testing::Test {
   Workbench() { Start(); }
   ~Workbench() override {
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    UseTheme(thSystem, 0);
     FProgram.reset();
   }
 
@@ -294,6 +302,90 @@ TEST_F(Workbench, PutsWorkBackOnlyIfTheUserWants) {
   }
   Wait([this] { return !Window().isWindowModified(); }, "as stored");
   EXPECT_FALSE(Shown("query.conditions").contains(QStringLiteral("Atlantis")));
+}
+
+TEST_F(Workbench, FitsSmallScreensAndGrowsItsSignsWithTheLetters) {
+  for (const auto& [letters, screen] : {std::pair{0, QSize(800, 600)}, {20, QSize(1024, 768)}}) {
+    // As large as on a screen of 96 dots an inch.
+    FProgram->Settings().FontSize = letters * 96 / Window().logicalDpiX();
+    Window().Requests.UseTheme();
+    Window().resize(screen);
+    QTest::qWait(50);
+    EXPECT_EQ(Window().size(), screen);
+    EXPECT_LE(Window().minimumSizeHint().width(), screen.width()) << letters;
+    EXPECT_LE(Window().minimumSizeHint().height(), screen.height()) << letters;
+    const int line = Window().fontMetrics().height();
+    for (const char* name : {"results.run", "results.preview", "store.newButton", "store.moreButton", "note.close"}) {
+      EXPECT_EQ(Window().findChild<QToolButton*>(QLatin1String(name))->iconSize(), QSize(line, line)) << name;
+    }
+    // Bars have as many lines as they need.
+    for (const char* tab : {"view.results", "view.chart"}) {
+      Window().findChild<QAction*>(QLatin1String(tab))->trigger();
+      QTest::qWait(50);
+      for (const char* name : {"chart.kind", "chart.x", "chart.y", "chart.copy", "chart.save", "sql.dialect",
+                               "sql.copy", "sql.paste", "results.run", "results.status"}) {
+        const auto* widget = Window().findChild<QWidget*>(QLatin1String(name));
+        if (!widget->isVisible()) continue;
+        EXPECT_EQ(widget->visibleRegion().boundingRect(), widget->rect()) << name;
+      }
+    }
+  }
+}
+
+TEST_F(Workbench, LeadsByKeyToWhatIsSeen) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  const auto press = [this](Qt::Key key) {
+    user::Press(Window(), key, Qt::AltModifier);
+    return QApplication::focusWidget() == nullptr ? QString() : QApplication::focusWidget()->objectName();
+  };
+  EXPECT_EQ(press(Qt::Key_5), QStringLiteral("chart.kind"));
+  EXPECT_TRUE(Window().ChartPane().isVisible());
+  EXPECT_EQ(press(Qt::Key_4), QStringLiteral("results.grid"));
+  EXPECT_TRUE(Window().ResultPane().Grid().currentIndex().isValid());
+  user::Press(Window(), Qt::Key_F2);
+  EXPECT_NE(Window().findChild<QDialog*>(QStringLiteral("results.value")), nullptr);
+  QApplication::activeWindow()->close();
+  Window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  EXPECT_EQ(press(Qt::Key_6), QStringLiteral("sql.view"));
+  Window().ResultPane().ShowFault(QStringLiteral("No"));
+  EXPECT_EQ(press(Qt::Key_4), QStringLiteral("results.fault"));
+  Window().ResultPane().ShowNothing(QStringLiteral("Nothing"));
+  EXPECT_EQ(press(Qt::Key_4), QStringLiteral("results.run"));
+}
+
+TEST_F(Workbench, ListsTheKeysOfMenusAndPanes) {
+  QStringList lines;
+  QTimer::singleShot(0, &Window(), [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    const auto& tree = *dialog->findChild<QTreeWidget*>();
+    for (QTreeWidgetItemIterator item(const_cast<QTreeWidget*>(&tree)); *item != nullptr; ++item) {
+      const QTreeWidgetItem* group = (*item)->parent();
+      if (group != nullptr) lines << group->text(0) + u'|' + (*item)->text(0) + u'|' + (*item)->text(1);
+    }
+    dialog->close();
+  });
+  Window().findChild<QAction*>(QStringLiteral("help.shortcuts"))->trigger();
+  for (const char* wanted : {"Query|Save|Ctrl+S", "Among the conditions|Undo|Ctrl+Z",
+                             "In the list of queries|Move up|Alt+Up", "Among the rows|Copy with Headers|Ctrl+Shift+C",
+                             "Among the rows|Show value|F2  ·  Return  ·  Enter", "In the SQL|Select all|Ctrl+A"}) {
+    EXPECT_TRUE(lines.contains(QString::fromUtf8(wanted))) << wanted << '\n' << lines.join(u'\n').toStdString();
+  }
+}
+
+TEST_F(Workbench, MarksTheColoursThatTheSettingsHave) {
+  QTimer::singleShot(0, &Window(), [] {
+    auto* dialog = static_cast<QDialog*>(QApplication::activeModalWidget());
+    dialog->findChild<QComboBox*>(QStringLiteral("settings.theme"))->setCurrentIndex(thDark);
+    dialog->accept();
+  });
+  Window().findChild<QAction*>(QStringLiteral("view.settings"))->trigger();
+  auto& menu = *Window().findChild<QMenu*>(QStringLiteral("menu.theme"));
+  menu.popup({});
+  for (const TTheme theme : {thSystem, thLight, thDark}) {
+    EXPECT_EQ(menu.actions()[theme]->isChecked(), theme == thDark);
+  }
+  menu.close();
 }
 
 }  // namespace

@@ -27,6 +27,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "apps/workbench/controls/wraplayout.h"
 #include <tolvi/foundation/errors.h>
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/qtext.h>
@@ -82,7 +83,7 @@ TChartPane::TChartPane(QWidget* parent) : QWidget(parent) {
   FView->setAccessibleName(tr("Chart"));
   FView->setRenderHint(QPainter::Antialiasing);
   FView->setFrameShape(QFrame::StyledPanel);
-  FView->setMinimumSize(20 * fontMetrics().averageCharWidth(), 8 * fontMetrics().lineSpacing());
+  FView->setMinimumSize(20 * fontMetrics().averageCharWidth(), 4 * fontMetrics().lineSpacing());
   layout->addWidget(FView, 1);
   layout->addWidget(MakeTold());
   FTimer.setSingleShot(true);
@@ -95,17 +96,23 @@ TChartPane::~TChartPane() = default;
 
 QWidget* TChartPane::MakeBar() {
   auto* bar = new QWidget(this);
-  auto* layout = new QHBoxLayout(bar);
+  auto* layout = new TWrapLayout(bar);
   layout->setContentsMargins({});
   const auto box = [this, bar, layout](const QString& caption, const char* name) {
-    auto* combo = new QComboBox(bar);
+    // A box stays beside its caption.
+    auto* pair = new QWidget(bar);
+    auto* inPair = new QHBoxLayout(pair);
+    inPair->setContentsMargins({});
+    auto* combo = new QComboBox(pair);
     combo->setObjectName(QLatin1String(name));
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(8);
-    auto* label = new QLabel(caption, bar);
+    combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto* label = new QLabel(caption, pair);
     label->setBuddy(combo);
-    layout->addWidget(label);
-    layout->addWidget(combo, 1);
+    inPair->addWidget(label);
+    inPair->addWidget(combo, 1);
+    layout->addWidget(pair);
     connect(combo, &QComboBox::currentIndexChanged, this, &TChartPane::Changed);
     return combo;
   };
@@ -122,7 +129,6 @@ QWidget* TChartPane::MakeBar() {
     connect(result, &QPushButton::clicked, this, call);
     return result;
   };
-  layout->addStretch(1);
   FCopy = button(tr("&Copy picture"), "chart.copy", &TChartPane::CopyPicture);
   FSave = button(tr("&Save picture..."), "chart.save", &TChartPane::SaveByDialog);
   return bar;

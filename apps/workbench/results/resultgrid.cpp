@@ -29,24 +29,51 @@ using namespace std::chrono_literals;
 constexpr std::uint64_t cellsCopiedAtOnce = 20'000, cellsCopiedUnasked = 100'000, cellsCopiedAtMost = 5'000'000;
 constexpr auto copySlice = 15ms;
 
-enum class TGridKey { None, Copy, CopyWithHeaders, ShowValue, StopCopying };
+enum class TGridKey { Copy, CopyWithHeaders, SelectAll, ShowValue, StopCopying, None };
 
-const QKeySequence CopyWithHeadersKey(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
+struct TGridCommand {
+  TGridKey Key;
+  const char* Caption;
+  QList<QKeySequence> Keys;
+};
+
+const std::vector<TGridCommand>& GridCommands() {
+  static const std::vector<TGridCommand> commands{
+      {TGridKey::Copy, QT_TRANSLATE_NOOP("tolvi::TResultGrid", "&Copy"), {QKeySequence(QKeySequence::Copy)}},
+      {TGridKey::CopyWithHeaders,
+       QT_TRANSLATE_NOOP("tolvi::TResultGrid", "Copy with &Headers"),
+       {Qt::CTRL | Qt::SHIFT | Qt::Key_C}},
+      {TGridKey::SelectAll,
+       QT_TRANSLATE_NOOP("tolvi::TResultGrid", "Select &all"),
+       {QKeySequence(QKeySequence::SelectAll)}},
+      {TGridKey::ShowValue,
+       QT_TRANSLATE_NOOP("tolvi::TResultGrid", "&Show value"),
+       {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter}},
+      {TGridKey::StopCopying, QT_TRANSLATE_NOOP("tolvi::TResultGrid", "Stop copying"), {Qt::Key_Escape}}};
+  return commands;
+}
 
 TGridKey GridKeyOf(const QKeyEvent& event, bool isCopying) {
+  // Keyboards may have one of its own.
   if (event.matches(QKeySequence::Copy)) return TGridKey::Copy;
-  if (QKeySequence(event.keyCombination()) == CopyWithHeadersKey) return TGridKey::CopyWithHeaders;
-  const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-  if (modifiers != Qt::NoModifier) return TGridKey::None;
-  if (event.key() == Qt::Key_Escape && isCopying) return TGridKey::StopCopying;
-  const bool shows = event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  return shows ? TGridKey::ShowValue : TGridKey::None;
+  const QKeySequence pressed(QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, Qt::Key(event.key())));
+  for (const TGridCommand& command : GridCommands()) {
+    if (command.Key == TGridKey::StopCopying && !isCopying) continue;
+    if (command.Keys.contains(pressed)) return command.Key;
+  }
+  return TGridKey::None;
 }
 
 /// Adds an entry that is found by its name.
 QAction& Add(QMenu& menu, const QString& text, const char* name, std::function<void()> act) {
   QAction& action = *menu.addAction(text, &menu, std::move(act));
   action.setObjectName(QLatin1String(name));
+  return action;
+}
+QAction& Add(QMenu& menu, TGridKey key, const char* name, std::function<void()> act) {
+  const TGridCommand& command = GridCommands()[static_cast<std::size_t>(key)];
+  QAction& action = Add(menu, TResultGrid::tr(command.Caption), name, std::move(act));
+  action.setShortcut(command.Keys.constFirst());
   return action;
 }
 
@@ -190,6 +217,8 @@ void TResultGrid::keyPressEvent(QKeyEvent* event) {
       return Copy(true);
     case TGridKey::ShowValue:
       return ShowValue();
+    case TGridKey::SelectAll:
+      return selectAll();
     case TGridKey::StopCopying:
       return StopCopying();
     case TGridKey::None:
@@ -253,6 +282,12 @@ void TResultGrid::FillColumnMenu(QMenu& menu, int column) {
   Add(menu, tr("Copy column &name"), "results.copyName", [name] { QGuiApplication::clipboard()->setText(name); });
 }
 
+TKeyLines TResultGrid::Keys() {
+  TKeyLines lines;
+  for (const TGridCommand& command : GridCommands()) lines.emplace_back(tr(command.Caption), command.Keys);
+  return lines;
+}
+
 std::unique_ptr<QMenu> TResultGrid::MakeColumnMenu(int column) {
   auto menu = std::make_unique<QMenu>(this);
   FillColumnMenu(*menu, column);
@@ -263,17 +298,11 @@ void TResultGrid::contextMenuEvent(QContextMenuEvent* event) {
   const QModelIndex current = currentIndex();
   QMenu menu(this);
   const bool hasSelection = selectionModel()->hasSelection();
-  QAction& copy = Add(menu, tr("&Copy"), "results.copy", [this] { Copy(false); });
-  copy.setShortcut(QKeySequence::Copy);
-  copy.setEnabled(hasSelection);
-  QAction& copyWithHeaders = Add(menu, tr("Copy with &Headers"), "results.copyWithHeaders", [this] { Copy(true); });
-  copyWithHeaders.setShortcut(CopyWithHeadersKey);
-  copyWithHeaders.setEnabled(hasSelection);
-  Add(menu, tr("Select &all"), "results.selectAll", [this] { selectAll(); }).setShortcut(QKeySequence::SelectAll);
+  Add(menu, TGridKey::Copy, "results.copy", [this] { Copy(false); }).setEnabled(hasSelection);
+  Add(menu, TGridKey::CopyWithHeaders, "results.copyWithHeaders", [this] { Copy(true); }).setEnabled(hasSelection);
+  Add(menu, TGridKey::SelectAll, "results.selectAll", [this] { selectAll(); });
   menu.addSeparator();
-  QAction& show = Add(menu, tr("&Show value"), "results.showValue", [this] { ShowValue(); });
-  show.setShortcut(Qt::Key_F2);
-  show.setEnabled(current.isValid());
+  Add(menu, TGridKey::ShowValue, "results.showValue", [this] { ShowValue(); }).setEnabled(current.isValid());
   if (current.isValid()) FillColumnMenu(*menu.addMenu(tr("Co&lumn")), current.column());
   const bool isByKey = event->reason() == QContextMenuEvent::Keyboard && current.isValid();
   menu.exec(isByKey ? viewport()->mapToGlobal(visualRect(current).center()) : event->globalPos());

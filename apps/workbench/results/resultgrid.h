@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 
+#include "apps/workbench/controls/keyline.h"
 #include "apps/workbench/results/resultmodel.h"
 class QMenu;
 class QTimer;
@@ -46,6 +47,8 @@ class TResultGrid final : public QTableView {
 
   /// The menu of a column's head; the caller owns it.
   std::unique_ptr<QMenu> MakeColumnMenu(int column);
+  /// The keys of the commands that act on what is selected.
+  static TKeyLines Keys();
   /// Makes columns as wide as their heads and first rows.
   void FitColumn(int column);
   void FitColumns();

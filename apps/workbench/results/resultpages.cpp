@@ -14,6 +14,7 @@
 #include <utility>
 
 #include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/qtext.h>
 
 namespace tolvi {
 
@@ -29,7 +30,10 @@ void TStatusLine::SetWords(const QString& words) {
   setAccessibleName(words);
 }
 
-QSize TStatusLine::minimumSizeHint() const { return sizeHint(); }
+QSize TStatusLine::minimumSizeHint() const {
+  constexpr int letters = 8;
+  return {fontMetrics().averageCharWidth() * letters, sizeHint().height()};
+}
 
 QSize TStatusLine::sizeHint() const {
   constexpr int letters = 24;
@@ -42,7 +46,8 @@ void TStatusLine::paintEvent(QPaintEvent*) {
   const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, rect.width());
   const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
   const int flags = static_cast<int>(alignment) | static_cast<int>(Qt::TextSingleLine);
-  style()->drawItemText(&painter, rect, flags, palette(), isEnabled(), line, foregroundRole());
+  style()->drawItemText(&painter, rect, flags, palette(), isEnabled(), AsWritten(line, layoutDirection()),
+                        foregroundRole());
 }
 
 TEmptyPage::TEmptyPage(QWidget* parent) : QWidget(parent), FWords(new QLabel) {
@@ -124,6 +129,7 @@ TFaultPage::TFaultPage(QWidget* parent)
   layout->addLayout(buttons);
   layout->addStretch();
   setWidget(content);
+  setFocusProxy(FWords);
 }
 
 void TFaultPage::FitWords() {

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QLocale>
 #include <QPointer>
 #include <QStackedWidget>
@@ -65,6 +66,7 @@ struct TResultPane::TParts {
   };
 
   void MakeBar();
+  void FitIcons();
   void MakeContent();
   void ListenToReader();
   QAction* MakeAction(TRunSign sign, const QString& text, const char* name);
@@ -116,7 +118,11 @@ TResultPane::TParts::TParts(TResultPane& pane) : Pane(pane) {
   auto* layout = new QVBoxLayout(&Pane);
   layout->setContentsMargins({});
   layout->setSpacing(0);
-  layout->addWidget(Bar);
+  auto* top = new QHBoxLayout;
+  top->setSpacing(0);
+  top->addWidget(Bar);
+  top->addWidget(Status, 1);
+  layout->addLayout(top);
   layout->addWidget(Pages, 1);
   Update();
 }
@@ -136,8 +142,7 @@ void TResultPane::TParts::MakeBar() {
   Bar = new QToolBar(&Pane);
   Bar->setAccessibleName(tr("Result"));
   Bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  const int side = Pane.fontMetrics().height();
-  Bar->setIconSize(QSize(side, side));
+  FitIcons();
   Run = MakeAction(rsRun, tr("&Run"), "results.run");
   Run->setShortcut(Qt::Key_F5);
   Run->setToolTip(tr("Fetch all rows (F5)"));
@@ -150,13 +155,17 @@ void TResultPane::TParts::MakeBar() {
   Preview->setToolTip(tr("Show the first rows whenever the query changes"));
   Status = new TStatusLine;
   Status->setObjectName(QStringLiteral("results.status"));
-  Bar->addWidget(Status);
   QObject::connect(Run, &QAction::triggered, &Pane, [this] { Fire(Pane.OnRunRequest); });
   QObject::connect(Stop, &QAction::triggered, &Pane, [this] { Pane.Cancel(); });
   QObject::connect(Preview, &QAction::toggled, &Pane, [this](bool isOn) {
     if (!isOn && IsRunning() && IsPreviewRun) Pane.Cancel();
     Fire(Pane.OnPreviewChange);
   });
+}
+
+void TResultPane::TParts::FitIcons() {
+  const int side = Pane.fontMetrics().height();
+  Bar->setIconSize(QSize(side, side));
 }
 
 void TResultPane::TParts::MakeContent() {
@@ -371,11 +380,22 @@ QString TResultPane::GetStatusText() const { return FParts->Status->text(); }
 
 TResultGrid& TResultPane::Grid() { return *FParts->Grid; }
 
+QWidget& TResultPane::ShownPart() {
+  if (FParts->Pages->currentWidget() == FParts->Empty) return *FParts->Bar->widgetForAction(FParts->Run);
+  return *FParts->Pages->currentWidget();
+}
+
 QAction* TResultPane::RunAction() const { return FParts->Run; }
 
 QAction* TResultPane::StopAction() const { return FParts->Stop; }
 
 QAction* TResultPane::PreviewAction() const { return FParts->Preview; }
+
+void TResultPane::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  // The base class may send some before there are parts.
+  if (event->type() == QEvent::FontChange && FParts) FParts->FitIcons();
+}
 
 void TResultPane::AddAction(QAction* action) {
   FParts->Bar->addAction(action);

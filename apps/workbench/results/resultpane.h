@@ -73,13 +73,18 @@ class TResultPane final : public QWidget {
   /// What the status says, as "First 100 rows · 0.012 s".
   QString GetStatusText() const;
   TResultGrid& Grid();
+  /// What takes keys: the rows, or what is said of a fault, or else the button that runs.
+  QWidget& ShownPart();
 
   /// For menus. Their short cuts work in the whole window.
   QAction* RunAction() const;
   QAction* StopAction() const;
   QAction* PreviewAction() const;
-  /// Adds a button at the right end of the bar.
+  /// Adds a button to the bar.
   void AddAction(QAction* action);
+
+ protected:
+  void changeEvent(QEvent* event) override;
 
  private:
   struct TParts;

@@ -7,6 +7,7 @@
 #define signals Q_SIGNALS
 #define slots Q_SLOTS
 #endif
+#include <Qsci/qscicommandset.h>
 #include <Qsci/qscilexersql.h>
 #include <Qsci/qsciscintilla.h>
 #ifdef QT_NO_KEYWORDS

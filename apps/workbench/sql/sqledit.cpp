@@ -94,6 +94,17 @@ void TSqlEdit::SetGreyed(bool greyed) {
   Dress();
 }
 
+TKeyLines TSqlEdit::Keys() const {
+  TKeyLines lines;
+  for (const auto& [command, caption] : {std::pair{QsciCommand::SelectionCopy, tr("Copy what is selected")},
+                                         {QsciCommand::SelectAll, tr("Select all")},
+                                         {QsciCommand::ZoomIn, tr("Larger letters")},
+                                         {QsciCommand::ZoomOut, tr("Smaller letters")}}) {
+    lines.emplace_back(caption, QList<QKeySequence>{QKeySequence(standardCommands()->find(command)->key())});
+  }
+  return lines;
+}
+
 QSize TSqlEdit::sizeHint() const {
   const QFontMetrics metrics(lexer()->font(QsciLexerSQL::Default));
   return {60 * metrics.horizontalAdvance(u'0'), 12 * metrics.lineSpacing()};

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "apps/workbench/controls/keyline.h"
 #include "apps/workbench/sql/scintilla.h"
 
 namespace tolvi {
@@ -21,6 +22,9 @@ class TSqlEdit final : public QsciScintilla {
   void SetGreyed(bool greyed);
   /// Takes colours, and the size of letters from the parent: to be called when its font changes.
   void Dress();
+
+  /// What can be done in a text that is only read.
+  TKeyLines Keys() const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

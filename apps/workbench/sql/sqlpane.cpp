@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "apps/workbench/controls/wraplayout.h"
 #include "apps/workbench/sql/sqledit.h"
 #include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/dialogs/syntaxcaptions.h>
@@ -69,16 +70,19 @@ TSqlPane::TSqlPane(QWidget* parent) : QWidget(parent) {
 
 QWidget* TSqlPane::MakeBar() {
   auto* bar = new QWidget(this);
-  auto* layout = new QHBoxLayout(bar);
+  auto* layout = new TWrapLayout(bar);
   layout->setContentsMargins({});
-  auto* caption = new QLabel(tr("S&yntax:"), bar);
-  FSyntax = new QComboBox(bar);
+  auto* syntax = new QWidget(bar);
+  auto* inSyntax = new QHBoxLayout(syntax);
+  inSyntax->setContentsMargins({});
+  auto* caption = new QLabel(tr("S&yntax:"), syntax);
+  FSyntax = new QComboBox(syntax);
   FSyntax->setObjectName(QStringLiteral("sql.dialect"));
   FSyntax->setToolTip(tr("The SQL syntax in which the statement is written"));
   for (const auto& [syntax, words] : SyntaxCaptions()) FSyntax->addItem(words, int{syntax});
   FSyntax->setMinimumContentsLength(8);
-  FSyntax->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  FSyntax->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  FSyntax->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  FSyntax->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   caption->setBuddy(FSyntax);
   connect(FSyntax, &QComboBox::currentIndexChanged, this, [this] {
     if (OnSyntaxChange) OnSyntaxChange(GetSyntax());
@@ -93,9 +97,9 @@ QWidget* TSqlPane::MakeBar() {
     if (OnPaste) OnPaste();
   });
   SetCanPaste(true);
-  layout->addWidget(caption);
-  layout->addWidget(FSyntax);
-  layout->addStretch(1);
+  inSyntax->addWidget(caption);
+  inSyntax->addWidget(FSyntax, 1);
+  layout->addWidget(syntax);
   layout->addWidget(FCopy);
   layout->addWidget(FPaste);
   return bar;
@@ -174,6 +178,8 @@ void TSqlPane::SetCanPaste(bool canPaste, const QString& why) {
   FPaste->setEnabled(canPaste);
   FPaste->setToolTip(canPaste ? tr("Make a query of a SELECT statement") : why);
 }
+
+TKeyLines TSqlPane::Keys() const { return FView->Keys(); }
 
 void TSqlPane::Copy() {
   QString sql = ToQString(FStatement);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/workbench/controls/keyline.h"
 #include <tolvi/query/queryresult.h>
 #include <tolvi/query/sqltypes.h>
 #include <tolvi/query/values.h>
@@ -42,6 +43,8 @@ class TSqlPane final : public QWidget {
   void SetSyntax(TSQLSyntax syntax);
   /// Whether a statement can be pasted: default true. `why` is the button's tool tip when it cannot.
   void SetCanPaste(bool canPaste, const QString& why = {});
+  /// Those of the statement.
+  TKeyLines Keys() const;
 
   /// The user has chosen another syntax.
   std::function<void(TSQLSyntax)> OnSyntaxChange;

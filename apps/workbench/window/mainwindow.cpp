@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -48,7 +49,7 @@ TMainWindow::TMainWindow(TSettings& settings, const QString& language) : FSettin
   FRefresh.setSingleShot(true);
   FRefresh.setInterval(0);
   connect(&FRefresh, &QTimer::timeout, this, &TMainWindow::ShowQuery);
-  resize(1280, 800);
+  resize(QSize(1280, 800).boundedTo(screen()->availableSize()));
   restoreGeometry(settings.Geometry);
   RestoreLayout();
   SetWorkspace(nullptr);

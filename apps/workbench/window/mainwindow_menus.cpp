@@ -22,6 +22,7 @@
 #include "apps/workbench/window/settingsdlg.h"
 #include "apps/workbench/window/shortcutsdlg.h"
 #include <tolvi/foundation/errors.h>
+#include <tolvi/panel/panelcommands.h>
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
@@ -239,13 +240,14 @@ void TMainWindow::BuildViewMenu() {
                                 QWidget* pane = nullptr) {
     AddCommand(menu, name, caption, QKeySequence(QStringLiteral("Alt+%1").arg(number)), [this, target, pane] {
       if (pane != nullptr) FResultTabs->setCurrentWidget(pane);
-      target->setFocus(Qt::ShortcutFocusReason);
+      QWidget* shown = target != nullptr ? target : &FResultPane->ShownPart();
+      shown->setFocus(Qt::ShortcutFocusReason);
     });
   };
   go(QStringLiteral("view.queries"), tr("Go to the &queries"), 1, &FStorePane->List());
   go(QStringLiteral("view.conditions"), tr("Go to the &conditions"), 2, &FQueryArea->Conditions());
   go(QStringLiteral("view.columns"), tr("Go to the co&lumns"), 3, &FQueryArea->Columns());
-  go(QStringLiteral("view.results"), tr("Go to the &rows"), 4, &FResultPane->Grid(), FResultPane);
+  go(QStringLiteral("view.results"), tr("Go to the &rows"), 4, nullptr, FResultPane);
   go(QStringLiteral("view.chart"), tr("Go to the c&hart"), 5,
      FChartPane->findChild<QWidget*>(QStringLiteral("chart.kind")), FChartPane);
   go(QStringLiteral("view.sql"), tr("Go to the &SQL"), 6, FSqlPane->findChild<QWidget*>(QStringLiteral("sql.view")));
@@ -275,7 +277,9 @@ void TMainWindow::BuildViewMenu() {
     QAction* action = group->addAction(themes->addAction(caption));
     action->setObjectName(QStringLiteral("theme.%1").arg(theme));
     action->setCheckable(true);
-    action->setChecked(theme == FSettings.Theme);
+    // The settings have it, too.
+    connect(themes, &QMenu::aboutToShow, action,
+            [this, action, theme = theme] { action->setChecked(theme == FSettings.Theme); });
     connect(action, &QAction::triggered, this, [this, theme = theme] {
       FSettings.Theme = theme;
       if (Requests.UseTheme) Requests.UseTheme();
@@ -293,8 +297,14 @@ void TMainWindow::BuildViewMenu() {
 
 void TMainWindow::BuildHelpMenu() {
   QMenu& menu = *AddMenu(QStringLiteral("menu.help"), tr("&Help"));
-  AddCommand(menu, QStringLiteral("help.shortcuts"), tr("&Keyboard short cuts"), QKeySequence::HelpContents,
-             [this] { ShowShortcuts(*this, FQueryArea->Conditions()); });
+  AddCommand(menu, QStringLiteral("help.shortcuts"), tr("&Keyboard short cuts"), QKeySequence::HelpContents, [this] {
+    QList<QAction*> conditions;
+    for (const TPanelCommandInfo& info : PanelCommands()) {
+      conditions << &FQueryArea->Conditions().GetAction(info.Command);
+    }
+    ShowShortcuts(*this,
+                  {KeysOf(conditions), KeysOf(FStorePane->List().actions()), TResultGrid::Keys(), FSqlPane->Keys()});
+  });
   AddCommand(menu, QStringLiteral("help.about"), tr("&About"), {}, [this] { ShowAbout(this); });
 }
 

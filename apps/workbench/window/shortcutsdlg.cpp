@@ -12,9 +12,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <tolvi/panel/panelcommands.h>
-#include <tolvi/ui/panels/querpnlview.h>
-
 namespace tolvi {
 namespace {
 
@@ -22,39 +19,28 @@ struct TTexts {
   Q_DECLARE_TR_FUNCTIONS(tolvi::TShortcuts)
 };
 
-/// Without accelerators.
-QString Plain(QString caption) {
-  caption = caption.section(u'\t', 0, 0);
-  return caption.replace(QStringLiteral("&&"), QStringLiteral("\1")).remove(u'&').replace(u'\1', u'&');
-}
-
-void AddLine(QTreeWidgetItem& group, const QAction& action) {
-  QStringList keys;
-  for (const QKeySequence& key : action.shortcuts()) keys << key.toString(QKeySequence::NativeText);
-  if (keys.isEmpty()) return;
-  auto* line = new QTreeWidgetItem(&group, {Plain(action.text()), keys.join(QStringLiteral("  ·  "))});
-  line->setToolTip(0, action.toolTip());
-}
-
-QTreeWidgetItem* AddGroup(QTreeWidget& tree, const QString& caption) {
+void AddGroup(QTreeWidget& tree, const QString& caption, const TKeyLines& lines) {
+  if (lines.empty()) return;
   auto* group = new QTreeWidgetItem(&tree, {caption});
   QFont bold = tree.font();
   bold.setBold(true);
   group->setFont(0, bold);
   group->setExpanded(true);
-  return group;
+  for (const TKeyLine& line : lines) {
+    QStringList keys;
+    for (const QKeySequence& key : line.Keys) keys << key.toString(QKeySequence::NativeText);
+    new QTreeWidgetItem(group, {line.Command, keys.join(QStringLiteral("  ·  "))});
+  }
 }
 
-void Fill(QTreeWidget& tree, QMainWindow& window, TJQueryPanelView& conditions) {
+void Fill(QTreeWidget& tree, QMainWindow& window, const TPaneKeys& panes) {
   for (const QAction* top : window.menuBar()->actions()) {
-    QTreeWidgetItem* group = AddGroup(tree, Plain(top->text()));
-    for (const QAction* action : top->menu()->actions()) AddLine(*group, *action);
+    AddGroup(tree, TKeyLine(top->text(), {}).Command, KeysOf(top->menu()->actions()));
   }
-  QTreeWidgetItem* group = AddGroup(tree, TTexts::tr("Among the conditions"));
-  for (const TPanelCommandInfo& info : PanelCommands()) AddLine(*group, conditions.GetAction(info.Command));
-  for (int i = tree.topLevelItemCount() - 1; i >= 0; --i) {
-    if (tree.topLevelItem(i)->childCount() == 0) delete tree.takeTopLevelItem(i);
-  }
+  AddGroup(tree, TTexts::tr("Among the conditions"), panes.Conditions);
+  AddGroup(tree, TTexts::tr("In the list of queries"), panes.Queries);
+  AddGroup(tree, TTexts::tr("Among the rows"), panes.Rows);
+  AddGroup(tree, TTexts::tr("In the SQL"), panes.Sql);
 }
 
 void ShowFound(QTreeWidget& tree, const QString& wanted) {
@@ -73,7 +59,7 @@ void ShowFound(QTreeWidget& tree, const QString& wanted) {
 
 }  // namespace
 
-void ShowShortcuts(QMainWindow& window, TJQueryPanelView& conditions) {
+void ShowShortcuts(QMainWindow& window, const TPaneKeys& panes) {
   QDialog dialog(&window);
   dialog.setObjectName(QStringLiteral("shortcuts"));
   dialog.setWindowTitle(TTexts::tr("Keyboard short cuts"));
@@ -89,7 +75,7 @@ void ShowShortcuts(QMainWindow& window, TJQueryPanelView& conditions) {
   tree->setAllColumnsShowFocus(true);
   tree->setUniformRowHeights(true);
   tree->setAccessibleName(dialog.windowTitle());
-  Fill(*tree, window, conditions);
+  Fill(*tree, window, panes);
   tree->resizeColumnToContents(0);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
@@ -99,7 +85,7 @@ void ShowShortcuts(QMainWindow& window, TJQueryPanelView& conditions) {
   rows->addWidget(tree, 1);
   rows->addWidget(buttons);
   const QFontMetrics metrics = dialog.fontMetrics();
-  dialog.resize(metrics.averageCharWidth() * 80, metrics.height() * 32);
+  dialog.resize(QSize(metrics.averageCharWidth() * 80, metrics.height() * 32).boundedTo(window.size()));
   dialog.exec();
 }
 
