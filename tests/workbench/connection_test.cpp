@@ -253,25 +253,23 @@ TEST_F(ConnectionDialog, TestsInTheBackground) {
   EXPECT_NE(test().find("check that it is an SQLite database"), std::string::npos);
 }
 
-TEST_F(ConnectionDialog, KeepsPasswordsWhereTheUserWants) {
+TEST_F(ConnectionDialog, GivesPasswordsAndKeepsThemNowhere) {
   EXPECT_TRUE(Find<QCheckBox>("remember").isEnabled());
   ChooseKind(1);
   Type("database", QStringLiteral("shop"));
+  EXPECT_FALSE(Dialog.GetGiven());
   Type("password", QStringLiteral("s3cret"));
-  EXPECT_FALSE(Secrets.InSession(Dialog.GetUrl()).has_value());
-  QTest::mouseClick(&Find<QPushButton>("ok"), Qt::LeftButton);
-  EXPECT_EQ(Dialog.result(), QDialog::Accepted);
-  EXPECT_EQ(Secrets.InSession(Dialog.GetUrl()), "s3cret");
+  for (const bool remember : {false, true}) {
+    Dialog.show();
+    Find<QCheckBox>("remember").setChecked(remember);
+    QTest::mouseClick(&Find<QPushButton>("ok"), Qt::LeftButton);
+    EXPECT_EQ(Dialog.result(), QDialog::Accepted);
+    ASSERT_TRUE(Dialog.GetGiven());
+    EXPECT_EQ(Dialog.GetGiven()->Password, "s3cret");
+    EXPECT_EQ(Dialog.GetGiven()->IsForKeychain, remember);
+  }
+  EXPECT_EQ(Secrets.InSession(Dialog.GetUrl()), std::nullopt) << "nobody knows yet whether it is the right one";
   EXPECT_TRUE(Vault.Texts.isEmpty());
-
-  Vault.WriteFault = QStringLiteral("it is locked");
-  Dialog.show();
-  Find<QCheckBox>("remember").setChecked(true);
-  QTest::mouseClick(&Find<QPushButton>("ok"), Qt::LeftButton);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return Find<QLabel>("told").isVisible(); }));
-  EXPECT_EQ(FromQString(Find<QLabel>("told").text()),
-            "The keychain did not take the password: it is locked. It is known until the program ends.");
-  EXPECT_TRUE(Dialog.isVisible());
 }
 
 TEST(ConnectionDialogAlone, SaysThatThereIsNoKeychain) {
@@ -422,9 +420,19 @@ TEST(Passwords, AreAskedForWithWhatTheServerSaid) {
     EXPECT_EQ(given->IsForKeychain, remember);
   }
   EXPECT_EQ(secrets->InSession(url), std::nullopt) << "nobody knows yet whether it is the right one";
-  vault.WriteFault = QStringLiteral("it is locked");
+
   std::string told;
-  KeepPassword(*secrets, url, {"s3cret", true}, [&](const QString& words) { told = FromQString(words); });
+  const auto tell = [&](const QString& words) { told = FromQString(words); };
+  KeepPassword(*secrets, url, {"s3cret", true}, tell);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return vault.Texts.size() == 1; }));
+  // The user wants it in the keychain no more.
+  KeepPassword(*secrets, url, {"other", false}, tell);
+  EXPECT_EQ(secrets->InSession(url), "other");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return vault.Texts.isEmpty(); }));
+  EXPECT_EQ(told, "");
+
+  vault.WriteFault = QStringLiteral("it is locked");
+  KeepPassword(*secrets, url, {"s3cret", true}, tell);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !told.empty(); }));
   EXPECT_EQ(told, "The keychain did not take the password: it is locked. It is known until the program ends.");
   EXPECT_EQ(secrets->InSession(url), "s3cret");

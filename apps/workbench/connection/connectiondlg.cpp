@@ -213,6 +213,11 @@ void T_dlgConnection::SetRecent(std::vector<TConnectionUrl> urls) {
 
 TConnectionUrl T_dlgConnection::GetUrl() const { return FForm->GetUrl(); }
 
+std::optional<TGivenPassword> T_dlgConnection::GetGiven() const {
+  const auto typed = FForm->TypedPassword();
+  return typed ? std::optional(TGivenPassword{*typed, FForm->GetRemember()}) : std::nullopt;
+}
+
 void T_dlgConnection::SetUrl(const TConnectionUrl& url) {
   FForm->ForgetPassword();
   FForm->SetUrl(url);
@@ -313,23 +318,7 @@ void T_dlgConnection::ShowTold(const QString& words, bool isFault) {
 void T_dlgConnection::accept() {
   if (!IsFilled()) return;
   FConnectionTest->Stop();
-  const auto typed = FForm->TypedPassword();
-  const TConnectionUrl url = WithoutPassword(FForm->GetUrl());
-  if (!typed) return QDialog::accept();
-  if (!FForm->GetRemember()) {
-    if (FSecrets.GetKeychain() == TSecrets::kcReady) FSecrets.Forget(url);
-    FSecrets.KeepInSession(url, *typed);
-    return QDialog::accept();
-  }
-  setEnabled(false);
-  FSecrets.KeepInKeychain(url, *typed, [self = QPointer(this)](const QString& fault) {
-    if (!self) return;
-    self->setEnabled(true);
-    if (fault.isEmpty()) return self->QDialog::accept();
-    self->ShowTold(tr("The keychain did not take the password: %1. It is known until the program ends.").arg(fault),
-                   true);
-    self->FForm->ShowKeychain(false, tr("The keychain does not work: passwords are forgotten when the program ends."));
-  });
+  QDialog::accept();
 }
 
 void T_dlgConnection::dragEnterEvent(QDragEnterEvent* event) {

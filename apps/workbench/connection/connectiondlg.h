@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "apps/workbench/connection/passworddlg.h"
 #include <tolvi/connect/connecturl.h>
 class QLabel;
 class QLineEdit;
@@ -24,7 +25,7 @@ class TSecrets;
 ///   T_dlgConnection dialog(secrets, this);
 ///   dialog.SetRecent(recent);
 ///   dialog.SetUrl(current);
-///   if (dialog.exec() == QDialog::Accepted) Open(dialog.GetUrl());
+///   if (dialog.exec() == QDialog::Accepted) Open(dialog.GetUrl(), dialog.GetGiven());
 class T_dlgConnection final : public QDialog {
   Q_OBJECT
 
@@ -35,8 +36,10 @@ class T_dlgConnection final : public QDialog {
 
   /// Shown at the left, in this order; no list for an empty one. Default empty.
   void SetRecent(std::vector<TConnectionUrl> urls);
-  /// With the password that was typed, or is known. A password is handed to `secrets` when the dialog is accepted.
+  /// With the password that was typed, or is known.
   TConnectionUrl GetUrl() const;
+  /// The password that was typed, if one was. It is kept nowhere: see `KeepPassword`.
+  std::optional<TGivenPassword> GetGiven() const;
   void SetUrl(const TConnectionUrl& url);
   /// How long a test may take. Default 10 seconds.
   void SetTestSeconds(int seconds);

@@ -86,7 +86,11 @@ std::optional<TGivenPassword> AskPassword(QWidget* parent, const TConnectionUrl&
 
 void KeepPassword(TSecrets& secrets, const TConnectionUrl& url, const TGivenPassword& given,
                   const std::function<void(const QString& words)>& told) {
-  if (!given.IsForKeychain) return secrets.KeepInSession(url, given.Password);
+  if (!given.IsForKeychain) {
+    // One that it has is another one, or is not to be remembered any more.
+    if (secrets.GetKeychain() == TSecrets::kcReady) secrets.Forget(url);
+    return secrets.KeepInSession(url, given.Password);
+  }
   secrets.KeepInKeychain(url, given.Password, [told](const QString& fault) {
     if (fault.isEmpty()) return;
     told(QCoreApplication::translate("tolvi::T_dlgConnection",

@@ -23,7 +23,8 @@ struct TGivenPassword {
 std::optional<TGivenPassword> AskPassword(QWidget* parent, const TConnectionUrl& url, TSecrets& secrets,
                                           const QString& fault = {});
 
-/// Keeps the password where the user wants it; `told` gets what there is to say when the keychain does not take it.
+/// Keeps the password, which has proved right, where the user wants it and nowhere else; `told` gets what there is to
+/// say when the keychain does not take it.
 void KeepPassword(TSecrets& secrets, const TConnectionUrl& url, const TGivenPassword& given,
                   const std::function<void(const QString& words)>& told);
 

@@ -110,19 +110,22 @@ void TProgram::UseLanguage(const QString& code) {
   MakeWindow();
 }
 
-std::unique_ptr<TWorkspace> TProgram::Opened(const TSource& source) {
+std::unique_ptr<TWorkspace> TProgram::Opened(const TSource& source, std::optional<TGivenPassword> given) {
   // A keychain may ask its user; one that does not answer is not waited for.
   constexpr int keychainPatience = 5'000;
   const TConnectionUrl url = ParseConnectionUrl(source.Url);
-  TGivenPassword given;
-  bool isAsked = false;
-  if (url.Kind != dkSQLite) given.Password = FSecrets.WaitFor(url, keychainPatience).value_or(std::string());
   while (true) {
     QString fault;
     try {
-      auto workspace = OpenWorkspace(FWindow.get(), source, given.Password, FolderOf(source, FData), SystemFormats());
-      if (workspace && isAsked) {
-        KeepPassword(FSecrets, url, given, [this](const QString& words) { FWindow->Tell(words); });
+      std::string password;
+      if (given) {
+        password = given->Password;
+      } else if (url.Kind != dkSQLite) {
+        password = FSecrets.WaitFor(url, keychainPatience).value_or(std::string());
+      }
+      auto workspace = OpenWorkspace(FWindow.get(), source, password, FolderOf(source, FData), SystemFormats());
+      if (workspace && given) {
+        KeepPassword(FSecrets, url, *given, [this](const QString& words) { FWindow->Tell(words); });
       }
       return workspace;
     } catch (const ENoAnswerError&) {
@@ -132,17 +135,15 @@ std::unique_ptr<TWorkspace> TProgram::Opened(const TSource& source) {
       if (url.Kind == dkSQLite) throw;
       fault = QString::fromUtf8(error.what());
     }
-    const std::optional<TGivenPassword> answer = AskPassword(FWindow.get(), url, FSecrets, fault);
-    if (!answer) return nullptr;
-    given = *answer;
-    isAsked = true;
+    given = AskPassword(FWindow.get(), url, FSecrets, fault);
+    if (!given) return nullptr;
   }
 }
 
-bool TProgram::Open(const TSource& source) {
+bool TProgram::Open(const TSource& source, const std::optional<TGivenPassword>& given) {
   if (!FWindow->MayLeaveQuery() || !FWindow->MayLeaveModel()) return false;
   try {
-    auto workspace = Opened(source);
+    auto workspace = Opened(source, given);
     if (!workspace) return false;
     Show(std::move(workspace));
     return true;
@@ -173,12 +174,11 @@ void TProgram::Connect() {
   dialog.SetRecent(std::move(recent));
   if (dialog.exec() != QDialog::Accepted) return;
   const TConnectionUrl url = dialog.GetUrl();
-  if (!url.Password.empty()) FSecrets.KeepInSession(url, url.Password);
   TSource source{url.Shown()};
   for (const TSource& known : Settings().Recent) {
     if (known.Url == source.Url) source = known;
   }
-  Open(source);
+  Open(source, dialog.GetGiven());
 }
 
 void TProgram::OpenSample() {

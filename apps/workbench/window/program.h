@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "apps/workbench/connection/passworddlg.h"
 #include "apps/workbench/connection/secrets.h"
 #include "apps/workbench/workspace/recovery.h"
 #include "apps/workbench/workspace/settings.h"
@@ -43,7 +44,8 @@ class TProgram final : public QObject {
   /// than the one that was named is only offered.
   void Start();
   /// False when it could not be opened, which is told, or the user gave up; the former source is then still open.
-  bool Open(const TSource& source);
+  /// A password that is given is kept as its user wants once it has proved right.
+  bool Open(const TSource& source, const std::optional<TGivenPassword>& given = {});
   TMainWindow& Window() const { return *FWindow; }
   TSettings& Settings() { return FSettingsFile.Settings; }
   TSecrets& Secrets() { return FSecrets; }
@@ -55,7 +57,7 @@ class TProgram final : public QObject {
   void MakeWindow();
   void Show(std::unique_ptr<TWorkspace> workspace);
   // Null: the user gave up. Raises why it cannot be opened.
-  std::unique_ptr<TWorkspace> Opened(const TSource& source);
+  std::unique_ptr<TWorkspace> Opened(const TSource& source, std::optional<TGivenPassword> given = {});
   // Both raise `EFileError`, for the sample.
   std::optional<TSource> NamedSource() const;
   TSource LastSource();
