@@ -240,6 +240,21 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <source>Drawing (*.svg)</source>
         <translation>رسم متجهي (*.svg)</translation>
     </message>
+    <message>
+        <source>Read &amp;all rows</source>
+        <translation>قراءة كل الصفوف (&amp;A)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only the first %Ln rows have been read.</source>
+        <translation>
+            <numerusform>لم يُقرأ أي صف.</numerusform>
+            <numerusform>قُرئ الصف الأول فقط.</numerusform>
+            <numerusform>قُرئ أول صفين فقط.</numerusform>
+            <numerusform>قُرئت أول %Ln صفوف فقط.</numerusform>
+            <numerusform>قُرئ أول %Ln صفًا فقط.</numerusform>
+            <numerusform>قُرئ أول %Ln صف فقط.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TConnectionForm</name>
@@ -693,7 +708,7 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     </message>
     <message>
         <source>Go to the c&amp;hart</source>
-        <translation>الانتقال إلى المخطط (&amp;H)</translation>
+        <translation>الانتقال إلى الرسم البياني (&amp;H)</translation>
     </message>
     <message>
         <source>Rows appear here when you run the query.</source>
@@ -701,7 +716,7 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     </message>
     <message>
         <source>Only the first %L1 rows are here. Run the query first to have all of them.</source>
-        <translation>هنا أول %L1 صفوف فقط. شغّل الاستعلام أولاً للحصول عليها كلها.</translation>
+        <translation>هنا أول %L1 من الصفوف فقط. شغّل الاستعلام أولًا للحصول عليها كلها.</translation>
     </message>
     <message>
         <source>&amp;Run</source>
@@ -710,6 +725,129 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     <message>
         <source>&amp;These rows only</source>
         <translation>هذه الصفوف فقط (&amp;T)</translation>
+    </message>
+    <message>
+        <source>The former queries are still in the database.</source>
+        <translation>ما زالت الاستعلامات السابقة في قاعدة البيانات.</translation>
+    </message>
+    <message>
+        <source>The former queries are still in %1.</source>
+        <translation>ما زالت الاستعلامات السابقة في %1.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Copy them here</source>
+        <translation>نسخها إلى هنا</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n query(ies) copied.</source>
+        <translation>
+            <numerusform>لم يُنسخ أي استعلام.</numerusform>
+            <numerusform>نُسخ استعلام واحد.</numerusform>
+            <numerusform>نُسخ استعلامان.</numerusform>
+            <numerusform>نُسخت %n استعلامات.</numerusform>
+            <numerusform>نُسخ %n استعلامًا.</numerusform>
+            <numerusform>نُسخ %n استعلام.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new table(s)</source>
+        <translation>
+            <numerusform>لا جداول</numerusform>
+            <numerusform>جدول واحد</numerusform>
+            <numerusform>جدولان</numerusform>
+            <numerusform>%n جداول</numerusform>
+            <numerusform>%n جدولًا</numerusform>
+            <numerusform>%n جدول</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new column(s)</source>
+        <translation>
+            <numerusform>لا أعمدة</numerusform>
+            <numerusform>عمود واحد</numerusform>
+            <numerusform>عمودان</numerusform>
+            <numerusform>%n أعمدة</numerusform>
+            <numerusform>%n عمودًا</numerusform>
+            <numerusform>%n عمود</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new link(s)</source>
+        <translation>
+            <numerusform>لا روابط</numerusform>
+            <numerusform>رابط واحد</numerusform>
+            <numerusform>رابطان</numerusform>
+            <numerusform>%n روابط</numerusform>
+            <numerusform>%n رابطًا</numerusform>
+            <numerusform>%n رابط</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no new tables and columns.</source>
+        <translation>لا توجد في قاعدة البيانات جداول أو أعمدة جديدة.</translation>
+    </message>
+    <message>
+        <source>New in the model: %1.</source>
+        <translation>الجديد في النموذج: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>، </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s), column(s) or link(s) of the model are not in the database.</source>
+        <translation>
+            <numerusform>كل جداول النموذج وأعمدته وروابطه موجودة في قاعدة البيانات.</numerusform>
+            <numerusform>جدول أو عمود أو رابط واحد من النموذج غير موجود في قاعدة البيانات.</numerusform>
+            <numerusform>عدد جداول النموذج وأعمدته وروابطه غير الموجودة في قاعدة البيانات: %n.</numerusform>
+            <numerusform>عدد جداول النموذج وأعمدته وروابطه غير الموجودة في قاعدة البيانات: %n.</numerusform>
+            <numerusform>عدد جداول النموذج وأعمدته وروابطه غير الموجودة في قاعدة البيانات: %n.</numerusform>
+            <numerusform>عدد جداول النموذج وأعمدته وروابطه غير الموجودة في قاعدة البيانات: %n.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) have another type in the database than in the model.</source>
+        <translation>
+            <numerusform>لا يختلف نوع أي عمود في قاعدة البيانات عن نوعه في النموذج.</numerusform>
+            <numerusform>يختلف نوع عمود واحد في قاعدة البيانات عن نوعه في النموذج.</numerusform>
+            <numerusform>يختلف نوع عمودين في قاعدة البيانات عن نوعهما في النموذج.</numerusform>
+            <numerusform>يختلف نوع %n أعمدة في قاعدة البيانات عن نوعها في النموذج.</numerusform>
+            <numerusform>يختلف نوع %n عمودًا في قاعدة البيانات عن نوعها في النموذج.</numerusform>
+            <numerusform>يختلف نوع %n عمود في قاعدة البيانات عن نوعها في النموذج.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show...</source>
+        <translation>إظهار...</translation>
+    </message>
+    <message>
+        <source>The database refuses the column “%1”:
+%2</source>
+        <translation>ترفض قاعدة البيانات العمود «%1»:
+%2</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here: the settings let a run read no more.</source>
+        <translation>هنا أول %L1 من الصفوف فقط: لا تسمح الإعدادات بقراءة المزيد في التشغيل الواحد.</translation>
+    </message>
+    <message>
+        <source>1 row is in %1.</source>
+        <translation>حُفظ صف واحد في %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln rows are in %1.</source>
+        <translation>
+            <numerusform>لم يُحفظ أي صف في %1.</numerusform>
+            <numerusform>حُفظ صف واحد في %1.</numerusform>
+            <numerusform>حُفظ صفان في %1.</numerusform>
+            <numerusform>حُفظت %Ln صفوف في %1.</numerusform>
+            <numerusform>حُفظ %Ln صفًا في %1.</numerusform>
+            <numerusform>حُفظ %Ln صف في %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -724,6 +862,21 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     <message>
         <source>Close this note</source>
         <translation>إغلاق هذه الملاحظة</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TOpeningDialog</name>
+    <message>
+        <source>Open a database</source>
+        <translation>فتح قاعدة بيانات</translation>
+    </message>
+    <message>
+        <source>Reading the tables of %1...</source>
+        <translation>جارٍ قراءة جداول %1...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1...</source>
+        <translation>جارٍ انتظار %1...</translation>
     </message>
 </context>
 <context>
@@ -759,6 +912,17 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <source>Page %1 of %2</source>
         <translation>الصفحة %1 من %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (only the first %Ln rows)</source>
+        <translation>
+            <numerusform>%1 (دون صفوف)</numerusform>
+            <numerusform>%1 (الصف الأول فقط)</numerusform>
+            <numerusform>%1 (أول صفين فقط)</numerusform>
+            <numerusform>%1 (أول %Ln صفوف فقط)</numerusform>
+            <numerusform>%1 (أول %Ln صفًا فقط)</numerusform>
+            <numerusform>%1 (أول %Ln صف فقط)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -772,7 +936,39 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     </message>
     <message>
         <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
-        <translation>لا يمكن الآن استعادة التغييرات التي لم تُحفظ. تبقى في %1، وسيُعاد المحاولة عند بدء التشغيل التالي.</translation>
+        <translation>لا يمكن الآن استعادة التغييرات التي لم تُحفظ. تبقى في %1، وستُعاد المحاولة عند بدء التشغيل التالي.</translation>
+    </message>
+    <message>
+        <source>%1 is not open.</source>
+        <translation>القاعدة %1 غير مفتوحة.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>Open another one...</source>
+        <translation>فتح قاعدة أخرى...</translation>
+    </message>
+    <message>
+        <source>Open the sample</source>
+        <translation>فتح القاعدة التجريبية</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of “%1” in %2 were saved. They are kept until you take them or discard them.</source>
+        <translation>انتهى البرنامج قبل حفظ تغييرات «%1» (%2). ويُحتفظ بها حتى تستعيدها أو تتجاهلها.</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of the data model of %1 were saved. They are kept until you take them or discard them.</source>
+        <translation>انتهى البرنامج قبل حفظ تغييرات نموذج البيانات لقاعدة %1. ويُحتفظ بها حتى تستعيدها أو تتجاهلها.</translation>
+    </message>
+    <message>
+        <source>Open %1 with them</source>
+        <translation>فتح %1 مع التغييرات</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>تجاهل</translation>
     </message>
 </context>
 <context>
@@ -886,6 +1082,10 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     <message>
         <source>Copying was stopped; the clipboard holds what it held</source>
         <translation>أُوقف النسخ؛ بقي محتوى الحافظة كما كان</translation>
+    </message>
+    <message>
+        <source>Stop copying</source>
+        <translation>إيقاف النسخ</translation>
     </message>
 </context>
 <context>
@@ -1134,29 +1334,40 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <source>Keys</source>
         <translation>المفاتيح</translation>
     </message>
+    <message>
+        <source>In the list of queries</source>
+        <translation>ضمن قائمة الاستعلامات</translation>
+    </message>
+    <message>
+        <source>Among the rows</source>
+        <translation>ضمن الصفوف</translation>
+    </message>
+    <message>
+        <source>In the SQL</source>
+        <translation>ضمن SQL</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TSqlEdit</name>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>نسخ المحدد</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>تحديد الكل</translation>
+    </message>
+    <message>
+        <source>Larger letters</source>
+        <translation>تكبير الخط</translation>
+    </message>
+    <message>
+        <source>Smaller letters</source>
+        <translation>تصغير الخط</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TSqlPane</name>
-    <message>
-        <source>SQL with JOIN</source>
-        <translation>عبارة SQL باستخدام JOIN</translation>
-    </message>
-    <message>
-        <source>SQL with joins in WHERE</source>
-        <translation>عبارة SQL بالربط في WHERE</translation>
-    </message>
-    <message>
-        <source>Oracle</source>
-        <translation>Oracle</translation>
-    </message>
-    <message>
-        <source>Access</source>
-        <translation>Access</translation>
-    </message>
-    <message>
-        <source>NexusDB</source>
-        <translation>NexusDB</translation>
-    </message>
     <message>
         <source>Statement</source>
         <translation>العبارة</translation>
@@ -1358,10 +1569,6 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <translation>هل تريد حذف الاستعلام «%1»؟</translation>
     </message>
     <message>
-        <source>It is deleted for everybody who uses this store. It can be brought back only until this note about it is closed.</source>
-        <translation>سيُحذف لدى كل من يستخدم هذا المخزن. ولا يمكن استعادته إلا قبل إغلاق الملاحظة المتعلقة به.</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>حُذف «%1».</translation>
     </message>
@@ -1372,6 +1579,21 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     <message>
         <source>What was copied is no query text. Statements in SQL are pasted into the SQL.</source>
         <translation>ما نُسخ ليس نص استعلام. تُلصق عبارات SQL في لوحة SQL.</translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. You can take that back until the note about it is closed.</source>
+        <translation>سيُحذف لدى كل من يستخدم هذا المخزن. ويمكنك التراجع عن ذلك حتى إغلاق الملاحظة المتعلقة به.</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” was deleted, and %n before it.</source>
+        <translation>
+            <numerusform>حُذف «%1».</numerusform>
+            <numerusform>حُذف «%1»، وقبله استعلام واحد.</numerusform>
+            <numerusform>حُذف «%1»، وقبله استعلامان.</numerusform>
+            <numerusform>حُذف «%1»، وقبله %n استعلامات.</numerusform>
+            <numerusform>حُذف «%1»، وقبله %n استعلامًا.</numerusform>
+            <numerusform>حُذف «%1»، وقبله %n استعلام.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1391,6 +1613,48 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     <message>
         <source>&amp;Copy</source>
         <translation>نسخ (&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TWorkspace</name>
+    <message>
+        <source>The sample cannot be put into %1: the folder cannot be made. The option --home names another place.</source>
+        <translation>يتعذر وضع القاعدة التجريبية في %1: يتعذر إنشاء المجلد. يمكن تحديد مكان آخر بالخيار ‎--home.</translation>
+    </message>
+    <message>
+        <source>The sample stays as it is: %1 cannot be renamed.</source>
+        <translation>تبقى القاعدة التجريبية كما هي: تتعذر إعادة تسمية %1.</translation>
+    </message>
+    <message>
+        <source>The data model cannot be kept: %1. Model &gt; Save as... keeps it in another place.</source>
+        <translation>يتعذر الاحتفاظ بنموذج البيانات: %1. اختر النموذج &gt; حفظ باسم... للاحتفاظ به في مكان آخر.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The driver tells nothing of links between tables. %n link(s) were found by the names of columns; Model &gt; Diagram... shows them, and can draw others.</source>
+        <translation>
+            <numerusform>لا يعطي برنامج التشغيل معلومات عن الروابط بين الجداول. لم يُعثر على أي رابط حسب أسماء الأعمدة؛ يتيح النموذج &gt; الرسم التخطيطي... رسم روابط.</numerusform>
+            <numerusform>لا يعطي برنامج التشغيل معلومات عن الروابط بين الجداول. عُثر على رابط واحد حسب أسماء الأعمدة؛ يعرضه النموذج &gt; الرسم التخطيطي... ويتيح رسم غيره.</numerusform>
+            <numerusform>لا يعطي برنامج التشغيل معلومات عن الروابط بين الجداول. عُثر على رابطين حسب أسماء الأعمدة؛ يعرضهما النموذج &gt; الرسم التخطيطي... ويتيح رسم غيرهما.</numerusform>
+            <numerusform>لا يعطي برنامج التشغيل معلومات عن الروابط بين الجداول. عُثر على %n روابط حسب أسماء الأعمدة؛ يعرضها النموذج &gt; الرسم التخطيطي... ويتيح رسم غيرها.</numerusform>
+            <numerusform>لا يعطي برنامج التشغيل معلومات عن الروابط بين الجداول. عُثر على %n رابطًا حسب أسماء الأعمدة؛ يعرضها النموذج &gt; الرسم التخطيطي... ويتيح رسم غيرها.</numerusform>
+            <numerusform>لا يعطي برنامج التشغيل معلومات عن الروابط بين الجداول. عُثر على %n رابط حسب أسماء الأعمدة؛ يعرضها النموذج &gt; الرسم التخطيطي... ويتيح رسم غيرها.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no tables that can be read. Once it has some, Model &gt; Read new tables from the database finds them.</source>
+        <translation>لا توجد في قاعدة البيانات جداول يمكن قراءتها. عند توفرها اختر النموذج &gt; قراءة الجداول الجديدة من قاعدة البيانات.</translation>
+    </message>
+    <message>
+        <source>%1 is no data model, or a damaged one: %2. Choose another file; where there is none, a model is made from the tables of the database.</source>
+        <translation>الملف %1 ليس نموذج بيانات أو أنه تالف: %2. اختر ملفًا آخر؛ وإن لم يوجد ملف فسيُنشأ نموذج من جداول قاعدة البيانات.</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept in this database: %1</source>
+        <translation>يتعذر حفظ الاستعلامات في قاعدة البيانات هذه: %1</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept: %1. Query &gt; Where queries are kept has other places.</source>
+        <translation>يتعذر حفظ الاستعلامات: %1. لاختيار مكان آخر استخدم الاستعلام &gt; مكان حفظ الاستعلامات.</translation>
     </message>
 </context>
 <context>

@@ -232,6 +232,17 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <source>Drawing (*.svg)</source>
         <translation>Zeichnung (*.svg)</translation>
     </message>
+    <message>
+        <source>Read &amp;all rows</source>
+        <translation>Alle Zeilen &amp;lesen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only the first %Ln rows have been read.</source>
+        <translation>
+            <numerusform>Nur die erste Zeile wurde gelesen.</numerusform>
+            <numerusform>Nur die ersten %Ln Zeilen wurden gelesen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TConnectionForm</name>
@@ -695,6 +706,101 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <source>&amp;These rows only</source>
         <translation>&amp;Nur diese Zeilen</translation>
     </message>
+    <message>
+        <source>The former queries are still in the database.</source>
+        <translation>Die bisherigen Abfragen sind noch in der Datenbank.</translation>
+    </message>
+    <message>
+        <source>The former queries are still in %1.</source>
+        <translation>Die bisherigen Abfragen sind noch in %1.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Copy them here</source>
+        <translation>Hierher kopieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n query(ies) copied.</source>
+        <translation>
+            <numerusform>%n Abfrage kopiert.</numerusform>
+            <numerusform>%n Abfragen kopiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new table(s)</source>
+        <translation>
+            <numerusform>%n Tabelle</numerusform>
+            <numerusform>%n Tabellen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new column(s)</source>
+        <translation>
+            <numerusform>%n Spalte</numerusform>
+            <numerusform>%n Spalten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new link(s)</source>
+        <translation>
+            <numerusform>%n Verknüpfung</numerusform>
+            <numerusform>%n Verknüpfungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no new tables and columns.</source>
+        <translation>Die Datenbank enthält keine neuen Tabellen und Spalten.</translation>
+    </message>
+    <message>
+        <source>New in the model: %1.</source>
+        <translation>Neu im Modell: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s), column(s) or link(s) of the model are not in the database.</source>
+        <translation>
+            <numerusform>%n Tabelle, Spalte oder Verknüpfung des Modells ist nicht in der Datenbank.</numerusform>
+            <numerusform>%n Tabellen, Spalten oder Verknüpfungen des Modells sind nicht in der Datenbank.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) have another type in the database than in the model.</source>
+        <translation>
+            <numerusform>%n Spalte hat in der Datenbank einen anderen Typ als im Modell.</numerusform>
+            <numerusform>%n Spalten haben in der Datenbank einen anderen Typ als im Modell.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show...</source>
+        <translation>Anzeigen...</translation>
+    </message>
+    <message>
+        <source>The database refuses the column “%1”:
+%2</source>
+        <translation>Die Datenbank lehnt die Spalte „%1“ ab:
+%2</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here: the settings let a run read no more.</source>
+        <translation>Hier sind nur die ersten %L1 Zeilen: Mehr darf eine Ausführung laut den Einstellungen nicht lesen.</translation>
+    </message>
+    <message>
+        <source>1 row is in %1.</source>
+        <translation>1 Zeile steht in %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln rows are in %1.</source>
+        <translation>
+            <numerusform>%Ln Zeile steht in %1.</numerusform>
+            <numerusform>%Ln Zeilen stehen in %1.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -708,6 +814,21 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
     <message>
         <source>Close this note</source>
         <translation>Diesen Hinweis schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TOpeningDialog</name>
+    <message>
+        <source>Open a database</source>
+        <translation>Datenbank öffnen</translation>
+    </message>
+    <message>
+        <source>Reading the tables of %1...</source>
+        <translation>Die Tabellen von %1 werden gelesen...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1...</source>
+        <translation>Warten auf %1...</translation>
     </message>
 </context>
 <context>
@@ -743,6 +864,13 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (only the first %Ln rows)</source>
+        <translation>
+            <numerusform>%1 (nur die erste Zeile)</numerusform>
+            <numerusform>%1 (nur die ersten %Ln Zeilen)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -757,6 +885,38 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
     <message>
         <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
         <translation>Nicht gespeicherte Änderungen können jetzt nicht wiederhergestellt werden. Sie bleiben in %1, und der nächste Start versucht es wieder.</translation>
+    </message>
+    <message>
+        <source>%1 is not open.</source>
+        <translation>%1 ist nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Open another one...</source>
+        <translation>Andere öffnen...</translation>
+    </message>
+    <message>
+        <source>Open the sample</source>
+        <translation>Beispiel öffnen</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of “%1” in %2 were saved. They are kept until you take them or discard them.</source>
+        <translation>Das Programm wurde beendet, bevor Änderungen an „%1“ (%2) gespeichert waren. Sie bleiben aufbewahrt, bis Sie sie übernehmen oder verwerfen.</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of the data model of %1 were saved. They are kept until you take them or discard them.</source>
+        <translation>Das Programm wurde beendet, bevor Änderungen am Datenmodell von %1 gespeichert waren. Sie bleiben aufbewahrt, bis Sie sie übernehmen oder verwerfen.</translation>
+    </message>
+    <message>
+        <source>Open %1 with them</source>
+        <translation>%1 damit öffnen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
     </message>
 </context>
 <context>
@@ -866,6 +1026,10 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
     <message>
         <source>Copying was stopped; the clipboard holds what it held</source>
         <translation>Das Kopieren wurde abgebrochen; die Zwischenablage ist unverändert</translation>
+    </message>
+    <message>
+        <source>Stop copying</source>
+        <translation>Kopieren abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1098,29 +1262,40 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <source>Keys</source>
         <translation>Tasten</translation>
     </message>
+    <message>
+        <source>In the list of queries</source>
+        <translation>In der Liste der Abfragen</translation>
+    </message>
+    <message>
+        <source>Among the rows</source>
+        <translation>In den Zeilen</translation>
+    </message>
+    <message>
+        <source>In the SQL</source>
+        <translation>Im SQL</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TSqlEdit</name>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>Auswahl kopieren</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Larger letters</source>
+        <translation>Größere Schrift</translation>
+    </message>
+    <message>
+        <source>Smaller letters</source>
+        <translation>Kleinere Schrift</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TSqlPane</name>
-    <message>
-        <source>SQL with JOIN</source>
-        <translation>SQL mit JOIN</translation>
-    </message>
-    <message>
-        <source>SQL with joins in WHERE</source>
-        <translation>SQL mit Joins in WHERE</translation>
-    </message>
-    <message>
-        <source>Oracle</source>
-        <translation>Oracle</translation>
-    </message>
-    <message>
-        <source>Access</source>
-        <translation>Access</translation>
-    </message>
-    <message>
-        <source>NexusDB</source>
-        <translation>NexusDB</translation>
-    </message>
     <message>
         <source>Statement</source>
         <translation>Anweisung</translation>
@@ -1318,10 +1493,6 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <translation>Die Abfrage „%1“ löschen?</translation>
     </message>
     <message>
-        <source>It is deleted for everybody who uses this store. It can be brought back only until this note about it is closed.</source>
-        <translation>Sie wird für alle gelöscht, die diese Sammlung benutzen. Sie lässt sich nur zurückholen, bis der Hinweis darauf geschlossen wird.</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>„%1“ wurde gelöscht.</translation>
     </message>
@@ -1332,6 +1503,17 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
     <message>
         <source>What was copied is no query text. Statements in SQL are pasted into the SQL.</source>
         <translation>Was kopiert wurde, ist kein Abfragetext. SQL-Anweisungen werden in das SQL eingefügt.</translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. You can take that back until the note about it is closed.</source>
+        <translation>Sie wird für alle gelöscht, die diese Sammlung benutzen. Sie können das zurücknehmen, bis der Hinweis darauf geschlossen wird.</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” was deleted, and %n before it.</source>
+        <translation>
+            <numerusform>„%1“ wurde gelöscht, davor %n weitere.</numerusform>
+            <numerusform>„%1“ wurde gelöscht, davor %n weitere.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1533,44 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TWorkspace</name>
+    <message>
+        <source>The sample cannot be put into %1: the folder cannot be made. The option --home names another place.</source>
+        <translation>Das Beispiel kann nicht in %1 angelegt werden: Der Ordner lässt sich nicht erstellen. Die Option --home gibt einen anderen Ort an.</translation>
+    </message>
+    <message>
+        <source>The sample stays as it is: %1 cannot be renamed.</source>
+        <translation>Das Beispiel bleibt, wie es ist: %1 kann nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>The data model cannot be kept: %1. Model &gt; Save as... keeps it in another place.</source>
+        <translation>Das Datenmodell kann nicht aufbewahrt werden: %1. „Modell &gt; Speichern unter...“ bewahrt es an einem anderen Ort auf.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The driver tells nothing of links between tables. %n link(s) were found by the names of columns; Model &gt; Diagram... shows them, and can draw others.</source>
+        <translation>
+            <numerusform>Der Treiber gibt keine Auskunft über Verknüpfungen zwischen Tabellen. %n Verknüpfung wurde anhand der Spaltennamen gefunden; „Modell &gt; Diagramm...“ zeigt sie, und dort lassen sich weitere zeichnen.</numerusform>
+            <numerusform>Der Treiber gibt keine Auskunft über Verknüpfungen zwischen Tabellen. %n Verknüpfungen wurden anhand der Spaltennamen gefunden; „Modell &gt; Diagramm...“ zeigt sie, und dort lassen sich weitere zeichnen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no tables that can be read. Once it has some, Model &gt; Read new tables from the database finds them.</source>
+        <translation>Die Datenbank enthält keine lesbaren Tabellen. Sobald es welche gibt, findet „Modell &gt; Neue Tabellen aus der Datenbank lesen“ sie.</translation>
+    </message>
+    <message>
+        <source>%1 is no data model, or a damaged one: %2. Choose another file; where there is none, a model is made from the tables of the database.</source>
+        <translation>%1 ist kein Datenmodell oder ein beschädigtes: %2. Wählen Sie eine andere Datei; wo es keine gibt, wird ein Modell aus den Tabellen der Datenbank erstellt.</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept in this database: %1</source>
+        <translation>In dieser Datenbank können keine Abfragen gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept: %1. Query &gt; Where queries are kept has other places.</source>
+        <translation>Abfragen können nicht gespeichert werden: %1. „Abfrage &gt; Speicherort der Abfragen“ bietet andere Orte.</translation>
     </message>
 </context>
 <context>

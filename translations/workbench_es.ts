@@ -232,6 +232,17 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <source>Drawing (*.svg)</source>
         <translation>Dibujo (*.svg)</translation>
     </message>
+    <message>
+        <source>Read &amp;all rows</source>
+        <translation>Leer todas las &amp;filas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only the first %Ln rows have been read.</source>
+        <translation>
+            <numerusform>Solo se ha leído la primera fila.</numerusform>
+            <numerusform>Solo se han leído las primeras %Ln filas.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TConnectionForm</name>
@@ -695,6 +706,101 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <source>&amp;These rows only</source>
         <translation>&amp;Solo estas filas</translation>
     </message>
+    <message>
+        <source>The former queries are still in the database.</source>
+        <translation>Las consultas anteriores siguen en la base de datos.</translation>
+    </message>
+    <message>
+        <source>The former queries are still in %1.</source>
+        <translation>Las consultas anteriores siguen en %1.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Volver</translation>
+    </message>
+    <message>
+        <source>Copy them here</source>
+        <translation>Copiarlas aquí</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n query(ies) copied.</source>
+        <translation>
+            <numerusform>%n consulta copiada.</numerusform>
+            <numerusform>%n consultas copiadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new table(s)</source>
+        <translation>
+            <numerusform>%n tabla</numerusform>
+            <numerusform>%n tablas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new column(s)</source>
+        <translation>
+            <numerusform>%n columna</numerusform>
+            <numerusform>%n columnas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new link(s)</source>
+        <translation>
+            <numerusform>%n vínculo</numerusform>
+            <numerusform>%n vínculos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no new tables and columns.</source>
+        <translation>La base de datos no tiene tablas ni columnas nuevas.</translation>
+    </message>
+    <message>
+        <source>New in the model: %1.</source>
+        <translation>Nuevo en el modelo: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s), column(s) or link(s) of the model are not in the database.</source>
+        <translation>
+            <numerusform>%n tabla, columna o vínculo del modelo no está en la base de datos.</numerusform>
+            <numerusform>%n tablas, columnas o vínculos del modelo no están en la base de datos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) have another type in the database than in the model.</source>
+        <translation>
+            <numerusform>%n columna no tiene en la base de datos el mismo tipo que en el modelo.</numerusform>
+            <numerusform>%n columnas no tienen en la base de datos el mismo tipo que en el modelo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show...</source>
+        <translation>Mostrar...</translation>
+    </message>
+    <message>
+        <source>The database refuses the column “%1”:
+%2</source>
+        <translation>La base de datos rechaza la columna «%1»:
+%2</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here: the settings let a run read no more.</source>
+        <translation>Aquí solo están las primeras %L1 filas: la configuración no permite leer más en una ejecución.</translation>
+    </message>
+    <message>
+        <source>1 row is in %1.</source>
+        <translation>1 fila guardada en %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln rows are in %1.</source>
+        <translation>
+            <numerusform>%Ln fila guardada en %1.</numerusform>
+            <numerusform>%Ln filas guardadas en %1.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -708,6 +814,21 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
     <message>
         <source>Close this note</source>
         <translation>Cerrar este aviso</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TOpeningDialog</name>
+    <message>
+        <source>Open a database</source>
+        <translation>Abrir una base de datos</translation>
+    </message>
+    <message>
+        <source>Reading the tables of %1...</source>
+        <translation>Leyendo las tablas de %1...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1...</source>
+        <translation>Esperando a %1...</translation>
     </message>
 </context>
 <context>
@@ -743,6 +864,13 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (only the first %Ln rows)</source>
+        <translation>
+            <numerusform>%1 (solo la primera fila)</numerusform>
+            <numerusform>%1 (solo las primeras %Ln filas)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -757,6 +885,38 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
     <message>
         <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
         <translation>Ahora no se pueden recuperar los cambios sin guardar. Siguen en %1, y el próximo inicio lo intentará de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1 is not open.</source>
+        <translation>%1 no está abierta.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Open another one...</source>
+        <translation>Abrir otra...</translation>
+    </message>
+    <message>
+        <source>Open the sample</source>
+        <translation>Abrir el ejemplo</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of “%1” in %2 were saved. They are kept until you take them or discard them.</source>
+        <translation>El programa se cerró antes de que se guardaran los cambios de «%1» (%2). Se conservan hasta que los recupere o los descarte.</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of the data model of %1 were saved. They are kept until you take them or discard them.</source>
+        <translation>El programa se cerró antes de que se guardaran los cambios del modelo de datos de %1. Se conservan hasta que los recupere o los descarte.</translation>
+    </message>
+    <message>
+        <source>Open %1 with them</source>
+        <translation>Abrir %1 con los cambios</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
     </message>
 </context>
 <context>
@@ -866,6 +1026,10 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
     <message>
         <source>Copying was stopped; the clipboard holds what it held</source>
         <translation>Se detuvo la copia; el portapapeles conserva su contenido</translation>
+    </message>
+    <message>
+        <source>Stop copying</source>
+        <translation>Detener la copia</translation>
     </message>
 </context>
 <context>
@@ -1098,29 +1262,40 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <source>Keys</source>
         <translation>Teclas</translation>
     </message>
+    <message>
+        <source>In the list of queries</source>
+        <translation>En la lista de consultas</translation>
+    </message>
+    <message>
+        <source>Among the rows</source>
+        <translation>En las filas</translation>
+    </message>
+    <message>
+        <source>In the SQL</source>
+        <translation>En el SQL</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TSqlEdit</name>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>Copiar la selección</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Larger letters</source>
+        <translation>Letra más grande</translation>
+    </message>
+    <message>
+        <source>Smaller letters</source>
+        <translation>Letra más pequeña</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TSqlPane</name>
-    <message>
-        <source>SQL with JOIN</source>
-        <translation>SQL con JOIN</translation>
-    </message>
-    <message>
-        <source>SQL with joins in WHERE</source>
-        <translation>SQL con combinaciones en WHERE</translation>
-    </message>
-    <message>
-        <source>Oracle</source>
-        <translation>Oracle</translation>
-    </message>
-    <message>
-        <source>Access</source>
-        <translation>Access</translation>
-    </message>
-    <message>
-        <source>NexusDB</source>
-        <translation>NexusDB</translation>
-    </message>
     <message>
         <source>Statement</source>
         <translation>Instrucción</translation>
@@ -1318,10 +1493,6 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <translation>¿Eliminar la consulta «%1»?</translation>
     </message>
     <message>
-        <source>It is deleted for everybody who uses this store. It can be brought back only until this note about it is closed.</source>
-        <translation>Se elimina para todos los que usan este almacén. Solo se puede recuperar mientras no se cierre el aviso correspondiente.</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>«%1» se ha eliminado.</translation>
     </message>
@@ -1332,6 +1503,17 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
     <message>
         <source>What was copied is no query text. Statements in SQL are pasted into the SQL.</source>
         <translation>Lo que se copió no es un texto de consulta. Las instrucciones SQL se pegan en el panel SQL.</translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. You can take that back until the note about it is closed.</source>
+        <translation>Se elimina para todos los que usan este almacén. Puede deshacerlo mientras no se cierre el aviso correspondiente.</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” was deleted, and %n before it.</source>
+        <translation>
+            <numerusform>«%1» se ha eliminado, y antes %n más.</numerusform>
+            <numerusform>«%1» se ha eliminado, y antes %n más.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1533,44 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TWorkspace</name>
+    <message>
+        <source>The sample cannot be put into %1: the folder cannot be made. The option --home names another place.</source>
+        <translation>No se puede colocar el ejemplo en %1: no se puede crear la carpeta. Con la opción --home se indica otro lugar.</translation>
+    </message>
+    <message>
+        <source>The sample stays as it is: %1 cannot be renamed.</source>
+        <translation>El ejemplo se queda como está: no se puede cambiar el nombre de %1.</translation>
+    </message>
+    <message>
+        <source>The data model cannot be kept: %1. Model &gt; Save as... keeps it in another place.</source>
+        <translation>No se puede conservar el modelo de datos: %1. Con Modelo &gt; Guardar como... se guarda en otro lugar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The driver tells nothing of links between tables. %n link(s) were found by the names of columns; Model &gt; Diagram... shows them, and can draw others.</source>
+        <translation>
+            <numerusform>El controlador no informa de los vínculos entre tablas. Se ha encontrado %n vínculo por los nombres de las columnas; Modelo &gt; Diagrama... lo muestra y permite dibujar otros.</numerusform>
+            <numerusform>El controlador no informa de los vínculos entre tablas. Se han encontrado %n vínculos por los nombres de las columnas; Modelo &gt; Diagrama... los muestra y permite dibujar otros.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no tables that can be read. Once it has some, Model &gt; Read new tables from the database finds them.</source>
+        <translation>La base de datos no tiene tablas que se puedan leer. Cuando las tenga, Modelo &gt; Leer tablas nuevas de la base de datos las encontrará.</translation>
+    </message>
+    <message>
+        <source>%1 is no data model, or a damaged one: %2. Choose another file; where there is none, a model is made from the tables of the database.</source>
+        <translation>%1 no es un modelo de datos o está dañado: %2. Elija otro archivo; si no existe ninguno, se crea un modelo a partir de las tablas de la base de datos.</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept in this database: %1</source>
+        <translation>No se pueden guardar consultas en esta base de datos: %1</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept: %1. Query &gt; Where queries are kept has other places.</source>
+        <translation>No se pueden guardar las consultas: %1. Consulta &gt; Ubicación de las consultas ofrece otros lugares.</translation>
     </message>
 </context>
 <context>

@@ -232,6 +232,17 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <source>Drawing (*.svg)</source>
         <translation>Dessin (*.svg)</translation>
     </message>
+    <message>
+        <source>Read &amp;all rows</source>
+        <translation>&amp;Lire toutes les lignes</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only the first %Ln rows have been read.</source>
+        <translation>
+            <numerusform>Seule la première ligne a été lue.</numerusform>
+            <numerusform>Seules les %Ln premières lignes ont été lues.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TConnectionForm</name>
@@ -695,6 +706,101 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <source>&amp;These rows only</source>
         <translation>&amp;Ces lignes seulement</translation>
     </message>
+    <message>
+        <source>The former queries are still in the database.</source>
+        <translation>Les anciennes requêtes sont toujours dans la base de données.</translation>
+    </message>
+    <message>
+        <source>The former queries are still in %1.</source>
+        <translation>Les anciennes requêtes sont toujours dans %1.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Revenir</translation>
+    </message>
+    <message>
+        <source>Copy them here</source>
+        <translation>Les copier ici</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n query(ies) copied.</source>
+        <translation>
+            <numerusform>%n requête copiée.</numerusform>
+            <numerusform>%n requêtes copiées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new table(s)</source>
+        <translation>
+            <numerusform>%n table</numerusform>
+            <numerusform>%n tables</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new column(s)</source>
+        <translation>
+            <numerusform>%n colonne</numerusform>
+            <numerusform>%n colonnes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new link(s)</source>
+        <translation>
+            <numerusform>%n lien</numerusform>
+            <numerusform>%n liens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no new tables and columns.</source>
+        <translation>Il n’y a ni nouvelle table ni nouvelle colonne dans la base de données.</translation>
+    </message>
+    <message>
+        <source>New in the model: %1.</source>
+        <translation>Nouveau dans le modèle&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s), column(s) or link(s) of the model are not in the database.</source>
+        <translation>
+            <numerusform>%n table, colonne ou lien du modèle n’est pas dans la base de données.</numerusform>
+            <numerusform>%n tables, colonnes ou liens du modèle ne sont pas dans la base de données.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) have another type in the database than in the model.</source>
+        <translation>
+            <numerusform>%n colonne n’a pas le même type dans la base de données que dans le modèle.</numerusform>
+            <numerusform>%n colonnes n’ont pas le même type dans la base de données que dans le modèle.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show...</source>
+        <translation>Afficher...</translation>
+    </message>
+    <message>
+        <source>The database refuses the column “%1”:
+%2</source>
+        <translation>La base de données refuse la colonne «&#xa0;%1&#xa0;»&#xa0;:
+%2</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here: the settings let a run read no more.</source>
+        <translation>Seules les %L1 premières lignes sont ici&#xa0;: les préférences ne permettent pas d’en lire davantage par exécution.</translation>
+    </message>
+    <message>
+        <source>1 row is in %1.</source>
+        <translation>1 ligne se trouve dans %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln rows are in %1.</source>
+        <translation>
+            <numerusform>%Ln ligne se trouve dans %1.</numerusform>
+            <numerusform>%Ln lignes se trouvent dans %1.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -708,6 +814,21 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
     <message>
         <source>Close this note</source>
         <translation>Fermer cette note</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TOpeningDialog</name>
+    <message>
+        <source>Open a database</source>
+        <translation>Ouvrir une base de données</translation>
+    </message>
+    <message>
+        <source>Reading the tables of %1...</source>
+        <translation>Lecture des tables de %1...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1...</source>
+        <translation>En attente de %1...</translation>
     </message>
 </context>
 <context>
@@ -743,6 +864,13 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (only the first %Ln rows)</source>
+        <translation>
+            <numerusform>%1 (seulement la première ligne)</numerusform>
+            <numerusform>%1 (seulement les %Ln premières lignes)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -757,6 +885,38 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
     <message>
         <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
         <translation>Des modifications non enregistrées ne peuvent pas être rétablies maintenant. Elles restent dans %1, et le prochain démarrage essaiera de nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 is not open.</source>
+        <translation>%1 n’est pas ouverte.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Open another one...</source>
+        <translation>En ouvrir une autre...</translation>
+    </message>
+    <message>
+        <source>Open the sample</source>
+        <translation>Ouvrir l’exemple</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of “%1” in %2 were saved. They are kept until you take them or discard them.</source>
+        <translation>Le programme s’est terminé avant l’enregistrement des modifications de «&#xa0;%1&#xa0;» (%2). Elles sont conservées jusqu’à ce que vous les repreniez ou les abandonniez.</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of the data model of %1 were saved. They are kept until you take them or discard them.</source>
+        <translation>Le programme s’est terminé avant l’enregistrement des modifications du modèle de données de %1. Elles sont conservées jusqu’à ce que vous les repreniez ou les abandonniez.</translation>
+    </message>
+    <message>
+        <source>Open %1 with them</source>
+        <translation>Ouvrir %1 avec les modifications</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
     </message>
 </context>
 <context>
@@ -866,6 +1026,10 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
     <message>
         <source>Copying was stopped; the clipboard holds what it held</source>
         <translation>La copie a été arrêtée&#xa0;; le presse-papiers est inchangé</translation>
+    </message>
+    <message>
+        <source>Stop copying</source>
+        <translation>Arrêter la copie</translation>
     </message>
 </context>
 <context>
@@ -1098,29 +1262,40 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <source>Keys</source>
         <translation>Touches</translation>
     </message>
+    <message>
+        <source>In the list of queries</source>
+        <translation>Dans la liste des requêtes</translation>
+    </message>
+    <message>
+        <source>Among the rows</source>
+        <translation>Dans les lignes</translation>
+    </message>
+    <message>
+        <source>In the SQL</source>
+        <translation>Dans le SQL</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TSqlEdit</name>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>Copier la sélection</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Larger letters</source>
+        <translation>Caractères plus grands</translation>
+    </message>
+    <message>
+        <source>Smaller letters</source>
+        <translation>Caractères plus petits</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TSqlPane</name>
-    <message>
-        <source>SQL with JOIN</source>
-        <translation>SQL avec JOIN</translation>
-    </message>
-    <message>
-        <source>SQL with joins in WHERE</source>
-        <translation>SQL avec jointures dans WHERE</translation>
-    </message>
-    <message>
-        <source>Oracle</source>
-        <translation>Oracle</translation>
-    </message>
-    <message>
-        <source>Access</source>
-        <translation>Access</translation>
-    </message>
-    <message>
-        <source>NexusDB</source>
-        <translation>NexusDB</translation>
-    </message>
     <message>
         <source>Statement</source>
         <translation>Instruction</translation>
@@ -1318,10 +1493,6 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <translation>Supprimer la requête «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
-        <source>It is deleted for everybody who uses this store. It can be brought back only until this note about it is closed.</source>
-        <translation>Elle est supprimée pour tous ceux qui utilisent cette collection. Elle ne peut être récupérée que jusqu’à la fermeture de la note qui l’indique.</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>«&#xa0;%1&#xa0;» a été supprimée.</translation>
     </message>
@@ -1332,6 +1503,17 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
     <message>
         <source>What was copied is no query text. Statements in SQL are pasted into the SQL.</source>
         <translation>Ce qui a été copié n’est pas un texte de requête. Les instructions SQL se collent dans le SQL.</translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. You can take that back until the note about it is closed.</source>
+        <translation>Elle est supprimée pour tous ceux qui utilisent cette collection. Vous pouvez annuler cela jusqu’à la fermeture de la note qui l’indique.</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” was deleted, and %n before it.</source>
+        <translation>
+            <numerusform>«&#xa0;%1&#xa0;» a été supprimée, et %n autre avant elle.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» a été supprimée, et %n autres avant elle.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1533,44 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Copier</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TWorkspace</name>
+    <message>
+        <source>The sample cannot be put into %1: the folder cannot be made. The option --home names another place.</source>
+        <translation>L’exemple ne peut pas être placé dans %1&#xa0;: impossible de créer le dossier. L’option --home indique un autre emplacement.</translation>
+    </message>
+    <message>
+        <source>The sample stays as it is: %1 cannot be renamed.</source>
+        <translation>L’exemple reste tel quel&#xa0;: %1 ne peut pas être renommé.</translation>
+    </message>
+    <message>
+        <source>The data model cannot be kept: %1. Model &gt; Save as... keeps it in another place.</source>
+        <translation>Le modèle de données ne peut pas être conservé&#xa0;: %1. Modèle &gt; Enregistrer sous... le conserve à un autre emplacement.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The driver tells nothing of links between tables. %n link(s) were found by the names of columns; Model &gt; Diagram... shows them, and can draw others.</source>
+        <translation>
+            <numerusform>Le pilote ne dit rien des liens entre les tables. %n lien a été trouvé d’après les noms de colonnes&#xa0;; Modèle &gt; Diagramme... montre les liens et permet d’en tracer d’autres.</numerusform>
+            <numerusform>Le pilote ne dit rien des liens entre les tables. %n liens ont été trouvés d’après les noms de colonnes&#xa0;; Modèle &gt; Diagramme... les montre et permet d’en tracer d’autres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no tables that can be read. Once it has some, Model &gt; Read new tables from the database finds them.</source>
+        <translation>La base de données n’a aucune table lisible. Dès qu’elle en aura, Modèle &gt; Lire les nouvelles tables de la base de données les trouvera.</translation>
+    </message>
+    <message>
+        <source>%1 is no data model, or a damaged one: %2. Choose another file; where there is none, a model is made from the tables of the database.</source>
+        <translation>%1 n’est pas un modèle de données, ou il est endommagé&#xa0;: %2. Choisissez un autre fichier&#xa0;; s’il n’y en a pas, un modèle est créé à partir des tables de la base de données.</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept in this database: %1</source>
+        <translation>Les requêtes ne peuvent pas être conservées dans cette base de données&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept: %1. Query &gt; Where queries are kept has other places.</source>
+        <translation>Les requêtes ne peuvent pas être conservées&#xa0;: %1. Requête &gt; Emplacement des requêtes propose d’autres endroits.</translation>
     </message>
 </context>
 <context>

@@ -230,6 +230,16 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <source>Drawing (*.svg)</source>
         <translation>図形 (*.svg)</translation>
     </message>
+    <message>
+        <source>Read &amp;all rows</source>
+        <translation>すべての行を読み込む(&amp;A)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only the first %Ln rows have been read.</source>
+        <translation>
+            <numerusform>最初の %Ln 行だけを読み込みました。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TConnectionForm</name>
@@ -691,6 +701,94 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <source>&amp;These rows only</source>
         <translation>これらの行のみ(&amp;T)</translation>
     </message>
+    <message>
+        <source>The former queries are still in the database.</source>
+        <translation>以前のクエリはデータベース内に残っています。</translation>
+    </message>
+    <message>
+        <source>The former queries are still in %1.</source>
+        <translation>以前のクエリは %1 に残っています。</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Copy them here</source>
+        <translation>ここにコピー</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n query(ies) copied.</source>
+        <translation>
+            <numerusform>%n 個のクエリをコピーしました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new table(s)</source>
+        <translation>
+            <numerusform>テーブル %n 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new column(s)</source>
+        <translation>
+            <numerusform>列 %n 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new link(s)</source>
+        <translation>
+            <numerusform>リンク %n 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no new tables and columns.</source>
+        <translation>データベースに新しいテーブルや列はありません。</translation>
+    </message>
+    <message>
+        <source>New in the model: %1.</source>
+        <translation>モデルに追加: %1。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s), column(s) or link(s) of the model are not in the database.</source>
+        <translation>
+            <numerusform>モデルのテーブル、列、リンクのうち %n 個がデータベースにありません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) have another type in the database than in the model.</source>
+        <translation>
+            <numerusform>%n 個の列の型がデータベースとモデルで異なります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show...</source>
+        <translation>表示...</translation>
+    </message>
+    <message>
+        <source>The database refuses the column “%1”:
+%2</source>
+        <translation>データベースが列「%1」を受け付けませんでした:
+%2</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here: the settings let a run read no more.</source>
+        <translation>ここにあるのは最初の %L1 行だけです。設定により、1 回の実行ではこれより多く読み込めません。</translation>
+    </message>
+    <message>
+        <source>1 row is in %1.</source>
+        <translation>1 行を %1 に書き込みました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln rows are in %1.</source>
+        <translation>
+            <numerusform>%Ln 行を %1 に書き込みました。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -704,6 +802,21 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <message>
         <source>Close this note</source>
         <translation>このメッセージを閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TOpeningDialog</name>
+    <message>
+        <source>Open a database</source>
+        <translation>データベースを開く</translation>
+    </message>
+    <message>
+        <source>Reading the tables of %1...</source>
+        <translation>%1 のテーブルを読み込み中...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1...</source>
+        <translation>%1 の応答を待っています...</translation>
     </message>
 </context>
 <context>
@@ -739,6 +852,12 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <source>Page %1 of %2</source>
         <translation>%1/%2 ページ</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (only the first %Ln rows)</source>
+        <translation>
+            <numerusform>%1 (最初の %Ln 行のみ)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -753,6 +872,38 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <message>
         <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
         <translation>保存されていない変更を今は元に戻せません。%1 に残り、次の起動時に再び試みます。</translation>
+    </message>
+    <message>
+        <source>%1 is not open.</source>
+        <translation>%1 は開かれていません。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Open another one...</source>
+        <translation>別のデータベースを開く...</translation>
+    </message>
+    <message>
+        <source>Open the sample</source>
+        <translation>サンプルを開く</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of “%1” in %2 were saved. They are kept until you take them or discard them.</source>
+        <translation>「%1」(%2) の変更が保存される前にプログラムが終了しました。変更は、復元するか破棄するまで保管されます。</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of the data model of %1 were saved. They are kept until you take them or discard them.</source>
+        <translation>%1 のデータモデルの変更が保存される前にプログラムが終了しました。変更は、復元するか破棄するまで保管されます。</translation>
+    </message>
+    <message>
+        <source>Open %1 with them</source>
+        <translation>変更を復元して %1 を開く</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
     </message>
 </context>
 <context>
@@ -861,6 +1012,10 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <message>
         <source>Copying was stopped; the clipboard holds what it held</source>
         <translation>コピーを停止しました。クリップボードの内容は変わっていません</translation>
+    </message>
+    <message>
+        <source>Stop copying</source>
+        <translation>コピーを停止</translation>
     </message>
 </context>
 <context>
@@ -1071,7 +1226,7 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <name>tolvi::TShortcuts</name>
     <message>
         <source>Among the conditions</source>
-        <translation>条件の編集中</translation>
+        <translation>条件で</translation>
     </message>
     <message>
         <source>Keyboard short cuts</source>
@@ -1089,29 +1244,40 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <source>Keys</source>
         <translation>キー</translation>
     </message>
+    <message>
+        <source>In the list of queries</source>
+        <translation>クエリの一覧で</translation>
+    </message>
+    <message>
+        <source>Among the rows</source>
+        <translation>結果の行で</translation>
+    </message>
+    <message>
+        <source>In the SQL</source>
+        <translation>SQL で</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TSqlEdit</name>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>選択した部分をコピー</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Larger letters</source>
+        <translation>文字を大きくする</translation>
+    </message>
+    <message>
+        <source>Smaller letters</source>
+        <translation>文字を小さくする</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TSqlPane</name>
-    <message>
-        <source>SQL with JOIN</source>
-        <translation>JOIN を使う SQL</translation>
-    </message>
-    <message>
-        <source>SQL with joins in WHERE</source>
-        <translation>WHERE で結合する SQL</translation>
-    </message>
-    <message>
-        <source>Oracle</source>
-        <translation>Oracle</translation>
-    </message>
-    <message>
-        <source>Access</source>
-        <translation>Access</translation>
-    </message>
-    <message>
-        <source>NexusDB</source>
-        <translation>NexusDB</translation>
-    </message>
     <message>
         <source>Statement</source>
         <translation>SQL 文</translation>
@@ -1308,10 +1474,6 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>クエリ「%1」を削除しますか？</translation>
     </message>
     <message>
-        <source>It is deleted for everybody who uses this store. It can be brought back only until this note about it is closed.</source>
-        <translation>この保存先を使うすべてのユーザーから削除されます。元に戻せるのは、削除を知らせるメッセージを閉じるまでです。</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>「%1」を削除しました。</translation>
     </message>
@@ -1322,6 +1484,16 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <message>
         <source>What was copied is no query text. Statements in SQL are pasted into the SQL.</source>
         <translation>コピーした内容はクエリテキストではありません。SQL 文は SQL に貼り付けてください。</translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. You can take that back until the note about it is closed.</source>
+        <translation>この保存先を使うすべてのユーザーから削除されます。削除を知らせるメッセージを閉じるまでは元に戻せます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” was deleted, and %n before it.</source>
+        <translation>
+            <numerusform>「%1」を削除しました (その前に削除したもの: %n 個)。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1341,6 +1513,43 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <message>
         <source>&amp;Copy</source>
         <translation>コピー(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TWorkspace</name>
+    <message>
+        <source>The sample cannot be put into %1: the folder cannot be made. The option --home names another place.</source>
+        <translation>サンプルを %1 に置けません。フォルダーを作成できません。オプション --home で別の場所を指定できます。</translation>
+    </message>
+    <message>
+        <source>The sample stays as it is: %1 cannot be renamed.</source>
+        <translation>サンプルはそのままです。%1 の名前を変更できません。</translation>
+    </message>
+    <message>
+        <source>The data model cannot be kept: %1. Model &gt; Save as... keeps it in another place.</source>
+        <translation>データモデルを保管できません: %1。別の場所に残すには [モデル] &gt; [名前を付けて保存...] を選択してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The driver tells nothing of links between tables. %n link(s) were found by the names of columns; Model &gt; Diagram... shows them, and can draw others.</source>
+        <translation>
+            <numerusform>ドライバーからはテーブル間のリンクの情報を得られません。列名から %n 個のリンクが見つかりました。[モデル] &gt; [ダイアグラム...] で表示でき、ほかのリンクも描けます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no tables that can be read. Once it has some, Model &gt; Read new tables from the database finds them.</source>
+        <translation>データベースに読み取れるテーブルがありません。テーブルができたら、[モデル] &gt; [データベースから新しいテーブルを読み込む] を選択してください。</translation>
+    </message>
+    <message>
+        <source>%1 is no data model, or a damaged one: %2. Choose another file; where there is none, a model is made from the tables of the database.</source>
+        <translation>%1 はデータモデルではないか、破損しています: %2。別のファイルを選択してください。ファイルがない場合は、データベースのテーブルからモデルが作成されます。</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept in this database: %1</source>
+        <translation>このデータベースにはクエリを保存できません: %1</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept: %1. Query &gt; Where queries are kept has other places.</source>
+        <translation>クエリを保存できません: %1。[クエリ] &gt; [クエリの保存先] で別の場所を選択できます。</translation>
     </message>
 </context>
 <context>

@@ -234,6 +234,18 @@ Tolvi распространяется по лицензии MIT. Посколь
         <source>Drawing (*.svg)</source>
         <translation>Векторный рисунок (*.svg)</translation>
     </message>
+    <message>
+        <source>Read &amp;all rows</source>
+        <translation>Про&amp;читать все строки</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only the first %Ln rows have been read.</source>
+        <translation>
+            <numerusform>Прочитаны только первые строки (%Ln).</numerusform>
+            <numerusform>Прочитаны только первые строки (%Ln).</numerusform>
+            <numerusform>Прочитаны только первые строки (%Ln).</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TConnectionForm</name>
@@ -699,6 +711,108 @@ Tolvi распространяется по лицензии MIT. Посколь
         <source>&amp;These rows only</source>
         <translation>&amp;Только эти строки</translation>
     </message>
+    <message>
+        <source>The former queries are still in the database.</source>
+        <translation>Прежние запросы остались в базе данных.</translation>
+    </message>
+    <message>
+        <source>The former queries are still in %1.</source>
+        <translation>Прежние запросы остались в %1.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Вернуться</translation>
+    </message>
+    <message>
+        <source>Copy them here</source>
+        <translation>Скопировать их сюда</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n query(ies) copied.</source>
+        <translation>
+            <numerusform>Скопирован %n запрос.</numerusform>
+            <numerusform>Скопированы %n запроса.</numerusform>
+            <numerusform>Скопировано %n запросов.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new table(s)</source>
+        <translation>
+            <numerusform>%n таблица</numerusform>
+            <numerusform>%n таблицы</numerusform>
+            <numerusform>%n таблиц</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new column(s)</source>
+        <translation>
+            <numerusform>%n столбец</numerusform>
+            <numerusform>%n столбца</numerusform>
+            <numerusform>%n столбцов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new link(s)</source>
+        <translation>
+            <numerusform>%n связь</numerusform>
+            <numerusform>%n связи</numerusform>
+            <numerusform>%n связей</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no new tables and columns.</source>
+        <translation>В базе данных нет новых таблиц и столбцов.</translation>
+    </message>
+    <message>
+        <source>New in the model: %1.</source>
+        <translation>Новое в модели: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s), column(s) or link(s) of the model are not in the database.</source>
+        <translation>
+            <numerusform>В базе данных нет таблиц, столбцов или связей модели: %n.</numerusform>
+            <numerusform>В базе данных нет таблиц, столбцов или связей модели: %n.</numerusform>
+            <numerusform>В базе данных нет таблиц, столбцов или связей модели: %n.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) have another type in the database than in the model.</source>
+        <translation>
+            <numerusform>У %n столбца тип в базе данных не такой, как в модели.</numerusform>
+            <numerusform>У %n столбцов тип в базе данных не такой, как в модели.</numerusform>
+            <numerusform>У %n столбцов тип в базе данных не такой, как в модели.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show...</source>
+        <translation>Показать...</translation>
+    </message>
+    <message>
+        <source>The database refuses the column “%1”:
+%2</source>
+        <translation>База данных не принимает столбец «%1»:
+%2</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here: the settings let a run read no more.</source>
+        <translation>Здесь только первые строки (%L1): настройки не позволяют прочитать больше за одно выполнение.</translation>
+    </message>
+    <message>
+        <source>1 row is in %1.</source>
+        <translation>1 строка записана в %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln rows are in %1.</source>
+        <translation>
+            <numerusform>%Ln строка записана в %1.</numerusform>
+            <numerusform>%Ln строки записаны в %1.</numerusform>
+            <numerusform>%Ln строк записано в %1.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -712,6 +826,21 @@ Tolvi распространяется по лицензии MIT. Посколь
     <message>
         <source>Close this note</source>
         <translation>Закрыть это сообщение</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TOpeningDialog</name>
+    <message>
+        <source>Open a database</source>
+        <translation>Открытие базы данных</translation>
+    </message>
+    <message>
+        <source>Reading the tables of %1...</source>
+        <translation>Чтение таблиц %1...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1...</source>
+        <translation>Ожидание ответа от %1...</translation>
     </message>
 </context>
 <context>
@@ -747,6 +876,14 @@ Tolvi распространяется по лицензии MIT. Посколь
         <source>Page %1 of %2</source>
         <translation>Страница %1 из %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (only the first %Ln rows)</source>
+        <translation>
+            <numerusform>%1 (только первые строки: %Ln)</numerusform>
+            <numerusform>%1 (только первые строки: %Ln)</numerusform>
+            <numerusform>%1 (только первые строки: %Ln)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -761,6 +898,38 @@ Tolvi распространяется по лицензии MIT. Посколь
     <message>
         <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
         <translation>Несохранённые изменения сейчас нельзя вернуть. Они остаются в %1, и при следующем запуске попытка повторится.</translation>
+    </message>
+    <message>
+        <source>%1 is not open.</source>
+        <translation>База данных %1 не открыта.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Повторить попытку</translation>
+    </message>
+    <message>
+        <source>Open another one...</source>
+        <translation>Открыть другую...</translation>
+    </message>
+    <message>
+        <source>Open the sample</source>
+        <translation>Открыть пример</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of “%1” in %2 were saved. They are kept until you take them or discard them.</source>
+        <translation>Программа завершилась до сохранения изменений запроса «%1» (%2). Они хранятся, пока вы не вернёте или не отбросите их.</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of the data model of %1 were saved. They are kept until you take them or discard them.</source>
+        <translation>Программа завершилась до сохранения изменений модели данных %1. Они хранятся, пока вы не вернёте или не отбросите их.</translation>
+    </message>
+    <message>
+        <source>Open %1 with them</source>
+        <translation>Открыть %1 с изменениями</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Отбросить</translation>
     </message>
 </context>
 <context>
@@ -871,6 +1040,10 @@ Tolvi распространяется по лицензии MIT. Посколь
     <message>
         <source>Copying was stopped; the clipboard holds what it held</source>
         <translation>Копирование остановлено; в буфере обмена осталось прежнее содержимое</translation>
+    </message>
+    <message>
+        <source>Stop copying</source>
+        <translation>Остановить копирование</translation>
     </message>
 </context>
 <context>
@@ -1107,29 +1280,40 @@ Tolvi распространяется по лицензии MIT. Посколь
         <source>Keys</source>
         <translation>Клавиши</translation>
     </message>
+    <message>
+        <source>In the list of queries</source>
+        <translation>В списке запросов</translation>
+    </message>
+    <message>
+        <source>Among the rows</source>
+        <translation>В строках</translation>
+    </message>
+    <message>
+        <source>In the SQL</source>
+        <translation>В SQL</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TSqlEdit</name>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>Копировать выделенное</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Выделить всё</translation>
+    </message>
+    <message>
+        <source>Larger letters</source>
+        <translation>Увеличить шрифт</translation>
+    </message>
+    <message>
+        <source>Smaller letters</source>
+        <translation>Уменьшить шрифт</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TSqlPane</name>
-    <message>
-        <source>SQL with JOIN</source>
-        <translation>SQL с JOIN</translation>
-    </message>
-    <message>
-        <source>SQL with joins in WHERE</source>
-        <translation>SQL с соединениями в WHERE</translation>
-    </message>
-    <message>
-        <source>Oracle</source>
-        <translation>Oracle</translation>
-    </message>
-    <message>
-        <source>Access</source>
-        <translation>Access</translation>
-    </message>
-    <message>
-        <source>NexusDB</source>
-        <translation>NexusDB</translation>
-    </message>
     <message>
         <source>Statement</source>
         <translation>Инструкция</translation>
@@ -1328,10 +1512,6 @@ Tolvi распространяется по лицензии MIT. Посколь
         <translation>Удалить запрос «%1»?</translation>
     </message>
     <message>
-        <source>It is deleted for everybody who uses this store. It can be brought back only until this note about it is closed.</source>
-        <translation>Он будет удалён для всех, кто использует это хранилище. Вернуть его можно, только пока не закрыто сообщение об удалении.</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>Запрос «%1» удалён.</translation>
     </message>
@@ -1342,6 +1522,18 @@ Tolvi распространяется по лицензии MIT. Посколь
     <message>
         <source>What was copied is no query text. Statements in SQL are pasted into the SQL.</source>
         <translation>Скопированное — не текст запроса. Инструкции SQL вставляются на панели SQL.</translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. You can take that back until the note about it is closed.</source>
+        <translation>Он будет удалён для всех, кто использует это хранилище. Удаление можно отменить, пока не закрыто сообщение о нём.</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” was deleted, and %n before it.</source>
+        <translation>
+            <numerusform>Запрос «%1» удалён, до него — ещё %n.</numerusform>
+            <numerusform>Запрос «%1» удалён, до него — ещё %n.</numerusform>
+            <numerusform>Запрос «%1» удалён, до него — ещё %n.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1361,6 +1553,45 @@ Tolvi распространяется по лицензии MIT. Посколь
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Копировать</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TWorkspace</name>
+    <message>
+        <source>The sample cannot be put into %1: the folder cannot be made. The option --home names another place.</source>
+        <translation>Не удалось поместить пример в %1: папку нельзя создать. Другое место задаётся параметром --home.</translation>
+    </message>
+    <message>
+        <source>The sample stays as it is: %1 cannot be renamed.</source>
+        <translation>Пример остаётся прежним: не удалось переименовать %1.</translation>
+    </message>
+    <message>
+        <source>The data model cannot be kept: %1. Model &gt; Save as... keeps it in another place.</source>
+        <translation>Не удалось сохранить модель данных: %1. Чтобы сохранить её в другом месте, используйте команду Модель &gt; Сохранить как... из меню.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The driver tells nothing of links between tables. %n link(s) were found by the names of columns; Model &gt; Diagram... shows them, and can draw others.</source>
+        <translation>
+            <numerusform>Драйвер не сообщает о связях между таблицами. По именам столбцов найдена %n связь; Модель &gt; Диаграмма... показывает её и позволяет нарисовать другие.</numerusform>
+            <numerusform>Драйвер не сообщает о связях между таблицами. По именам столбцов найдены %n связи; Модель &gt; Диаграмма... показывает их и позволяет нарисовать другие.</numerusform>
+            <numerusform>Драйвер не сообщает о связях между таблицами. По именам столбцов найдено %n связей; Модель &gt; Диаграмма... показывает их и позволяет нарисовать другие.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no tables that can be read. Once it has some, Model &gt; Read new tables from the database finds them.</source>
+        <translation>В базе данных нет таблиц, доступных для чтения. Когда они появятся, выберите Модель &gt; Прочитать новые таблицы из базы данных.</translation>
+    </message>
+    <message>
+        <source>%1 is no data model, or a damaged one: %2. Choose another file; where there is none, a model is made from the tables of the database.</source>
+        <translation>%1 — не модель данных или повреждённая модель: %2. Выберите другой файл; если файла нет, модель создаётся по таблицам базы данных.</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept in this database: %1</source>
+        <translation>Запросы нельзя хранить в этой базе данных: %1</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept: %1. Query &gt; Where queries are kept has other places.</source>
+        <translation>Не удаётся сохранить запросы: %1. Другое место можно выбрать в меню Запрос &gt; Где хранятся запросы.</translation>
     </message>
 </context>
 <context>

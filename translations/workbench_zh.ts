@@ -230,6 +230,16 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <source>Drawing (*.svg)</source>
         <translation>矢量图 (*.svg)</translation>
     </message>
+    <message>
+        <source>Read &amp;all rows</source>
+        <translation>读取所有行(&amp;A)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only the first %Ln rows have been read.</source>
+        <translation>
+            <numerusform>仅读取了前 %Ln 行。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TConnectionForm</name>
@@ -691,6 +701,94 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <source>&amp;These rows only</source>
         <translation>仅这些行(&amp;T)</translation>
     </message>
+    <message>
+        <source>The former queries are still in the database.</source>
+        <translation>原来的查询仍在数据库中。</translation>
+    </message>
+    <message>
+        <source>The former queries are still in %1.</source>
+        <translation>原来的查询仍在 %1 中。</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Copy them here</source>
+        <translation>复制到此处</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n query(ies) copied.</source>
+        <translation>
+            <numerusform>已复制 %n 个查询。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new table(s)</source>
+        <translation>
+            <numerusform>%n 个表</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new column(s)</source>
+        <translation>
+            <numerusform>%n 列</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new link(s)</source>
+        <translation>
+            <numerusform>%n 个关联</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no new tables and columns.</source>
+        <translation>数据库中没有新的表和列。</translation>
+    </message>
+    <message>
+        <source>New in the model: %1.</source>
+        <translation>模型中新增: %1。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s), column(s) or link(s) of the model are not in the database.</source>
+        <translation>
+            <numerusform>模型中有 %n 个表、列或关联不在数据库中。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) have another type in the database than in the model.</source>
+        <translation>
+            <numerusform>有 %n 列在数据库中的类型与模型中的不同。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show...</source>
+        <translation>显示...</translation>
+    </message>
+    <message>
+        <source>The database refuses the column “%1”:
+%2</source>
+        <translation>数据库拒绝了列“%1”:
+%2</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 rows are here: the settings let a run read no more.</source>
+        <translation>这里只有前 %L1 行：设置不允许一次运行读取更多行。</translation>
+    </message>
+    <message>
+        <source>1 row is in %1.</source>
+        <translation>已将 1 行写入 %1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln rows are in %1.</source>
+        <translation>
+            <numerusform>已将 %Ln 行写入 %1。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -704,6 +802,21 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
     <message>
         <source>Close this note</source>
         <translation>关闭此提示</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TOpeningDialog</name>
+    <message>
+        <source>Open a database</source>
+        <translation>打开数据库</translation>
+    </message>
+    <message>
+        <source>Reading the tables of %1...</source>
+        <translation>正在读取 %1 的表...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1...</source>
+        <translation>正在等待 %1 响应...</translation>
     </message>
 </context>
 <context>
@@ -739,6 +852,12 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <source>Page %1 of %2</source>
         <translation>第 %1 页，共 %2 页</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (only the first %Ln rows)</source>
+        <translation>
+            <numerusform>%1（仅前 %Ln 行）</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -753,6 +872,38 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
     <message>
         <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
         <translation>现在无法恢复未保存的更改。它们保留在 %1 中，下次启动时会再次尝试。</translation>
+    </message>
+    <message>
+        <source>%1 is not open.</source>
+        <translation>%1 未打开。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Open another one...</source>
+        <translation>打开其他数据库...</translation>
+    </message>
+    <message>
+        <source>Open the sample</source>
+        <translation>打开示例</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of “%1” in %2 were saved. They are kept until you take them or discard them.</source>
+        <translation>程序在保存“%1”(%2) 的更改之前已结束。这些更改会一直保留，直到您恢复或放弃它们。</translation>
+    </message>
+    <message>
+        <source>The program ended before changes of the data model of %1 were saved. They are kept until you take them or discard them.</source>
+        <translation>程序在保存 %1 的数据模型的更改之前已结束。这些更改会一直保留，直到您恢复或放弃它们。</translation>
+    </message>
+    <message>
+        <source>Open %1 with them</source>
+        <translation>打开 %1 并恢复更改</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
     </message>
 </context>
 <context>
@@ -861,6 +1012,10 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
     <message>
         <source>Copying was stopped; the clipboard holds what it held</source>
         <translation>已停止复制；剪贴板内容保持不变</translation>
+    </message>
+    <message>
+        <source>Stop copying</source>
+        <translation>停止复制</translation>
     </message>
 </context>
 <context>
@@ -1089,29 +1244,40 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <source>Keys</source>
         <translation>按键</translation>
     </message>
+    <message>
+        <source>In the list of queries</source>
+        <translation>在查询列表中</translation>
+    </message>
+    <message>
+        <source>Among the rows</source>
+        <translation>在行中</translation>
+    </message>
+    <message>
+        <source>In the SQL</source>
+        <translation>在 SQL 中</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TSqlEdit</name>
+    <message>
+        <source>Copy what is selected</source>
+        <translation>复制所选内容</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Larger letters</source>
+        <translation>增大字号</translation>
+    </message>
+    <message>
+        <source>Smaller letters</source>
+        <translation>减小字号</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TSqlPane</name>
-    <message>
-        <source>SQL with JOIN</source>
-        <translation>使用 JOIN 的 SQL</translation>
-    </message>
-    <message>
-        <source>SQL with joins in WHERE</source>
-        <translation>在 WHERE 中连接的 SQL</translation>
-    </message>
-    <message>
-        <source>Oracle</source>
-        <translation>Oracle</translation>
-    </message>
-    <message>
-        <source>Access</source>
-        <translation>Access</translation>
-    </message>
-    <message>
-        <source>NexusDB</source>
-        <translation>NexusDB</translation>
-    </message>
     <message>
         <source>Statement</source>
         <translation>语句</translation>
@@ -1308,10 +1474,6 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>是否删除查询“%1”？</translation>
     </message>
     <message>
-        <source>It is deleted for everybody who uses this store. It can be brought back only until this note about it is closed.</source>
-        <translation>所有使用此查询库的人都将失去该查询。只有在关闭相应提示之前才能恢复。</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>“%1”已删除。</translation>
     </message>
@@ -1322,6 +1484,16 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
     <message>
         <source>What was copied is no query text. Statements in SQL are pasted into the SQL.</source>
         <translation>复制的内容不是查询文本。SQL 语句请粘贴到 SQL 中。</translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. You can take that back until the note about it is closed.</source>
+        <translation>所有使用此查询库的人都将失去该查询。在关闭相应提示之前可以撤消。</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” was deleted, and %n before it.</source>
+        <translation>
+            <numerusform>“%1”已删除，此前还删除了 %n 个。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1341,6 +1513,43 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
     <message>
         <source>&amp;Copy</source>
         <translation>复制(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TWorkspace</name>
+    <message>
+        <source>The sample cannot be put into %1: the folder cannot be made. The option --home names another place.</source>
+        <translation>无法将示例放入 %1：无法创建该文件夹。可用选项 --home 指定其他位置。</translation>
+    </message>
+    <message>
+        <source>The sample stays as it is: %1 cannot be renamed.</source>
+        <translation>示例保持不变：无法重命名 %1。</translation>
+    </message>
+    <message>
+        <source>The data model cannot be kept: %1. Model &gt; Save as... keeps it in another place.</source>
+        <translation>无法保存数据模型: %1。使用“模型 &gt; 另存为...”可将其保存到其他位置。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The driver tells nothing of links between tables. %n link(s) were found by the names of columns; Model &gt; Diagram... shows them, and can draw others.</source>
+        <translation>
+            <numerusform>驱动程序不提供表之间的关联信息。已根据列名找到 %n 个关联；“模型 &gt; 关系图...”会显示它们，也可以绘制其他关联。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database has no tables that can be read. Once it has some, Model &gt; Read new tables from the database finds them.</source>
+        <translation>数据库中没有可读取的表。有了表之后，使用“模型 &gt; 从数据库读取新表”即可找到它们。</translation>
+    </message>
+    <message>
+        <source>%1 is no data model, or a damaged one: %2. Choose another file; where there is none, a model is made from the tables of the database.</source>
+        <translation>%1 不是数据模型或已损坏: %2。请选择其他文件；如果没有文件，将根据数据库的表创建模型。</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept in this database: %1</source>
+        <translation>无法将查询保存在此数据库中: %1</translation>
+    </message>
+    <message>
+        <source>Queries cannot be kept: %1. Query &gt; Where queries are kept has other places.</source>
+        <translation>无法保存查询: %1。可在“查询 &gt; 查询的保存位置”中选择其他位置。</translation>
     </message>
 </context>
 <context>
