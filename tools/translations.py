@@ -2,7 +2,8 @@
 """The catalogues of translated texts in translations/: keeps them in step with the sources.
 
     translations.py              takes new texts of the sources into all catalogues, and drops those that have gone
-    translations.py --check      says which catalogues lack texts, or have other places (%1), accelerators or ends
+    translations.py --check      says which catalogues lack texts, or have other places (%1), accelerators or ends, and
+                                 which texts programs would look for in another context
     translations.py --list PART  numbers the texts of PART (widgets, workbench), one a line, for a translator
     translations.py --take PART LANGUAGE FILE   takes translations over, lines "number<TAB>text", forms divided by "¦"
 
@@ -21,6 +22,7 @@ PARTS = {"widgets": ["src/ui"], "workbench": ["apps/workbench"]}
 # English needs no more than the forms of its texts with numbers.
 PLURALS = "en"
 LANGUAGES = ["ar", "de", "es", "fr", "ja", "ru", "zh"]
+QT_CONTEXTS = {"QObject", "QMessageBox"}
 PLACE = re.compile(r"%(?:L?\d+|L?n|\w\b)")
 
 
@@ -73,6 +75,23 @@ def fault_of(message):
     return None
 
 
+def lost_contexts(part, contexts):
+    """The contexts under which no program asks for texts: lupdate goes by names, programs by what a class declares."""
+    text = ""
+    for top in PARTS[part]:
+        for folder, _, names in os.walk(os.path.join(ROOT, top)):
+            for name in names:
+                if name.endswith((".cpp", ".h")):
+                    with open(os.path.join(folder, name), encoding="utf-8") as file:
+                        text += file.read()
+    for context in sorted(contexts - QT_CONTEXTS):
+        name = context.rpartition("::")[2]
+        asked = (rf"Q_DECLARE_TR_FUNCTIONS\({context}\)", rf'translate\(\s*"{context}"',
+                 rf"class (?:\w+_API )?{name}\b[^;{{]*\{{\s*Q_OBJECT")
+        if not any(re.search(pattern, text) for pattern in asked):
+            yield context
+
+
 def check():
     """Compares the catalogues with catalogues made of the sources; returns the faults."""
     faults = []
@@ -83,6 +102,8 @@ def check():
             fresh_messages = [((context, m.findtext("source"), m.findtext("comment")), m.get("numerus"))
                               for context, m in messages(fresh)]
             wanted = {key for key, _ in fresh_messages}
+            faults += [f"the texts of {context or 'no class'} are looked for elsewhere: has it Q_OBJECT or "
+                       "Q_DECLARE_TR_FUNCTIONS?" for context in lost_contexts(part, {key[0] for key in wanted})]
             forms = {key for key, numerus in fresh_messages if numerus}
             for language in [*LANGUAGES, PLURALS]:
                 file = path_of(part, language)

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_EG">
 <context>
-    <name>tolvi</name>
-    <message>
-        <source>Text shown</source>
-        <translation>النص المعروض</translation>
-    </message>
-    <message>
-        <source>Value in SQL</source>
-        <translation>القيمة في SQL</translation>
-    </message>
-    <message>
-        <source>List of values</source>
-        <translation>قائمة القيم</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TCatalogueTablesModel</name>
     <message>
         <source>Name</source>
@@ -300,6 +285,21 @@
     <message>
         <source>Move group</source>
         <translation>نقل مجموعة</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TEntryTable</name>
+    <message>
+        <source>Text shown</source>
+        <translation>النص المعروض</translation>
+    </message>
+    <message>
+        <source>Value in SQL</source>
+        <translation>القيمة في SQL</translation>
+    </message>
+    <message>
+        <source>List of values</source>
+        <translation>قائمة القيم</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
-    <name>tolvi</name>
-    <message>
-        <source>Text shown</source>
-        <translation>Angezeigter Text</translation>
-    </message>
-    <message>
-        <source>Value in SQL</source>
-        <translation>Wert in SQL</translation>
-    </message>
-    <message>
-        <source>List of values</source>
-        <translation>Werteliste</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TCatalogueTablesModel</name>
     <message>
         <source>Name</source>
@@ -300,6 +285,21 @@
     <message>
         <source>Move group</source>
         <translation>Gruppe verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TEntryTable</name>
+    <message>
+        <source>Text shown</source>
+        <translation>Angezeigter Text</translation>
+    </message>
+    <message>
+        <source>Value in SQL</source>
+        <translation>Wert in SQL</translation>
+    </message>
+    <message>
+        <source>List of values</source>
+        <translation>Werteliste</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES">
 <context>
-    <name>tolvi</name>
-    <message>
-        <source>Text shown</source>
-        <translation>Texto mostrado</translation>
-    </message>
-    <message>
-        <source>Value in SQL</source>
-        <translation>Valor en SQL</translation>
-    </message>
-    <message>
-        <source>List of values</source>
-        <translation>Lista de valores</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TCatalogueTablesModel</name>
     <message>
         <source>Name</source>
@@ -300,6 +285,21 @@
     <message>
         <source>Move group</source>
         <translation>Mover grupo</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TEntryTable</name>
+    <message>
+        <source>Text shown</source>
+        <translation>Texto mostrado</translation>
+    </message>
+    <message>
+        <source>Value in SQL</source>
+        <translation>Valor en SQL</translation>
+    </message>
+    <message>
+        <source>List of values</source>
+        <translation>Lista de valores</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
-    <name>tolvi</name>
-    <message>
-        <source>Text shown</source>
-        <translation>Texte affiché</translation>
-    </message>
-    <message>
-        <source>Value in SQL</source>
-        <translation>Valeur en SQL</translation>
-    </message>
-    <message>
-        <source>List of values</source>
-        <translation>Liste de valeurs</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TCatalogueTablesModel</name>
     <message>
         <source>Name</source>
@@ -300,6 +285,21 @@
     <message>
         <source>Move group</source>
         <translation>Déplacer le groupe</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TEntryTable</name>
+    <message>
+        <source>Text shown</source>
+        <translation>Texte affiché</translation>
+    </message>
+    <message>
+        <source>Value in SQL</source>
+        <translation>Valeur en SQL</translation>
+    </message>
+    <message>
+        <source>List of values</source>
+        <translation>Liste de valeurs</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP">
 <context>
-    <name>tolvi</name>
-    <message>
-        <source>Text shown</source>
-        <translation>表示されるテキスト</translation>
-    </message>
-    <message>
-        <source>Value in SQL</source>
-        <translation>SQL での値</translation>
-    </message>
-    <message>
-        <source>List of values</source>
-        <translation>値の一覧</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TCatalogueTablesModel</name>
     <message>
         <source>Name</source>
@@ -300,6 +285,21 @@
     <message>
         <source>Move group</source>
         <translation>グループの移動</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TEntryTable</name>
+    <message>
+        <source>Text shown</source>
+        <translation>表示されるテキスト</translation>
+    </message>
+    <message>
+        <source>Value in SQL</source>
+        <translation>SQL での値</translation>
+    </message>
+    <message>
+        <source>List of values</source>
+        <translation>値の一覧</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
-    <name>tolvi</name>
-    <message>
-        <source>Text shown</source>
-        <translation>Отображаемый текст</translation>
-    </message>
-    <message>
-        <source>Value in SQL</source>
-        <translation>Значение в SQL</translation>
-    </message>
-    <message>
-        <source>List of values</source>
-        <translation>Список значений</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TCatalogueTablesModel</name>
     <message>
         <source>Name</source>
@@ -300,6 +285,21 @@
     <message>
         <source>Move group</source>
         <translation>Перемещение группы</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TEntryTable</name>
+    <message>
+        <source>Text shown</source>
+        <translation>Отображаемый текст</translation>
+    </message>
+    <message>
+        <source>Value in SQL</source>
+        <translation>Значение в SQL</translation>
+    </message>
+    <message>
+        <source>List of values</source>
+        <translation>Список значений</translation>
     </message>
 </context>
 <context>

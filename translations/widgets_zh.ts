@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
-    <name>tolvi</name>
-    <message>
-        <source>Text shown</source>
-        <translation>显示的文本</translation>
-    </message>
-    <message>
-        <source>Value in SQL</source>
-        <translation>SQL 中的值</translation>
-    </message>
-    <message>
-        <source>List of values</source>
-        <translation>值列表</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TCatalogueTablesModel</name>
     <message>
         <source>Name</source>
@@ -300,6 +285,21 @@
     <message>
         <source>Move group</source>
         <translation>移动分组</translation>
+    </message>
+</context>
+<context>
+    <name>tolvi::TEntryTable</name>
+    <message>
+        <source>Text shown</source>
+        <translation>显示的文本</translation>
+    </message>
+    <message>
+        <source>Value in SQL</source>
+        <translation>SQL 中的值</translation>
+    </message>
+    <message>
+        <source>List of values</source>
+        <translation>值列表</translation>
     </message>
 </context>
 <context>

@@ -100,25 +100,6 @@
     </message>
 </context>
 <context>
-    <name>TTexts</name>
-    <message>
-        <source>Print rows</source>
-        <translation>طباعة الصفوف</translation>
-    </message>
-    <message>
-        <source>There are %1 rows. Print them all, or the first %2?</source>
-        <translation>عدد الصفوف %1. هل تريد طباعتها كلها أم أول %2 منها؟</translation>
-    </message>
-    <message>
-        <source>&amp;First %1 Rows</source>
-        <translation>أول %1 من الصفوف (&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;All rows</source>
-        <translation>كل الصفوف (&amp;A)</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TAbout</name>
     <message>
         <source>About the workbench</source>
@@ -923,6 +904,18 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
             <numerusform>%1 (أول %Ln صف فقط)</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There are %1 rows. Print them all, or the first %2?</source>
+        <translation>عدد الصفوف %1. هل تريد طباعتها كلها أم أول %2 منها؟</translation>
+    </message>
+    <message>
+        <source>&amp;First %1 Rows</source>
+        <translation>أول %1 من الصفوف (&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;All rows</source>
+        <translation>كل الصفوف (&amp;A)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -1709,10 +1702,6 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     <message>
         <source>The keychain did not take the password: %1. It is known until the program ends.</source>
         <translation>لم تقبل سلسلة المفاتيح كلمة المرور: %1. تبقى معروفة حتى انتهاء البرنامج.</translation>
-    </message>
-    <message>
-        <source>The keychain does not work: passwords are forgotten when the program ends.</source>
-        <translation>سلسلة المفاتيح لا تعمل: تُنسى كلمات المرور عند انتهاء البرنامج.</translation>
     </message>
 </context>
 <context>

@@ -100,25 +100,6 @@
     </message>
 </context>
 <context>
-    <name>TTexts</name>
-    <message>
-        <source>Print rows</source>
-        <translation>Zeilen drucken</translation>
-    </message>
-    <message>
-        <source>There are %1 rows. Print them all, or the first %2?</source>
-        <translation>Es sind %1 Zeilen. Alle drucken oder nur die ersten %2?</translation>
-    </message>
-    <message>
-        <source>&amp;First %1 Rows</source>
-        <translation>&amp;Erste %1 Zeilen</translation>
-    </message>
-    <message>
-        <source>&amp;All rows</source>
-        <translation>&amp;Alle Zeilen</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TAbout</name>
     <message>
         <source>About the workbench</source>
@@ -870,6 +851,18 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
             <numerusform>%1 (nur die erste Zeile)</numerusform>
             <numerusform>%1 (nur die ersten %Ln Zeilen)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There are %1 rows. Print them all, or the first %2?</source>
+        <translation>Es sind %1 Zeilen. Alle drucken oder nur die ersten %2?</translation>
+    </message>
+    <message>
+        <source>&amp;First %1 Rows</source>
+        <translation>&amp;Erste %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>&amp;All rows</source>
+        <translation>&amp;Alle Zeilen</translation>
     </message>
 </context>
 <context>
@@ -1625,10 +1618,6 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
     <message>
         <source>The keychain did not take the password: %1. It is known until the program ends.</source>
         <translation>Der Schlüsselbund hat das Passwort nicht angenommen: %1. Es ist bis zum Ende des Programms bekannt.</translation>
-    </message>
-    <message>
-        <source>The keychain does not work: passwords are forgotten when the program ends.</source>
-        <translation>Der Schlüsselbund funktioniert nicht: Passwörter werden beim Beenden des Programms vergessen.</translation>
     </message>
 </context>
 <context>

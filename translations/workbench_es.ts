@@ -100,25 +100,6 @@
     </message>
 </context>
 <context>
-    <name>TTexts</name>
-    <message>
-        <source>Print rows</source>
-        <translation>Imprimir filas</translation>
-    </message>
-    <message>
-        <source>There are %1 rows. Print them all, or the first %2?</source>
-        <translation>Hay %1 filas. ¿Desea imprimirlas todas o solo las primeras %2?</translation>
-    </message>
-    <message>
-        <source>&amp;First %1 Rows</source>
-        <translation>&amp;Primeras %1 filas</translation>
-    </message>
-    <message>
-        <source>&amp;All rows</source>
-        <translation>&amp;Todas las filas</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TAbout</name>
     <message>
         <source>About the workbench</source>
@@ -870,6 +851,18 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
             <numerusform>%1 (solo la primera fila)</numerusform>
             <numerusform>%1 (solo las primeras %Ln filas)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There are %1 rows. Print them all, or the first %2?</source>
+        <translation>Hay %1 filas. ¿Desea imprimirlas todas o solo las primeras %2?</translation>
+    </message>
+    <message>
+        <source>&amp;First %1 Rows</source>
+        <translation>&amp;Primeras %1 filas</translation>
+    </message>
+    <message>
+        <source>&amp;All rows</source>
+        <translation>&amp;Todas las filas</translation>
     </message>
 </context>
 <context>
@@ -1625,10 +1618,6 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
     <message>
         <source>The keychain did not take the password: %1. It is known until the program ends.</source>
         <translation>El llavero no aceptó la contraseña: %1. Se recuerda hasta que se cierre el programa.</translation>
-    </message>
-    <message>
-        <source>The keychain does not work: passwords are forgotten when the program ends.</source>
-        <translation>El llavero no funciona: las contraseñas se olvidan al cerrar el programa.</translation>
     </message>
 </context>
 <context>

@@ -100,25 +100,6 @@
     </message>
 </context>
 <context>
-    <name>TTexts</name>
-    <message>
-        <source>Print rows</source>
-        <translation>Imprimer les lignes</translation>
-    </message>
-    <message>
-        <source>There are %1 rows. Print them all, or the first %2?</source>
-        <translation>Il y a %1 lignes. Les imprimer toutes, ou seulement les %2 premières&#xa0;?</translation>
-    </message>
-    <message>
-        <source>&amp;First %1 Rows</source>
-        <translation>Les %1 &amp;premières lignes</translation>
-    </message>
-    <message>
-        <source>&amp;All rows</source>
-        <translation>&amp;Toutes les lignes</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TAbout</name>
     <message>
         <source>About the workbench</source>
@@ -870,6 +851,18 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
             <numerusform>%1 (seulement la première ligne)</numerusform>
             <numerusform>%1 (seulement les %Ln premières lignes)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There are %1 rows. Print them all, or the first %2?</source>
+        <translation>Il y a %1 lignes. Les imprimer toutes, ou seulement les %2 premières&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;First %1 Rows</source>
+        <translation>Les %1 &amp;premières lignes</translation>
+    </message>
+    <message>
+        <source>&amp;All rows</source>
+        <translation>&amp;Toutes les lignes</translation>
     </message>
 </context>
 <context>
@@ -1625,10 +1618,6 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
     <message>
         <source>The keychain did not take the password: %1. It is known until the program ends.</source>
         <translation>Le trousseau n’a pas accepté le mot de passe&#xa0;: %1. Il reste connu jusqu’à la fin du programme.</translation>
-    </message>
-    <message>
-        <source>The keychain does not work: passwords are forgotten when the program ends.</source>
-        <translation>Le trousseau ne fonctionne pas&#xa0;: les mots de passe sont oubliés à la fin du programme.</translation>
     </message>
 </context>
 <context>

@@ -100,25 +100,6 @@
     </message>
 </context>
 <context>
-    <name>TTexts</name>
-    <message>
-        <source>Print rows</source>
-        <translation>行の印刷</translation>
-    </message>
-    <message>
-        <source>There are %1 rows. Print them all, or the first %2?</source>
-        <translation>%1 行あります。すべて印刷しますか、それとも最初の %2 行だけ印刷しますか？</translation>
-    </message>
-    <message>
-        <source>&amp;First %1 Rows</source>
-        <translation>最初の %1 行(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;All rows</source>
-        <translation>すべての行(&amp;A)</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TAbout</name>
     <message>
         <source>About the workbench</source>
@@ -857,6 +838,18 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>
             <numerusform>%1 (最初の %Ln 行のみ)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There are %1 rows. Print them all, or the first %2?</source>
+        <translation>%1 行あります。すべて印刷しますか、それとも最初の %2 行だけ印刷しますか？</translation>
+    </message>
+    <message>
+        <source>&amp;First %1 Rows</source>
+        <translation>最初の %1 行(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;All rows</source>
+        <translation>すべての行(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -1604,10 +1597,6 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <message>
         <source>The keychain did not take the password: %1. It is known until the program ends.</source>
         <translation>キーチェーンにパスワードを保存できませんでした: %1。パスワードはプログラムの終了まで保持されます。</translation>
-    </message>
-    <message>
-        <source>The keychain does not work: passwords are forgotten when the program ends.</source>
-        <translation>キーチェーンが使用できません。パスワードはプログラムの終了時に破棄されます。</translation>
     </message>
 </context>
 <context>

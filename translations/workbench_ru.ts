@@ -100,25 +100,6 @@
     </message>
 </context>
 <context>
-    <name>TTexts</name>
-    <message>
-        <source>Print rows</source>
-        <translation>Печать строк</translation>
-    </message>
-    <message>
-        <source>There are %1 rows. Print them all, or the first %2?</source>
-        <translation>Число строк: %1. Напечатать все или только первые %2?</translation>
-    </message>
-    <message>
-        <source>&amp;First %1 Rows</source>
-        <translation>&amp;Первые %1 строк</translation>
-    </message>
-    <message>
-        <source>&amp;All rows</source>
-        <translation>&amp;Все строки</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TAbout</name>
     <message>
         <source>About the workbench</source>
@@ -884,6 +865,18 @@ Tolvi распространяется по лицензии MIT. Посколь
             <numerusform>%1 (только первые строки: %Ln)</numerusform>
         </translation>
     </message>
+    <message>
+        <source>There are %1 rows. Print them all, or the first %2?</source>
+        <translation>Число строк: %1. Напечатать все или только первые %2?</translation>
+    </message>
+    <message>
+        <source>&amp;First %1 Rows</source>
+        <translation>&amp;Первые %1 строк</translation>
+    </message>
+    <message>
+        <source>&amp;All rows</source>
+        <translation>&amp;Все строки</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TProgram</name>
@@ -1646,10 +1639,6 @@ Tolvi распространяется по лицензии MIT. Посколь
     <message>
         <source>The keychain did not take the password: %1. It is known until the program ends.</source>
         <translation>Связка ключей не приняла пароль: %1. Он известен до завершения программы.</translation>
-    </message>
-    <message>
-        <source>The keychain does not work: passwords are forgotten when the program ends.</source>
-        <translation>Связка ключей не работает: пароли забываются при завершении программы.</translation>
     </message>
 </context>
 <context>

@@ -100,25 +100,6 @@
     </message>
 </context>
 <context>
-    <name>TTexts</name>
-    <message>
-        <source>Print rows</source>
-        <translation>打印行</translation>
-    </message>
-    <message>
-        <source>There are %1 rows. Print them all, or the first %2?</source>
-        <translation>共有 %1 行。要全部打印，还是仅打印前 %2 行？</translation>
-    </message>
-    <message>
-        <source>&amp;First %1 Rows</source>
-        <translation>前 %1 行(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;All rows</source>
-        <translation>所有行(&amp;A)</translation>
-    </message>
-</context>
-<context>
     <name>tolvi::TAbout</name>
     <message>
         <source>About the workbench</source>
@@ -857,6 +838,18 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>
             <numerusform>%1（仅前 %Ln 行）</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There are %1 rows. Print them all, or the first %2?</source>
+        <translation>共有 %1 行。要全部打印，还是仅打印前 %2 行？</translation>
+    </message>
+    <message>
+        <source>&amp;First %1 Rows</source>
+        <translation>前 %1 行(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;All rows</source>
+        <translation>所有行(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -1604,10 +1597,6 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
     <message>
         <source>The keychain did not take the password: %1. It is known until the program ends.</source>
         <translation>密钥链未能保存密码: %1。该密码仅在程序结束前有效。</translation>
-    </message>
-    <message>
-        <source>The keychain does not work: passwords are forgotten when the program ends.</source>
-        <translation>密钥链无法使用：程序结束后密码即被忘记。</translation>
     </message>
 </context>
 <context>

@@ -142,13 +142,28 @@ constexpr TTypeName MySQLTypes[] = {
 /// The next larger type where there is no sign.
 constexpr TTypeName MySQLUnsigned[] = {{"smallint", ftWord}, {"int", ftLargeint}};
 
-/// Those that their values do not tell.
+/// The numbers that ODBC has for types, of those that their values do not tell.
+enum TOdbcType {
+  odbcGuid = -11,
+  odbcWLongVarchar = -10,
+  odbcWChar = -8,
+  odbcBit = -7,
+  odbcTinyInt = -6,
+  odbcLongVarchar = -1,
+  odbcChar = 1,
+  odbcNumeric = 2,
+  odbcDecimal = 3,
+  odbcSmallInt = 5,
+};
 struct TTypeNumber {
-  int Number;
+  TOdbcType Number;
   TFieldType Type;
 };
-constexpr TTypeNumber OdbcTypes[] = {{2, ftBCD},    {3, ftBCD},   {5, ftSmallint}, {-6, ftSmallint}, {-7, ftBoolean},
-                                     {-11, ftGuid}, {-1, ftMemo}, {-10, ftMemo},   {1, ftFixedChar}, {-8, ftFixedChar}};
+constexpr TTypeNumber OdbcTypes[] = {
+    {odbcNumeric, ftBCD},    {odbcDecimal, ftBCD},     {odbcSmallInt, ftSmallint}, {odbcTinyInt, ftSmallint},
+    {odbcBit, ftBoolean},    {odbcGuid, ftGuid},       {odbcLongVarchar, ftMemo},  {odbcWLongVarchar, ftMemo},
+    {odbcChar, ftFixedChar}, {odbcWChar, ftFixedChar},
+};
 
 template <std::size_t Count>
 const TTypeName* FindType(std::string_view name, const TTypeName (&table)[Count]) {

@@ -265,7 +265,7 @@ TEST_F(StorePane, ShowsTheNeighbourOfWhatIsDeletedAndBringsBackOneAfterTheOther)
   ASSERT_EQ(Selected(), QStringLiteral("Query 18"));
   deletes("Query 19");
   deletes("Query 20");
-  EXPECT_EQ(Note(), QStringLiteral("“Query 19” was deleted, and 1 before it."));
+  EXPECT_EQ(Note(), QStringLiteral("“Query 19” was deleted, and one before it."));
   Key(Qt::Key_End);
   deletes("Query 20");
   // A fault does not take the offer away.
@@ -274,7 +274,7 @@ TEST_F(StorePane, ShowsTheNeighbourOfWhatIsDeletedAndBringsBackOneAfterTheOther)
   EXPECT_EQ(Note(), QStringLiteral("“Query 21” was deleted, and 2 before it."));
   undo();
   EXPECT_EQ(Selected(), QStringLiteral("Query 21"));
-  EXPECT_EQ(Note(), QStringLiteral("“Query 19” was deleted, and 1 before it."));
+  EXPECT_EQ(Note(), QStringLiteral("“Query 19” was deleted, and one before it."));
   MayLeave = false;
   undo();
   MayLeave = true;

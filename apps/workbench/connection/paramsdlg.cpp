@@ -36,7 +36,7 @@ std::vector<TParamInfo> ParamsOf(TJQueryPanel& panel) {
 
 class TParamsDialog final : public QDialog {
  public:
-  TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<TParamInfo> params, const TParamMemory& last,
+  TParamsDialog(QWidget* parent, TJQueryPanel& panel, const std::vector<TParamInfo>& params, const TParamMemory& last,
                 const QString& source);
 
   struct TRow {
@@ -57,7 +57,7 @@ class TParamsDialog final : public QDialog {
   QPushButton* FOk;
 };
 
-TParamsDialog::TParamsDialog(QWidget* parent, TJQueryPanel& panel, std::vector<TParamInfo> params,
+TParamsDialog::TParamsDialog(QWidget* parent, TJQueryPanel& panel, const std::vector<TParamInfo>& params,
                              const TParamMemory& last, const QString& source)
     : QDialog(parent), FPanel(panel) {
   constexpr int Columns = 64;
@@ -172,9 +172,9 @@ void TParamMemory::Set(const QString& key, const QString& value) {
 }
 
 bool AskParams(QWidget* parent, TJQueryPanel& panel, TParamMemory& last, const QString& source) {
-  std::vector<TParamInfo> params = ParamsOf(panel);
+  const std::vector<TParamInfo> params = ParamsOf(panel);
   if (params.empty()) return true;
-  const QPointer<TParamsDialog> dialog = new TParamsDialog(parent, panel, std::move(params), last, source);
+  const QPointer<TParamsDialog> dialog = new TParamsDialog(parent, panel, params, last, source);
   const bool isTaken = dialog->exec() == QDialog::Accepted;
   // It may have gone with its parent.
   if (!dialog) return false;

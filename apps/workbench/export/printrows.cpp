@@ -4,13 +4,12 @@
 #include <QDateTime>
 #include <QGuiApplication>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
-#include <QPushButton>
 #include <algorithm>
 
+#include "apps/workbench/controls/askchoice.h"
 #include "apps/workbench/results/celltext.h"
 #include <tolvi/ui/qtext.h>
 
@@ -150,18 +149,16 @@ class TTablePages final {
 };
 
 /// How many rows to print; 0 for none.
-std::size_t AskCount(QWidget* parent, std::size_t count) {
+size_t AskCount(QWidget* parent, size_t count) {
   if (count <= PrintedRowsUnasked) return count;
   const QLocale locale;
   const QString all = locale.toString(qulonglong{count}), some = locale.toString(qulonglong{PrintedRowsUnasked});
-  QMessageBox box(QMessageBox::Question, TTexts::tr("Print rows"),
-                  TTexts::tr("There are %1 rows. Print them all, or the first %2?").arg(all, some), {}, parent);
-  QPushButton* first = box.addButton(TTexts::tr("&First %1 Rows").arg(some), QMessageBox::AcceptRole);
-  QPushButton* whole = box.addButton(TTexts::tr("&All rows"), QMessageBox::AcceptRole);
-  box.addButton(QMessageBox::Cancel);
-  box.setDefaultButton(first);
-  box.exec();
-  return box.clickedButton() == whole ? count : box.clickedButton() == first ? PrintedRowsUnasked : 0;
+  const auto answer = AskChoice(parent, QStringLiteral("print"),
+                                TTexts::tr("There are %1 rows. Print them all, or the first %2?").arg(all, some),
+                                {{QStringLiteral("first"), TTexts::tr("&First %1 Rows").arg(some)},
+                                 {QStringLiteral("all"), TTexts::tr("&All rows")}});
+  if (!answer) return 0;
+  return *answer == 0 ? PrintedRowsUnasked : count;
 }
 
 }  // namespace

@@ -174,6 +174,9 @@ void TSqlEdit::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) Dress();
 }
 
-bool TSqlEdit::focusNextPrevChild(bool next) { return QAbstractScrollArea::focusNextPrevChild(next); }
+bool TSqlEdit::focusNextPrevChild(bool next) {
+  // The base class keeps Tab to itself. NOLINTNEXTLINE(bugprone-parent-virtual-call)
+  return QAbstractScrollArea::focusNextPrevChild(next);
+}
 
 }  // namespace tolvi

@@ -159,7 +159,7 @@ std::string OwnName(const std::string& name, int number) {
 }  // namespace
 
 QString SentencesOf(const std::string& text, TJCustomDBStructure* model) {
-  const QString plain = ToQString(text).remove(u'\r').trimmed();
+  QString plain = ToQString(text).remove(u'\r').trimmed();
   if (model == nullptr || plain.isEmpty()) return plain;
   try {
     TJQueryPanel panel;

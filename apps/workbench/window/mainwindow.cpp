@@ -11,12 +11,12 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "apps/workbench/controls/askchoice.h"
 #include "apps/workbench/export/chartpane.h"
 #include "apps/workbench/results/resultgrid.h"
 #include "apps/workbench/results/resultpane.h"
 #include "apps/workbench/sql/sqlpane.h"
 #include "apps/workbench/store/storepane.h"
-#include "apps/workbench/window/askchoice.h"
 #include "apps/workbench/window/faultfinder.h"
 #include "apps/workbench/window/languages.h"
 #include "apps/workbench/window/notebar.h"
@@ -160,7 +160,7 @@ void TMainWindow::SetWorkspace(std::unique_ptr<TWorkspace> workspace, const QStr
   FResultPane->SetPreview(FSettings.Preview);
   FQueryArea->SetPanel(&FWorkspace->Panel(), &FWorkspace->Model());
   QStringList order;
-  for (const QJsonValue& id : FSettings.Orders.value(key).toArray()) order << id.toString();
+  for (const QJsonValueRef id : FSettings.Orders.value(key).toArray()) order << id.toString();
   FStorePane->SetOrder(order);
   FStorePane->SetDBStruct(&FWorkspace->Model());
   FStorePane->SetQueryBase(&FWorkspace->Store());

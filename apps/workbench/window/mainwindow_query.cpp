@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "apps/workbench/controls/askchoice.h"
 #include "apps/workbench/export/chartpane.h"
 #include "apps/workbench/export/exportdlg.h"
 #include "apps/workbench/export/printrows.h"
@@ -14,7 +15,6 @@
 #include "apps/workbench/sql/sqlpane.h"
 #include "apps/workbench/store/conflictdlg.h"
 #include "apps/workbench/store/storepane.h"
-#include "apps/workbench/window/askchoice.h"
 #include "apps/workbench/window/faultfinder.h"
 #include "apps/workbench/window/mainwindow.h"
 #include "apps/workbench/window/notebar.h"

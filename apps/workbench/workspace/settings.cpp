@@ -58,7 +58,7 @@ TSettings FromJson(const QJsonObject& json) {
   settings.PreviewRows = static_cast<int>(number(QLatin1String("previewRows"), 1, 10'000, settings.PreviewRows));
   settings.MaxRows = number(QLatin1String("maxRows"), 0, INT32_MAX, settings.MaxRows);
   settings.AllowSQLFragments = json.value(QLatin1String("allowSQLFragments")).toBool();
-  for (const QJsonValue& source : json.value(QLatin1String("recent")).toArray()) {
+  for (const QJsonValueRef source : json.value(QLatin1String("recent")).toArray()) {
     if (TSource known = SourceFromJson(source.toObject()); !known.Url.empty())
       settings.Recent.push_back(std::move(known));
   }

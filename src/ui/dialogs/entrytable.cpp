@@ -10,7 +10,7 @@
 namespace tolvi {
 namespace {
 
-enum TColumn : int { ecText, ecValue, ecCount };
+enum TColumn { ecText, ecValue, ecCount };
 
 }  // namespace
 

@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFontDatabase>
@@ -24,6 +25,8 @@ namespace {
 
 /// A query panel of its own, as the sub-query is built.
 class TSubQueryDialog final : public QDialog {
+  Q_DECLARE_TR_FUNCTIONS(tolvi::TSubQueryDialog)
+
  public:
   TSubQueryDialog(const TFilterCond& condition, TJQueryPanelView& outerView);
 

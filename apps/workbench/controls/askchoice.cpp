@@ -1,4 +1,4 @@
-#include "apps/workbench/window/askchoice.h"
+#include "apps/workbench/controls/askchoice.h"
 
 #include <QGuiApplication>
 #include <QMessageBox>
