@@ -319,6 +319,9 @@ TEST_F(ResultFieldsPanel, IsWorkedWithTheKeyboardAlone) {
     EXPECT_TRUE(wasOpen) << byKey;
     QApplication::setActiveWindow(&window);
   }
+  Row(2).GetSortLabel().setFocus();
+  Panel->Refresh();
+  EXPECT_TRUE(focused(Row(2).GetSortLabel())) << "rows that the host makes anew keep the focus";
   for (int i = 0; i < 3; ++i) {
     Row(0).GetButton().setFocus();
     Key(Qt::Key_Delete, i == 1 ? Qt::KeypadModifier : Qt::NoModifier);

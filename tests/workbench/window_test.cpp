@@ -187,6 +187,28 @@ TEST_F(Workbench, AsksBeforeChangesAreLost) {
   Wait([this] { return Shown("query.conditions").contains(QStringLiteral("Atlantis")); }, "stored");
 }
 
+TEST_F(Workbench, UndoesChangesOfColumnsAndKnowsWhatIsSaved) {
+  QApplication::setActiveWindow(&Window());
+  TResultFieldRows& rows = Window().QueryArea().Columns().GetRows();
+  const std::size_t count = rows.Count();
+  const std::string saved = Window().GetWorkspace()->QueryText();
+  for (int i = 0; i < 2; ++i) {
+    Window().QueryArea().Columns().DeleteRow(0);
+    // What happens before events come is one step.
+    QCoreApplication::processEvents();
+  }
+  Wait([this] { return Window().isWindowModified(); }, "modified");
+  rows[0].GetPart(rpSorting).setFocus();
+  for (std::size_t left = count - 2; left < count; ++left) {
+    EXPECT_EQ(rows.Count(), left);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+  }
+  EXPECT_EQ(rows.Count(), count);
+  EXPECT_EQ(Window().GetWorkspace()->QueryText(), saved);
+  Wait([this] { return !Window().isWindowModified(); }, "as it was saved");
+}
+
 TEST_F(Workbench, OpensTheSameQueryInTheSameSyntaxTheNextTime) {
   TJStoredQueryBase& store = Window().GetWorkspace()->Store();
   store.SetItemIndex(store.IndexByName("Best customers"));

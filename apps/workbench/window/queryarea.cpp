@@ -1,9 +1,12 @@
 #include "apps/workbench/window/queryarea.h"
 
+#include <QAction>
 #include <QLabel>
+#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <tolvi/panel/panelcommands.h>
 #include <tolvi/panel/paneleditor.h>
 
 namespace tolvi {
@@ -56,6 +59,15 @@ TQueryArea::TQueryArea(const TStrings& titles, QWidget* parent)
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->addWidget(FSplitter);
+  // Steps are those of the whole query; the commands take keys among the conditions only.
+  for (const TPanelCommand command : {pcUndo, pcRedo}) {
+    QAction& action = FConditions->GetAction(command);
+    for (const QKeySequence& key : action.shortcuts()) {
+      auto* shortcut = new QShortcut(key, FColumns);
+      shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+      connect(shortcut, &QShortcut::activated, &action, &QAction::trigger);
+    }
+  }
   FColumns->OnChange = [this](TJResultFieldsPanel&) { ColumnsChanged(); };
 }
 
@@ -72,6 +84,7 @@ void TQueryArea::SetPanel(TJQueryPanel* panel, TJDBStructure* model) {
   FColumns->SetResultFields(panel->RFields());
   FShownColumns = TextOf(panel->RFields());
   panel->OnChange = [this](TJQueryPanel&) { PanelChanged(); };
+  NoteIfSaved();
 }
 
 void TQueryArea::PanelChanged() {
@@ -100,7 +113,15 @@ bool TQueryArea::GoToRow(const std::string& rowID) {
 }
 
 void TQueryArea::ForgetSteps() {
-  if (TPanelEditor* editor = FConditions->GetEditor()) editor->ClearHistory();
+  TPanelEditor* editor = FConditions->GetEditor();
+  if (editor == nullptr) return;
+  editor->ClearHistory();
+  NoteIfSaved();
+}
+
+void TQueryArea::NoteIfSaved() {
+  TPanelEditor* editor = FConditions->GetEditor();
+  if (editor != nullptr && FPanel != nullptr && !FPanel->GetModified()) editor->NoteSaved();
 }
 
 }  // namespace tolvi

@@ -37,6 +37,8 @@ class TQueryArea final : public QWidget {
  private:
   void PanelChanged();
   void ColumnsChanged();
+  // Steps that lead back to here leave a query that is not modified.
+  void NoteIfSaved();
 
   TStrings FTitles;
   TJQueryPanel* FPanel = nullptr;

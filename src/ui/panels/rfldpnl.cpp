@@ -1,6 +1,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QScrollBar>
+#include <algorithm>
 #include <utility>
 
 #include <tolvi/foundation/consts.h>
@@ -152,6 +153,9 @@ void TJResultFieldsPanel::ClearRows() {
 }
 
 void TJResultFieldsPanel::RefreshFieldsList() {
+  // The focus stays at its place: with the row it would leave the panel.
+  const auto focused = FocusedPlace();
+  if (focused) widget()->setFocus(Qt::OtherFocusReason);
   if (FActive) FAddRowLabel->hide();
   FRefreshing = true;
   ClearRows();
@@ -162,6 +166,9 @@ void TJResultFieldsPanel::RefreshFieldsList() {
   ChainTabs(0);
   FitContent();
   if (FActive) ShowAddRowLabel();
+  if (!focused) return;
+  if (!FRows.Empty()) return FocusPart(FRows[std::min(focused->first, FRows.Count() - 1)].GetPart(focused->second));
+  if (FActive) FAddRowLabel->setFocus(Qt::OtherFocusReason);
 }
 
 void TJResultFieldsPanel::Refresh() {

@@ -7,7 +7,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <tolvi/foundation/components.h>
@@ -108,7 +110,7 @@ class TOLVI_WIDGETS_API TJResultFieldsPanel final : public QScrollArea, private 
   /// The dialog's help button is clicked; without a handler there is none.
   TRFHelpEvent OnEditorHelp;
 
-  /// Makes the rows anew from the columns.
+  /// Makes the rows anew from the columns. The focus stays at its place.
   void Refresh();
   void ClearAll();
   /// A new column at the end, as `AppendResultField` makes it, with its errors.
@@ -159,6 +161,7 @@ class TOLVI_WIDGETS_API TJResultFieldsPanel final : public QScrollArea, private 
   void Mirror();
   bool HasFocusElsewhere() const;
   void FocusPart(QWidget& part);
+  std::optional<std::pair<std::size_t, TRFRowPart>> FocusedPlace() const;
   void FocusRow(std::size_t index);
   bool MoveFocus(int key);
   bool EditByKey(const QKeyEvent& event);

@@ -105,6 +105,16 @@ bool TJResultFieldsPanel::HasFocusElsewhere() const {
   return focused != nullptr && focused->isVisible();
 }
 
+std::optional<std::pair<std::size_t, TRFRowPart>> TJResultFieldsPanel::FocusedPlace() const {
+  for (std::size_t i = 0; i < FRows.Count(); ++i) {
+    const QWidget* focused = FRows[i].GetFocusedPart();
+    for (const TRFRowPart part : {rpButton, rpField, rpSorting}) {
+      if (focused != nullptr && focused == &FRows[i].GetPart(part)) return std::pair(i, part);
+    }
+  }
+  return std::nullopt;
+}
+
 void TJResultFieldsPanel::FocusPart(QWidget& part) {
   part.setFocus(Qt::OtherFocusReason);
   ensureWidgetVisible(&part, FAppearance->GetLeftMargin(), FAppearance->GetTopMargin());
