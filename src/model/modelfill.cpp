@@ -62,7 +62,7 @@ class TModelFiller final {
 
   void AddField(const TPlannedField& plan) {
     auto added = std::make_unique<TDSField>(jfkData);
-    added->SetID(++FNextID);
+    added->SetID(plan.ID != 0 ? plan.ID : ++FNextID);
     added->SetFieldName(plan.Column);
     added->SetDisplayName(plan.DisplayName);
     added->SetFieldType(plan.Type);

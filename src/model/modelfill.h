@@ -46,6 +46,9 @@ struct TFillOptions {
   /// Whether fields take a type or size over that has changed in the catalogue, and with it the operators of the new
   /// type if they had just those of the old one.
   bool TakeChangedTypes = false;
+  /// Whether the ID of a new field is made of the names of table and column, and not counted up. Queries know fields by
+  /// their IDs: among models that are filled so, a query means the same, or names fields that a model does not know.
+  bool FieldIDsFromNames = false;
 };
 
 /// What filling adds, and what it finds. Tables are given by alias, fields by alias and column, links by their join

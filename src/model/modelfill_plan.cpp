@@ -8,6 +8,7 @@
 
 #include <tolvi/foundation/format.h>
 #include <tolvi/foundation/numbers.h>
+#include <tolvi/foundation/text.h>
 #include <tolvi/model/dbstruc.h>
 #include <tolvi/model/modelfill_links.h>
 #include <tolvi/model/modelfill_plan.h>
@@ -242,6 +243,24 @@ class TFieldPlanner final {
   std::vector<TNamePool> FDisplayNames;
 };
 
+/// From 1 on, the same for the same names in every case, on every system: FNV-1a, with room above for IDs that are
+/// counted up.
+std::int32_t IDFromNames(std::string_view table, std::string_view column) {
+  constexpr std::uint32_t Basis = 2166136261U, Prime = 16777619U, Most = (1U << 30U) - 1;
+  std::uint32_t hash = Basis;
+  for (const char c : FoldCase(table) + "." + FoldCase(column)) hash = (hash ^ static_cast<unsigned char>(c)) * Prime;
+  return static_cast<std::int32_t>(hash % Most + 1);
+}
+
+void GiveIDsFromNames(const TJCustomDBStructure& model, TFillPlan& plan) {
+  std::unordered_set<std::int32_t> taken;
+  for (const TDSField& field : model.Fields()) taken.insert(field.GetID());
+  for (TPlannedField& field : plan.Fields) {
+    field.ID = IDFromNames(plan.Tables[field.Table].Alias, field.Column);
+    while (!taken.insert(field.ID).second) ++field.ID;
+  }
+}
+
 void CheckFieldIDs(const TJCustomDBStructure& model, const TFillPlan& plan) {
   const auto free = static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max() - model.GetLastFieldID());
   if (plan.Fields.size() <= free) return;
@@ -286,6 +305,7 @@ TFillPlan PlanFill(const TJCustomDBStructure& model, TJDBInfo& info, const TFill
   PlanLinks(model, catalogue, options, tables, plan);
   TFieldPlanner(model, catalogue, options, tables, info, plan).Run();
   CheckFieldIDs(model, plan);
+  if (options.FieldIDsFromNames) GiveIDsFromNames(model, plan);
   return plan;
 }
 

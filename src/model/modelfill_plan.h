@@ -37,6 +37,8 @@ struct TPlannedGroup {
 };
 
 struct TPlannedField {
+  /// 0: the next one after the model's last.
+  std::int32_t ID = 0;
   std::size_t Table = 0, Group = 0;
   std::string Column, DisplayName;
   TFieldType Type = ftUnknown;

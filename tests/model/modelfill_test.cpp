@@ -1,3 +1,4 @@
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -216,6 +217,38 @@ TEST(ModelFill, GuessesLinksFromNamesWhereNoKeyTells) {
   // Neither a type that differs, nor a name that two keys have ("PartNo", "seller_id"), nor a second column.
   EXPECT_EQ(text.substr(text.find("Inner")),
             "Inner Parts.supplier_id = suppliers.id\nInner orders.customer_id = customers.id\n");
+}
+
+TEST(ModelFill, GivesColumnsTheSameIDsInEveryModelIfWanted) {
+  TFillOptions options;
+  options.FieldIDsFromNames = true;
+  const auto filled = [&options](const char* tables, TJDBStructure& model) {
+    TCatalogueOfText info(tables, {});
+    model.SetDatabaseInfo(&info);
+    FillModel(model, info, options);
+    std::map<std::string, std::int32_t> ids;
+    for (const TDSField& field : model.Fields()) {
+      ids[FoldCase(field.GetTable()->GetTableAlias() + "." + field.GetFieldName())] = field.GetID();
+    }
+    model.SetDatabaseInfo(nullptr);
+    return ids;
+  };
+  TJDBStructure mine, theirs;
+  const auto here = filled("Books: id* i, title s\nAuthors: id* i, name s", mine);
+  auto there = filled("authors: email s, id* i, name s\nbooks: id* i, title s", theirs);
+  // Never another one: queries that are stored hold it.
+  EXPECT_EQ(here.at("books.title"), 88685444);
+  EXPECT_EQ(there.erase("authors.email"), 1U);
+  EXPECT_EQ(here, there);
+
+  // Fields that people have made keep their IDs, and those that are counted up find room.
+  TCatalogueOfText more("Books: id* i, title s, year i\nAuthors: id* i, name s", {});
+  mine.SetDatabaseInfo(&more);
+  options.FieldIDsFromNames = false;
+  const std::int32_t last = mine.GetLastFieldID();
+  FillModel(mine, more, options);
+  EXPECT_EQ(mine.GetLastFieldID(), last + 1);
+  mine.SetDatabaseInfo(nullptr);
 }
 
 TEST(ModelFill, OffersListsOfValuesFromSmallTables) {

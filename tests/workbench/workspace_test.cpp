@@ -133,6 +133,30 @@ TEST_F(Workspace, TellsOfADatabaseWithoutTablesAndOfADriverWithoutLinks) {
             "Diagram... shows it, and can draw others.\r\n");
 }
 
+TEST_F(Workspace, ReadsSharedQueriesTheSameWithAModelOfItsOwn) {
+  const std::string file = FromQString(Path("books.sqlite"));
+  TSqlConnection books({.Kind = dkSQLite, .Database = file}, {.MustExist = false});
+  books.Execute("CREATE TABLE authors (id INTEGER PRIMARY KEY, name TEXT)");
+  books.Execute("CREATE TABLE books (id INTEGER PRIMARY KEY, title TEXT)");
+  TSource source{"sqlite:" + file};
+  source.QueryFolder = FromQString(Path("shared"));
+  std::string statement;
+  {
+    const auto mine = Open(source);
+    TJQueryPanel& panel = mine->Panel();
+    TDSField& title = *mine->Model().FieldByName(fnFullName, "books.title");
+    panel.RFields().Clear();
+    panel.RFields().Add(title);
+    panel.AddSimpleCond(panel.RootBracket(), title, *mine->Model().OperatorByName("Equal"), "Crime");
+    mine->SaveQuery();
+    statement = panel.GetQueryText();
+  }
+  books.Execute("ALTER TABLE authors ADD email TEXT");
+  const auto theirs = std::make_unique<TWorkspace>(source, "", Path("theirs"), TFormatSettings());
+  EXPECT_NE(theirs->Model().FieldByName(fnFullName, "authors.email"), nullptr);
+  EXPECT_EQ(theirs->Panel().GetQueryText(), statement);
+}
+
 TEST_F(Workspace, CopiesTheQueriesOfAnotherPlaceOnce) {
   const TSource sample = UnpackSample(Path("sample"));
   TSource database = sample;

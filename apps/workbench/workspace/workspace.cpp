@@ -22,6 +22,13 @@ struct TTexts {
 
 QString Words(const EException& error) { return ToQString(error.Message()); }
 
+/// Queries are shared by people who have a model each: the same column is to be the same one for all of them.
+TFillOptions FillOptionsOf(TDatabaseKind kind) {
+  TFillOptions options = FillOptionsFor(kind);
+  options.FieldIDsFromNames = true;
+  return options;
+}
+
 /// The password of the URL itself goes before the one given.
 TConnectionUrl UrlOf(const TSource& source, const std::string& password) {
   TConnectionUrl url = ParseConnectionUrl(source.Url);
@@ -106,7 +113,7 @@ void TWorkspace::KeepNewModel() {
 
 void TWorkspace::FillModelAnew() {
   ApplyFormatPreset(FModel.SQLFormats(), FormatPresetOf(FUrl.Kind));
-  const TFillReport report = FillModel(FModel, FInfo, FillOptionsFor(FUrl.Kind));
+  const TFillReport report = FillModel(FModel, FInfo, FillOptionsOf(FUrl.Kind));
   FNotes = report.Notes;
   if (FUrl.Kind == dkODBC && FModel.GetTableCount() > 1) {
     FNotes.Add(
@@ -166,7 +173,7 @@ void TWorkspace::SaveModelAs(const QString& file) {
 
 TFillReport TWorkspace::RefreshModel() {
   FInfo.Update();
-  return FillModel(FModel, FInfo, FillOptionsFor(FUrl.Kind));
+  return FillModel(FModel, FInfo, FillOptionsOf(FUrl.Kind));
 }
 
 QString TWorkspace::QueryFolderOf(const TSource& source) const {
