@@ -82,7 +82,7 @@ if(TARGET tolvi_workbench)
   tolvi_package(
     workbench tolvi-workbench database "Compose queries on databases, see and keep their rows"
     DEPENDS libqt6sql6-sqlite
-    RECOMMENDS libqt6sql6-psql libqt6sql6-mysql
+    RECOMMENDS libqt6sql6-psql libqt6sql6-mysql qt6-translations-l10n
     SUGGESTS libqt6sql6-odbc)
 endif()
 

@@ -10,6 +10,7 @@
 #include <QSpinBox>
 
 #include "apps/workbench/workspace/settings.h"
+#include <tolvi/ui/dialogs/checkstyle.h>
 
 namespace tolvi {
 namespace {
@@ -74,6 +75,7 @@ bool EditSettings(QWidget* parent, TSettings& settings) {
   form->addRow(fragments);
   form->addRow(warning);
   form->addRow(buttons);
+  UseCheckStyle(dialog);
   if (dialog.exec() != QDialog::Accepted) return false;
   settings.Theme = static_cast<TTheme>(theme->currentIndex());
   settings.FontSize = size->value() == size->minimum() ? 0 : size->value();
