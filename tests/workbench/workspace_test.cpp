@@ -254,6 +254,38 @@ TEST_F(Workspace, KeepsPasswordsOutOfWhatIsWritten) {
   EXPECT_EQ(SourceFromJson(json).Url, "");
 }
 
+TEST_F(Workspace, KeepsWhatTwoProgramsChangeInTheSettings) {
+  const auto entry = [](const char* key) { return QLatin1String(key); };
+  TSettingsFile first(Path("settings.json"));
+  first.Settings.Remember({"sqlite:old"});
+  first.Settings.Orders = {{entry("a"), 1}, {entry("gone"), 1}};
+  first.Settings.Params = {entry("p"), entry("1")};
+  first.Save();
+  TSettingsFile second(Path("settings.json"));
+  first.Settings.Remember({"sqlite:first"});
+  first.Settings.Theme = thDark;
+  first.Settings.FontSize = 12;
+  first.Settings.Orders.insert(entry("b"), 1);
+  first.Settings.Params.append(entry("q")), first.Settings.Params.append(entry("2"));
+  first.Save();
+  second.Settings.Remember({"sqlite:second"});
+  second.Settings.FontSize = 14;
+  second.Settings.Orders.insert(entry("a"), 2);
+  second.Settings.Orders.remove(entry("gone"));
+  second.Save();
+  const TSettings all = TSettingsFile(Path("settings.json")).Settings;
+  std::string recent;
+  for (const TSource& source : all.Recent) recent += source.Url + " ";
+  EXPECT_EQ(recent, "sqlite:second sqlite:old sqlite:first ");
+  EXPECT_EQ(all.Theme, thDark);
+  EXPECT_EQ(all.FontSize, 14) << "the last one wins where both have changed the same";
+  EXPECT_EQ(all.Orders, (QJsonObject{{entry("a"), 2}, {entry("b"), 1}}));
+  EXPECT_EQ(all.Params, (QJsonArray{entry("p"), entry("1"), entry("q"), entry("2")}));
+  EXPECT_EQ(second.Settings.Theme, thDark);
+  second.Save();
+  EXPECT_EQ(TSettingsFile(Path("settings.json")).Settings.Orders, all.Orders);
+}
+
 TEST_F(Workspace, RemembersSettingsAndKeepsAFileItCannotRead) {
   const QString file = Path("settings.json");
   const TSource source{"sqlite:/a.db", "a.model", "queries", true};

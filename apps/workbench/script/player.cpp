@@ -206,7 +206,8 @@ class TPlayer final : public QObject {
 
   void Key(const QString& rest) {
     const QKeySequence keys(rest.section(u' ', 0, 0));
-    if (keys.isEmpty() || keys[0].key() == Qt::Key_unknown) throw EScriptError(QStringLiteral("%1 is no key").arg(rest));
+    if (keys.isEmpty() || keys[0].key() == Qt::Key_unknown)
+      throw EScriptError(QStringLiteral("%1 is no key").arg(rest));
     const int count = rest.contains(u' ') ? rest.section(u' ', 1, 1).toInt() : 1;
     for (int i = 0; i < count; ++i) {
       QTest::keyClick(KeyWindow(FProgram), keys[0].key(), keys[0].keyboardModifiers());

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <algorithm>
+#include <utility>
 
 #include <tolvi/foundation/errors.h>
 #include <tolvi/foundation/files.h>
@@ -19,26 +20,25 @@ constexpr QLatin1String Themes[] = {QLatin1String("system"), QLatin1String("ligh
 
 QString Base64(const QByteArray& bytes) { return QString::fromLatin1(bytes.toBase64()); }
 
-QByteArray ToJson(const TSettings& settings) {
+QJsonObject ToJson(const TSettings& settings) {
   QJsonArray recent;
   for (const TSource& source : settings.Recent) recent.append(ToJson(source));
-  const QJsonObject json{{QStringLiteral("language"), settings.Language},
-                         {QStringLiteral("theme"), Themes[settings.Theme]},
-                         {QStringLiteral("fontSize"), settings.FontSize},
-                         {QStringLiteral("preview"), settings.Preview},
-                         {QStringLiteral("previewRows"), settings.PreviewRows},
-                         {QStringLiteral("maxRows"), static_cast<qint64>(settings.MaxRows)},
-                         {QStringLiteral("allowSQLFragments"), settings.AllowSQLFragments},
-                         {QStringLiteral("recent"), recent},
-                         {QStringLiteral("lastQueries"), settings.LastQueries},
-                         {QStringLiteral("geometry"), Base64(settings.Geometry)},
-                         {QStringLiteral("layout"), Base64(settings.Layout)},
-                         {QStringLiteral("exportFolder"), settings.ExportFolder},
-                         {QStringLiteral("exportFormat"), settings.ExportFormat},
-                         {QStringLiteral("orders"), settings.Orders},
-                         {QStringLiteral("syntaxes"), settings.Syntaxes},
-                         {QStringLiteral("params"), settings.Params}};
-  return QJsonDocument(json).toJson();
+  return {{QStringLiteral("language"), settings.Language},
+          {QStringLiteral("theme"), Themes[settings.Theme]},
+          {QStringLiteral("fontSize"), settings.FontSize},
+          {QStringLiteral("preview"), settings.Preview},
+          {QStringLiteral("previewRows"), settings.PreviewRows},
+          {QStringLiteral("maxRows"), static_cast<qint64>(settings.MaxRows)},
+          {QStringLiteral("allowSQLFragments"), settings.AllowSQLFragments},
+          {QStringLiteral("recent"), recent},
+          {QStringLiteral("lastQueries"), settings.LastQueries},
+          {QStringLiteral("geometry"), Base64(settings.Geometry)},
+          {QStringLiteral("layout"), Base64(settings.Layout)},
+          {QStringLiteral("exportFolder"), settings.ExportFolder},
+          {QStringLiteral("exportFormat"), settings.ExportFormat},
+          {QStringLiteral("orders"), settings.Orders},
+          {QStringLiteral("syntaxes"), settings.Syntaxes},
+          {QStringLiteral("params"), settings.Params}};
 }
 
 /// What is missing or out of range keeps its default.
@@ -73,6 +73,40 @@ TSettings FromJson(const QJsonObject& json) {
   return settings;
 }
 
+// What two programs change in one file: `base` is what both began with, `mine` wins where both have changed the same.
+
+QJsonObject Merged(const QJsonObject& base, const QJsonObject& mine, const QJsonObject& theirs) {
+  QJsonObject merged = theirs;
+  for (const QString& key : base.keys()) {
+    if (!mine.contains(key)) merged.remove(key);
+  }
+  for (auto entry = mine.begin(); entry != mine.end(); ++entry) {
+    const QString key = entry.key();
+    const QJsonValue was = base.value(key), own = entry.value(), other = theirs.value(key);
+    if (own == was && theirs.contains(key)) continue;
+    merged.insert(key, own.isObject() && other.isObject()
+                           ? QJsonValue(Merged(was.toObject(), own.toObject(), other.toObject()))
+                           : own);
+  }
+  return merged;
+}
+
+/// Lists in the order of their use, items of `size` values: mine first, then what is new among the others.
+QJsonArray MergedList(const QJsonArray& base, const QJsonArray& mine, const QJsonArray& theirs, qsizetype size) {
+  const auto has = [size](const QJsonArray& list, const QJsonValue& item) {
+    for (qsizetype i = 0; i < list.size(); i += size) {
+      if (list.at(i) == item) return true;
+    }
+    return false;
+  };
+  QJsonArray merged = mine;
+  for (qsizetype i = 0; i + size <= theirs.size(); i += size) {
+    if (has(base, theirs.at(i)) || has(mine, theirs.at(i))) continue;
+    for (qsizetype part = 0; part < size; ++part) merged.append(theirs.at(i + part));
+  }
+  return merged;
+}
+
 }  // namespace
 
 void TSettings::Remember(const TSource& source) {
@@ -87,17 +121,16 @@ void TSettings::Remember(const TSource& source) {
 TSettingsFile::TSettingsFile(QString file) : FFile(std::move(file)) {
   QFile stored(FFile);
   if (!stored.open(QIODevice::ReadOnly)) return;
-  FSaved = stored.readAll();
   QJsonParseError error;
-  const QJsonDocument json = QJsonDocument::fromJson(FSaved, &error);
+  const QJsonDocument json = QJsonDocument::fromJson(stored.readAll(), &error);
   if (json.isObject()) {
     Settings = FromJson(json.object());
+    FSaved = ToJson(Settings);
     return;
   }
   const QString broken = FFile + QStringLiteral(".broken");
   QFile::remove(broken);
   QFile::rename(FFile, broken);
-  FSaved.clear();
   FNote = QCoreApplication::translate("tolvi::TSettingsFile",
                                       "The settings could not be read (%1): they are the default ones now. The file "
                                       "is kept as %2.")
@@ -105,11 +138,22 @@ TSettingsFile::TSettingsFile(QString file) : FFile(std::move(file)) {
 }
 
 void TSettingsFile::Save() {
-  const QByteArray text = ToJson(Settings);
-  if (text == FSaved) return;
+  const QJsonObject mine = ToJson(Settings);
+  if (mine == FSaved) return;
+  QJsonObject all = mine;
+  if (QFile stored(FFile); stored.open(QIODevice::ReadOnly)) {
+    const QJsonObject theirs = QJsonDocument::fromJson(stored.readAll()).object();
+    all = Merged(FSaved, mine, theirs);
+    for (const auto& [key, size] : {std::pair{QLatin1String("recent"), 1}, {QLatin1String("params"), 2}}) {
+      all.insert(key,
+                 MergedList(FSaved.value(key).toArray(), mine.value(key).toArray(), theirs.value(key).toArray(), size));
+    }
+  }
   QDir().mkpath(QFileInfo(FFile).absolutePath());
+  const QByteArray text = QJsonDocument(all).toJson();
   WriteFileAtomically(ToPath(FFile), std::string_view(text.constData(), static_cast<std::size_t>(text.size())));
-  FSaved = text;
+  Settings = FromJson(all);
+  FSaved = ToJson(Settings);
 }
 
 }  // namespace tolvi

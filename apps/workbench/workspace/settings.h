@@ -47,12 +47,14 @@ class TSettingsFile final {
 
   const QString& GetNote() const { return FNote; }
   TSettings Settings;
-  /// Writes them whole or not at all, if they have changed. Raises `EFileError`.
+  /// Writes them whole or not at all, if they have changed. What another program has changed meanwhile in the same file
+  /// stays, and is taken over. Raises `EFileError`.
   void Save();
 
  private:
   QString FFile, FNote;
-  QByteArray FSaved;
+  // As they were read or written last.
+  QJsonObject FSaved;
 };
 
 }  // namespace tolvi
