@@ -16,6 +16,12 @@ class TOLVI_CONNECT_API EConnectError : public EException {
   using EException::EException;
 };
 
+/// A connection was refused for want of a password, or of another one.
+class TOLVI_CONNECT_API EPasswordError final : public EConnectError {
+ public:
+  using EConnectError::EConnectError;
+};
+
 /// The databases that a URL can name.
 enum TDatabaseKind : std::uint8_t { dkSQLite, dkPostgreSQL, dkMySQL, dkODBC };
 

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <filesystem>
+#include <initializer_list>
 #include <utility>
 
 #include <tolvi/connect/sqlaccess.h>
@@ -25,8 +26,23 @@ constexpr TServer MySQL{"MYSQL_PWD", "check that the server runs, and host, data
 
 const TServer& ServerOf(TDatabaseKind kind) { return kind == dkMySQL ? MySQL : PostgreSQL; }
 
+template <typename TError = EConnectError>
 [[noreturn]] void Refuse(const TConnectionUrl& url, std::string_view words, std::string_view hint) {
-  throw EConnectError("Cannot open %s: %s: %s", {url.Shown(), words, hint});
+  throw TError("Cannot open %s: %s: %s", {url.Shown(), words, hint});
+}
+
+/// Whether the error has one of these numbers; a driver that has met several errors gives all.
+bool HasNumber(const QSqlError& error, std::initializer_list<const char*> numbers) {
+  const QStringList given = error.nativeErrorCode().split(QLatin1Char(';'));
+  return std::any_of(numbers.begin(), numbers.end(),
+                     [&given](const char* number) { return given.contains(QLatin1String(number)); });
+}
+
+/// Whether the words of the error have one of these.
+bool HasWord(const QSqlError& error, std::initializer_list<const char*> words) {
+  const QString text = error.databaseText() + QLatin1Char(' ') + error.driverText();
+  return std::any_of(words.begin(), words.end(),
+                     [&text](const char* word) { return text.contains(QString::fromUtf8(word), Qt::CaseInsensitive); });
 }
 
 std::string NewName() {
@@ -130,13 +146,15 @@ class TOpening final {
 
   void OpenWithPassword(std::string_view hint) {
     if (FDatabase.open()) return;
+    if (WantsPassword(FDatabase.lastError()) && FUrl.Password.empty() && FOptions.OnPasswordRequest) {
+      if (const auto given = FOptions.OnPasswordRequest(FUrl)) {
+        FDatabase.setPassword(ToQString(FUrl.Kind == dkODBC ? OdbcValue(*given) : *given));
+        if (FDatabase.open()) return;
+      }
+    }
     const QSqlError error = FDatabase.lastError();
-    const auto given = WantsPassword(error) && FUrl.Password.empty() && FOptions.OnPasswordRequest
-                           ? FOptions.OnPasswordRequest(FUrl)
-                           : std::nullopt;
-    if (!given) Refuse(FUrl, WordsOf(error), hint);
-    FDatabase.setPassword(ToQString(FUrl.Kind == dkODBC ? OdbcValue(*given) : *given));
-    if (!FDatabase.open()) Refuse(FUrl, WordsOf(FDatabase.lastError()), hint);
+    if (WantsPassword(error)) Refuse<EPasswordError>(FUrl, WordsOf(error), hint);
+    Refuse(FUrl, WordsOf(error), hint);
   }
 
   QString ConnectOptions() {
@@ -164,11 +182,13 @@ class TOpening final {
   }
 
   bool WantsPassword(const QSqlError& error) const {
-    if (FUrl.Kind == dkMySQL) return error.nativeErrorCode() == QLatin1String("1045");
-    if (FUrl.Kind == dkODBC && error.databaseText().contains(QLatin1String("login"), Qt::CaseInsensitive)) return true;
-    // The client library says it so in every language, the server in its own.
-    return error.databaseText().contains(QLatin1String("password")) ||
-           error.driverText().contains(QLatin1String("password"));
+    // Of MySQL: access denied, also to users for whom only the system can vouch; of SQL Server: login failed.
+    const bool isDenied = HasNumber(error, {"1045", "1698"});
+    if (FUrl.Kind == dkMySQL) return isDenied;
+    if (FUrl.Kind == dkODBC && (isDenied || HasNumber(error, {"18456"}) || HasWord(error, {"login"}))) return true;
+    // No code comes with it. The client library says it so in every language, the server in its own.
+    return HasWord(error, {"password", "passwort", "mot de passe", "парол", "lösenord", "パスワード", "პაროლ", "senha",
+                           "hasł", "parola", "şifre", "密码", "비밀번호"});
   }
 
   void SetUpPostgreSQL() {

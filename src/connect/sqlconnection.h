@@ -32,7 +32,7 @@ struct TSqlConnectOptions {
 /// program: a host that has its own makes it before.
 class TOLVI_CONNECT_API TSqlConnection final {
  public:
-  /// Raises `EConnectError` with the database's words and what to do.
+  /// Raises `EConnectError` with the database's words and what to do; `EPasswordError` where a password may help.
   explicit TSqlConnection(const TConnectionUrl& url, const TSqlConnectOptions& options = {});
   ~TSqlConnection();
   TSqlConnection(const TSqlConnection&) = delete;
