@@ -272,6 +272,34 @@ TEST_F(ConnectionDialog, GivesPasswordsAndKeepsThemNowhere) {
   EXPECT_TRUE(Vault.Texts.isEmpty());
 }
 
+TEST_F(ConnectionDialog, GivesThePasswordThatStandsAmongTheAttributesOfASource) {
+  ChooseKind(3);
+  Type("source", QStringLiteral("Driver={SQLite3};Database=/x;UID=anna;PWD=s3cret"));
+  ASSERT_TRUE(Dialog.GetGiven());
+  EXPECT_EQ(Dialog.GetGiven()->Password, "s3cret");
+  EXPECT_EQ(Url(), "odbc:Driver={SQLite3};Database=/x;UID=anna");
+}
+
+TEST_F(ConnectionDialog, ForgetsWhatTheUserWantsRememberedNoMore) {
+  Vault.Texts.insert(QStringLiteral("postgresql://anna@db/shop"), QStringLiteral("s3cret"));
+  auto& remember = Find<QCheckBox>("remember");
+  Dialog.SetUrl(ParseConnectionUrl("postgresql://anna@db/shop"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return remember.isChecked(); }));
+  EXPECT_FALSE(Dialog.GetGiven()) << "all stays as it is";
+  Type("password", QStringLiteral("new"));
+  EXPECT_TRUE(Dialog.GetGiven()->IsForKeychain) << "the new one comes in its place";
+  Type("password", {});
+  remember.click();
+  ASSERT_TRUE(Dialog.GetGiven());
+  EXPECT_EQ(Dialog.GetGiven()->Password, "s3cret");
+  EXPECT_FALSE(Dialog.GetGiven()->IsForKeychain);
+  // The choice was for this connection.
+  Dialog.SetUrl(ParseConnectionUrl("postgresql://bob@db/shop"));
+  QTest::qWait(300);
+  Dialog.SetUrl(ParseConnectionUrl("postgresql://anna@db/shop"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return remember.isChecked(); }));
+}
+
 TEST(ConnectionDialogAlone, SaysThatThereIsNoKeychain) {
   TVault vault{.Fault = QStringLiteral("no such service")};
   const auto secrets = SecretsIn(vault);
@@ -297,6 +325,8 @@ TEST(ConnectionTest, EndsWhereAServerIsSilentAndIsNotHeardOnceStopped) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return !words.isEmpty(); }));
   EXPECT_EQ(words, QStringLiteral("There was no answer within a second: check host and port."));
   EXPECT_LT(time.elapsed(), 3000);
+  EXPECT_EQ(FromQString(TConnectionTest::NoAnswer(dkODBC, 2)),
+            "There was no answer within 2 second(s): check the data source and its driver.");
   words.clear();
   test.Start({.Kind = dkSQLite, .Database = "/nowhere"}, 1);
   test.Stop();
@@ -398,7 +428,9 @@ TEST(Passwords, AreAskedForWithWhatTheServerSaid) {
   const TConnectionUrl url = ParseConnectionUrl("postgresql://anna@db/shop");
   TVault vault;
   const auto secrets = SecretsIn(vault);
-  const auto ask = [&](Qt::Key key, const QString& fault, bool remember) {
+  bool wasChecked = false;
+  const auto ask = [&](Qt::Key key, const QString& fault, bool remember,
+                       const std::optional<TGivenPassword>& refused = {}) {
     QTimer timer;
     timer.callOnTimeout([&] {
       QWidget* dialog = QApplication::activeModalWidget();
@@ -406,11 +438,13 @@ TEST(Passwords, AreAskedForWithWhatTheServerSaid) {
       timer.stop();
       EXPECT_EQ(dialog->findChild<QLabel*>(QStringLiteral("password.fault")) != nullptr, !fault.isEmpty());
       QTest::keyClicks(dialog->findChild<QLineEdit*>(QStringLiteral("password.password")), QStringLiteral("s3cret"));
-      dialog->findChild<QCheckBox*>(QStringLiteral("password.remember"))->setChecked(remember);
+      auto* box = dialog->findChild<QCheckBox*>(QStringLiteral("password.remember"));
+      wasChecked = box->isChecked();
+      box->setChecked(remember);
       QTest::keyClick(dialog, key);
     });
     timer.start(5);
-    return AskPassword(nullptr, url, *secrets, fault);
+    return AskPassword(nullptr, url, *secrets, fault, refused);
   };
   EXPECT_FALSE(ask(Qt::Key_Escape, {}, false));
   for (const bool remember : {false, true}) {
@@ -418,13 +452,18 @@ TEST(Passwords, AreAskedForWithWhatTheServerSaid) {
     ASSERT_TRUE(given);
     EXPECT_EQ(given->Password, "s3cret");
     EXPECT_EQ(given->IsForKeychain, remember);
+    ask(Qt::Key_Escape, QStringLiteral("password authentication failed"), false, given);
+    EXPECT_EQ(wasChecked, remember) << "as it was chosen the first time";
   }
   EXPECT_EQ(secrets->InSession(url), std::nullopt) << "nobody knows yet whether it is the right one";
 
   std::string told;
   const auto tell = [&](const QString& words) { told = FromQString(words); };
   KeepPassword(*secrets, url, {"s3cret", true}, tell);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return vault.Texts.size() == 1; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return secrets->IsInKeychain(url); }));
+  EXPECT_EQ(vault.Texts.size(), 1);
+  ask(Qt::Key_Escape, {}, false);
+  EXPECT_TRUE(wasChecked) << "the keychain has one";
   // The user wants it in the keychain no more.
   KeepPassword(*secrets, url, {"other", false}, tell);
   EXPECT_EQ(secrets->InSession(url), "other");

@@ -214,8 +214,12 @@ void T_dlgConnection::SetRecent(std::vector<TConnectionUrl> urls) {
 TConnectionUrl T_dlgConnection::GetUrl() const { return FForm->GetUrl(); }
 
 std::optional<TGivenPassword> T_dlgConnection::GetGiven() const {
-  const auto typed = FForm->TypedPassword();
-  return typed ? std::optional(TGivenPassword{*typed, FForm->GetRemember()}) : std::nullopt;
+  const TConnectionUrl url = FForm->GetUrl();
+  const bool isRemembered = FForm->GetRemember();
+  // One that is known may only change its place.
+  const bool isMoved = !url.Password.empty() && isRemembered != FSecrets.IsInKeychain(url);
+  if (!FForm->TypedPassword() && !isMoved) return std::nullopt;
+  return TGivenPassword{url.Password, isRemembered};
 }
 
 void T_dlgConnection::SetUrl(const TConnectionUrl& url) {
@@ -272,6 +276,9 @@ void T_dlgConnection::ShowFault(const QString& fault) {
     FTest->setText(tr("&Test"));
   }
   FTold->hide();
+  // What is known stays while only the password is typed.
+  if (FFindUrl == WithoutPassword(FForm->GetUrl())) return;
+  FFindUrl.reset();
   FForm->SetKnownPassword(std::nullopt);
   FFindTimer->start();
 }
@@ -279,8 +286,10 @@ void T_dlgConnection::ShowFault(const QString& fault) {
 void T_dlgConnection::FindPassword() {
   const TConnectionUrl url = WithoutPassword(FForm->GetUrl());
   if (url.Kind == dkSQLite || !FOk->isEnabled() || !FForm->Fault().isEmpty()) return;
+  FFindUrl = url;
   FSecrets.Find(url, [self = QPointer(this), url](const std::optional<std::string>& password) {
-    if (self && WithoutPassword(self->FForm->GetUrl()) == url) self->FForm->SetKnownPassword(password);
+    if (!self || WithoutPassword(self->FForm->GetUrl()) != url) return;
+    self->FForm->SetKnownPassword(password, self->FSecrets.IsInKeychain(url));
   });
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "apps/workbench/connection/passworddlg.h"
@@ -38,7 +39,8 @@ class T_dlgConnection final : public QDialog {
   void SetRecent(std::vector<TConnectionUrl> urls);
   /// With the password that was typed, or is known.
   TConnectionUrl GetUrl() const;
-  /// The password that was typed, if one was. It is kept nowhere: see `KeepPassword`.
+  /// The password that was typed, if one was, or the one that is known, if it is to be remembered or no more. It is
+  /// kept nowhere: see `KeepPassword`.
   std::optional<TGivenPassword> GetGiven() const;
   void SetUrl(const TConnectionUrl& url);
   /// How long a test may take. Default 10 seconds.
@@ -76,6 +78,8 @@ class T_dlgConnection final : public QDialog {
   QPushButton *FTest, *FOk;
   QProgressBar* FBusy;
   QTimer* FFindTimer;
+  // Without a password: that for which the known one was looked for.
+  std::optional<TConnectionUrl> FFindUrl;
   std::unique_ptr<TConnectionTest> FConnectionTest;
   TDatabaseKind FShownKind = dkSQLite;
   int FTestSeconds = 10;

@@ -93,6 +93,7 @@ void TConnectionForm::MakePasswordRows() {
   FPassword->setEchoMode(QLineEdit::Password);
   FRemember = new QCheckBox(tr("&Remember the password in the keychain"), this);
   FRemember->setObjectName(QStringLiteral("connection.remember"));
+  connect(FRemember, &QCheckBox::clicked, this, [this] { FRememberChosen = true; });
   FRememberTold = new QLabel(this);
   FRememberTold->setObjectName(QStringLiteral("connection.rememberTold"));
   FRememberTold->setTextFormat(Qt::PlainText);
@@ -129,6 +130,8 @@ void TConnectionForm::Changed() {
   if (const auto handler = OnChange) handler();
 }
 
+namespace {
+
 /// A user and a password among the attributes of a data source are what the other fields are for.
 void TakeAttributes(TConnectionUrl& url) {
   try {
@@ -140,6 +143,8 @@ void TakeAttributes(TConnectionUrl& url) {
     // Half typed: `Fault` says what is wrong.
   }
 }
+
+}  // namespace
 
 TConnectionUrl TConnectionForm::GetUrl() const {
   const TKindFields& kind = Kinds[FKind->currentIndex()];
@@ -180,7 +185,10 @@ void TConnectionForm::SetUrl(const TConnectionUrl& url) {
   FShowing = false;
 }
 
-void TConnectionForm::ForgetPassword() { FPassword->clear(); }
+void TConnectionForm::ForgetPassword() {
+  FPassword->clear();
+  FRememberChosen = false;
+}
 
 QString TConnectionForm::Fault() const {
   const TConnectionUrl url = GetUrl();
@@ -208,11 +216,17 @@ void TConnectionForm::GoToFault() {
 }
 
 std::optional<std::string> TConnectionForm::TypedPassword() const {
+  if (Kinds[FKind->currentIndex()].HasSource) {
+    TConnectionUrl url{.Kind = dkODBC, .Database = FromQString(FSource->text().trimmed())};
+    TakeAttributes(url);
+    if (!url.Password.empty()) return url.Password;
+  }
   if (FPassword->text().isEmpty() || !Kinds[FKind->currentIndex()].HasUser) return std::nullopt;
   return FromQString(FPassword->text());
 }
 
-void TConnectionForm::SetKnownPassword(const std::optional<std::string>& password) {
+void TConnectionForm::SetKnownPassword(const std::optional<std::string>& password, bool isInKeychain) {
+  if (!FRememberChosen) FRemember->setChecked(isInKeychain);
   FKnownPassword = password.value_or("");
   FPassword->setPlaceholderText(password ? tr("known") : QString());
 }

@@ -36,8 +36,8 @@ class TConnectionForm final : public QWidget {
 
   /// What the user has typed; nothing when it was not touched.
   std::optional<std::string> TypedPassword() const;
-  /// A password that is used unless another one is typed; not shown.
-  void SetKnownPassword(const std::optional<std::string>& password);
+  /// A password that is used unless another one is typed, and whether the keychain has it; not shown.
+  void SetKnownPassword(const std::optional<std::string>& password, bool isInKeychain = false);
 
   /// Room for each kind, so that a dialog keeps its height when another one is chosen.
   QSize sizeHint() const override;
@@ -63,6 +63,8 @@ class TConnectionForm final : public QWidget {
   QCheckBox* FRemember;
   QLabel* FRememberTold;
   std::string FKnownPassword;
+  // The user has said whether to remember the password.
+  bool FRememberChosen = false;
   QSize FRoom;
   bool FShowing = false;
 };

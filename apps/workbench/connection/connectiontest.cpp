@@ -72,10 +72,22 @@ TAnswer Connect(const TConnectionUrl& url, int seconds) {
 TConnectionTest::TConnectionTest(QObject* parent) : QObject(parent), FTimer(new QTimer(this)) {
   constexpr int MillisecondsPerSecond = 1000;
   FTimer->setSingleShot(true);
-  connect(FTimer, &QTimer::timeout, this, [this] {
-    End(false, tr("There was no answer within %n second(s): check host and port.", nullptr,
-                  FTimer->interval() / MillisecondsPerSecond));
-  });
+  connect(FTimer, &QTimer::timeout, this,
+          [this] { End(false, NoAnswer(FKind, FTimer->interval() / MillisecondsPerSecond)); });
+}
+
+QString TConnectionTest::NoAnswer(TDatabaseKind kind, int seconds) {
+  switch (kind) {
+    case dkSQLite:
+      return tr("There was no answer within %n second(s): check that the file can be read and no program locks it.",
+                nullptr, seconds);
+    case dkODBC:
+      return tr("There was no answer within %n second(s): check the data source and its driver.", nullptr, seconds);
+    case dkPostgreSQL:
+    case dkMySQL:
+      break;
+  }
+  return tr("There was no answer within %n second(s): check host and port.", nullptr, seconds);
 }
 
 bool TConnectionTest::IsRunning() const { return FTimer->isActive(); }
@@ -83,6 +95,7 @@ bool TConnectionTest::IsRunning() const { return FTimer->isActive(); }
 void TConnectionTest::Start(const TConnectionUrl& url, int seconds) {
   constexpr int MillisecondsPerSecond = 1000;
   Stop();
+  FKind = url.Kind;
   FTimer->start(seconds * MillisecondsPerSecond);
   const QPointer<TConnectionTest> self = this;
   const auto tell = [self, number = FNumber](const TAnswer& answer) {

@@ -22,6 +22,8 @@ class TConnectionTest final : public QObject {
   /// `OnEnd` is not called.
   void Stop();
   bool IsRunning() const;
+  /// That a database of that kind has not answered, and what to look at.
+  static QString NoAnswer(TDatabaseKind kind, int seconds);
   /// The words are the database's when it did not work.
   std::function<void(bool works, const QString& words)> OnEnd;
 
@@ -29,6 +31,7 @@ class TConnectionTest final : public QObject {
   void End(bool works, const QString& words);
 
   QTimer* FTimer;
+  TDatabaseKind FKind = dkSQLite;
   unsigned FNumber = 0;
 };
 

@@ -22,7 +22,7 @@ constexpr int KeychainMilliseconds = 2000;
 
 class TPasswordDialog final : public QDialog {
  public:
-  TPasswordDialog(QWidget* parent, const TConnectionUrl& url, bool hasKeychain, const QString& fault)
+  TPasswordDialog(QWidget* parent, const TConnectionUrl& url, bool hasKeychain, bool isRemembered, const QString& fault)
       : QDialog(parent), FPassword(new QLineEdit(this)), FRemember(new QCheckBox(this)) {
     setObjectName(QStringLiteral("password"));
     setWindowTitle(QObject::tr("Password"));
@@ -42,6 +42,7 @@ class TPasswordDialog final : public QDialog {
     FRemember->setObjectName(QStringLiteral("password.remember"));
     FRemember->setText(QObject::tr("&Remember it in the keychain"));
     FRemember->setEnabled(hasKeychain);
+    FRemember->setChecked(isRemembered);
     form->addRow(FRemember);
     if (!hasKeychain) {
       form->addRow(Told(QObject::tr("This system has no keychain: it is forgotten when the program ends.")));
@@ -74,9 +75,10 @@ class TPasswordDialog final : public QDialog {
 }  // namespace
 
 std::optional<TGivenPassword> AskPassword(QWidget* parent, const TConnectionUrl& url, TSecrets& secrets,
-                                          const QString& fault) {
+                                          const QString& fault, const std::optional<TGivenPassword>& refused) {
   const bool hasKeychain = secrets.WaitForKeychain(KeychainMilliseconds) == TSecrets::kcReady;
-  const QPointer<TPasswordDialog> dialog = new TPasswordDialog(parent, url, hasKeychain, fault);
+  const bool isRemembered = refused ? refused->IsForKeychain : secrets.IsInKeychain(url);
+  const QPointer<TPasswordDialog> dialog = new TPasswordDialog(parent, url, hasKeychain, isRemembered, fault);
   const bool isTaken = dialog->exec() == QDialog::Accepted;
   if (!dialog) return std::nullopt;
   TGivenPassword given{dialog->Password(), dialog->IsRemembered()};
@@ -87,8 +89,8 @@ std::optional<TGivenPassword> AskPassword(QWidget* parent, const TConnectionUrl&
 void KeepPassword(TSecrets& secrets, const TConnectionUrl& url, const TGivenPassword& given,
                   const std::function<void(const QString& words)>& told) {
   if (!given.IsForKeychain) {
-    // One that it has is another one, or is not to be remembered any more.
-    if (secrets.GetKeychain() == TSecrets::kcReady) secrets.Forget(url);
+    // It was shown as remembered, and is not to be any more.
+    if (secrets.IsInKeychain(url)) secrets.Forget(url);
     return secrets.KeepInSession(url, given.Password);
   }
   secrets.KeepInKeychain(url, given.Password, [told](const QString& fault) {

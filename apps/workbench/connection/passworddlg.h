@@ -18,13 +18,13 @@ struct TGivenPassword {
   bool IsForKeychain = false;
 };
 
-/// Asks for the password of a connection. Nothing: the user gave up. `fault` is what the server said to the one before.
-/// It is kept nowhere: whether it is the right one shows later (see `KeepPassword`).
+/// Asks for the password of a connection. Nothing: the user gave up. `fault` is what the server said to the one before,
+/// `refused`, if that was given here. It is kept nowhere: whether it is the right one shows later (see `KeepPassword`).
 std::optional<TGivenPassword> AskPassword(QWidget* parent, const TConnectionUrl& url, TSecrets& secrets,
-                                          const QString& fault = {});
+                                          const QString& fault = {}, const std::optional<TGivenPassword>& refused = {});
 
-/// Keeps the password, which has proved right, where the user wants it and nowhere else; `told` gets what there is to
-/// say when the keychain does not take it.
+/// Keeps the password, which has proved right, where the user wants it and nowhere else: one that the keychain is known
+/// to have is forgotten. `told` gets what there is to say when the keychain does not take it.
 void KeepPassword(TSecrets& secrets, const TConnectionUrl& url, const TGivenPassword& given,
                   const std::function<void(const QString& words)>& told);
 

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <utility>
 
+#include <tolvi/ui/controls/waitcursor.h>
 #include <tolvi/ui/qtext.h>
 
 namespace tolvi {
@@ -39,12 +40,17 @@ TSecrets::TKeychainState TSecrets::WaitForKeychain(int milliseconds) {
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
   const auto handler = std::exchange(OnKeychain, {});
   OnKeychain = [&loop] { loop.quit(); };
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  {
+    const TWaitCursor wait;
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+  }
   if (!self) return kcNone;
   OnKeychain = handler;
   if (FState != kcUnknown && handler) handler();
   return self ? FState : kcNone;
 }
+
+bool TSecrets::IsInKeychain(const TConnectionUrl& url) const { return FInKeychain.count(url.Shown()) != 0; }
 
 std::optional<std::string> TSecrets::InSession(const TConnectionUrl& url) const {
   const auto found = FSession.find(url.Shown());
@@ -58,6 +64,7 @@ void TSecrets::Find(const TConnectionUrl& url, TFound found) {
     return;
   }
   FKeychain->Read(KeyOf(url), Guarded([this, url, found = std::move(found)](const TKeychainAnswer& answer) {
+                    if (answer.IsKnown) FInKeychain.insert(url.Shown());
                     // One that was typed meanwhile is the newer one.
                     if (const auto typed = InSession(url)) return found(typed);
                     if (!answer.IsKnown) return found(std::nullopt);
@@ -81,6 +88,7 @@ std::optional<std::string> TSecrets::WaitFor(const TConnectionUrl& url, int mill
     if (wait->Loop) wait->Loop->quit();
   });
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  const TWaitCursor cursor;
   loop.exec(QEventLoop::ExcludeUserInputEvents);
   return wait->Password;
 }
@@ -91,13 +99,16 @@ void TSecrets::KeepInSession(const TConnectionUrl& url, const std::string& passw
 
 void TSecrets::KeepInKeychain(const TConnectionUrl& url, const std::string& password, TDone done) {
   KeepInSession(url, password);
-  FKeychain->Write(KeyOf(url), ToQString(password), Guarded([done = std::move(done)](const TKeychainAnswer& answer) {
+  FKeychain->Write(KeyOf(url), ToQString(password),
+                   Guarded([this, url, done = std::move(done)](const TKeychainAnswer& answer) {
+                     if (answer.Fault.isEmpty()) FInKeychain.insert(url.Shown());
                      if (done) done(answer.Fault);
                    }));
 }
 
 void TSecrets::Forget(const TConnectionUrl& url, TDone done) {
   FSession.erase(url.Shown());
+  FInKeychain.erase(url.Shown());
   FKeychain->Delete(KeyOf(url), Guarded([this, done = std::move(done)](const TKeychainAnswer& answer) {
                       if (done) done(FState == kcNone ? QString() : answer.Fault);
                     }));

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "apps/workbench/connection/keychain.h"
@@ -43,6 +44,8 @@ class TSecrets final : public QObject {
   /// As `Find`, but waits for the keychain, though no longer than this: it may ask its user. A later answer is kept for
   /// the session.
   std::optional<std::string> WaitFor(const TConnectionUrl& url, int milliseconds);
+  /// Whether the keychain is known to have one, as it was asked for or kept.
+  bool IsInKeychain(const TConnectionUrl& url) const;
   /// That of the session only.
   std::optional<std::string> InSession(const TConnectionUrl& url) const;
   /// Until the program ends.
@@ -58,6 +61,8 @@ class TSecrets final : public QObject {
 
   std::unique_ptr<TKeychain> FKeychain;
   std::map<std::string, std::string> FSession;
+  // By URL, as the session's.
+  std::set<std::string> FInKeychain;
   TKeychainState FState = kcUnknown;
   QString FKeychainFault;
 };
