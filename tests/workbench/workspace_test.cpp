@@ -98,6 +98,10 @@ TEST_F(Workspace, SaysWhatCannotBeReadAndHowToMendIt) {
   source.QueriesInDatabase = true;
   TSqlConnection(ParseConnectionUrl(source.Url)).Execute("CREATE TABLE tolvi_queries (a)");
   EXPECT_EQ(FaultOf([&] { Open(source); }).find("Queries cannot be kept in this database: "), 0U);
+  source = Bare();
+  source.QueryFolder = FromQString(Path("broken.model"));
+  EXPECT_EQ(FaultOf([&] { Open(source); }),
+            source.QueryFolder + " is a file, not a folder: choose a folder for the queries");
   EXPECT_EQ(
       FaultOf([] { UnpackSample(QStringLiteral("/dev/null/sample")); }),
       "The sample cannot be put into /dev/null/sample: the folder cannot be made. The option --home names another "

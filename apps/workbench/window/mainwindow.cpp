@@ -96,6 +96,11 @@ void TMainWindow::BuildPanes() {
   statusBar()->setObjectName(QStringLiteral("status"));
 
   FQueryArea->OnChange = [this] { QueryChanged(); };
+  FQueryArea->OnError = [this](const QString& words) {
+    if (!FWorkspace || !FWorkspace->Model().GetEmpty()) return TellFault(words);
+    Tell(ToQString(TWorkspace::NoTables()),
+         {{CommandOf(QStringLiteral("model.refresh"))->text(), [this] { RefreshModel(); }}});
+  };
   FStorePane->OnMayLeave = [this] { return MayLeaveQuery(); };
   FStorePane->OnShownText = [this] {
     TStrings lines;

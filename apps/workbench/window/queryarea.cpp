@@ -68,6 +68,12 @@ TQueryArea::TQueryArea(const TStrings& titles, QWidget* parent)
       connect(shortcut, &QShortcut::activated, &action, &QAction::trigger);
     }
   }
+  FConditions->OnError = [this](TJQueryPanelView&, const QString& words) {
+    if (OnError) OnError(words);
+  };
+  FColumns->OnError = [this](TJResultFieldsPanel&, const QString& words) {
+    if (OnError) OnError(words);
+  };
   FColumns->OnChange = [this](TJResultFieldsPanel&) { ColumnsChanged(); };
 }
 

@@ -33,6 +33,8 @@ class TQueryArea final : public QWidget {
 
   /// After every change of the query, whoever made it.
   std::function<void()> OnChange;
+  /// What the user tried in one of the panes could not be done.
+  std::function<void(const QString& words)> OnError;
 
  private:
   void PanelChanged();

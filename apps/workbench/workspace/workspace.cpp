@@ -36,6 +36,12 @@ TConnectionUrl UrlOf(const TSource& source, const std::string& password) {
   return url;
 }
 
+TSqlConnectOptions OptionsFor(const TSource& source, TDatabaseKind kind) {
+  TSqlConnectOptions options{.ReadOnly = !source.QueriesInDatabase};
+  if (kind != dkSQLite) options.TimeoutSeconds = TWorkspace::ServerSeconds;
+  return options;
+}
+
 bool IsXml(const QString& file) { return file.endsWith(QStringLiteral(".xml"), Qt::CaseInsensitive); }
 
 /// So that something is to be seen at once: the first columns of the first table.
@@ -64,7 +70,7 @@ TWorkspace::TWorkspace(const TSource& source, const std::string& password, const
     : FSource(source),
       FFolder(folder),
       FUrl(UrlOf(source, password)),
-      FConnection(FUrl, TSqlConnectOptions{.ReadOnly = !source.QueriesInDatabase}),
+      FConnection(FUrl, OptionsFor(source, FUrl.Kind)),
       FInfo(FConnection.GetName()),
       FModelEditor(FModel),
       FLink(FPanel) {
@@ -121,11 +127,13 @@ void TWorkspace::FillModelAnew() {
                                "names of columns; Model > Diagram... shows them, and can draw others.",
                                nullptr, static_cast<int>(report.AddedLinks.Count()))));
   }
-  if (FModel.GetTableCount() == 0) {
-    FNotes.Add(
-        FromQString(TTexts::tr("The database has no tables that can be read. Once it has some, Model > Read new "
-                               "tables from the database finds them.")));
-  }
+  if (FModel.GetTableCount() == 0) FNotes.Add(NoTables());
+}
+
+std::string TWorkspace::NoTables() {
+  return FromQString(
+      TTexts::tr("The database has no tables that can be read. Once it has some, Model > Read new tables from the "
+                 "database finds them."));
 }
 
 void TWorkspace::LoadModel(const QString& file) {
@@ -195,7 +203,8 @@ void TWorkspace::OpenStore() {
     FStore->Open();
   } catch (const EException& error) {
     // One query that cannot be shown does not keep the others away.
-    if (!FStore->GetActive()) throw EQueryStoreError(NotKept(error));
+    // Not even other places can be chosen then.
+    if (!FStore->GetActive()) throw EQueryStoreError(FSource.QueriesInDatabase ? NotKept(error) : error.Message());
     FNotes.Add(error.Message());
   }
   if (FStore->Count() == 0) AddFirstQuery();

@@ -22,11 +22,14 @@ namespace tolvi {
 /// no window.
 class TWorkspace final {
  public:
+  /// How long it waits for a server.
+  static constexpr int ServerSeconds = 20;
+
   /// Opens all of it. `folder` is where the workbench keeps what the source has no place of its own for. A database
   /// without a model gets one that is filled from its catalogue, a store without queries a first one. What cannot be
   /// kept, as a folder is not to be written, is there all the same, and told in the notes. Waits for the database.
   /// `onStep` is called once the database is connected, and between later steps; what it raises ends the opening.
-  /// Raises `EConnectError`, `EFileError`, `EQueryStoreError`.
+  /// Raises `EConnectError`, `EPasswordError`, `EFileError`, `EQueryStoreError`.
   TWorkspace(const TSource& source, const std::string& password, const QString& folder, const TFormatSettings& formats,
              const std::function<void()>& onStep = {});
   TWorkspace(const TWorkspace&) = delete;
@@ -42,6 +45,8 @@ class TWorkspace final {
   TJDBStructure& Model() { return FModel; }
   TJQueryPanel& Panel() { return FPanel; }
   TJStoredQueryBase& Store() { return *FStore; }
+  /// What a user can do where the model has no tables, as the database has none.
+  static std::string NoTables();
   /// What was noticed on opening, in sentences.
   const TStrings& GetNotes() const { return FNotes; }
 

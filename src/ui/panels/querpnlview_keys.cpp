@@ -8,10 +8,13 @@
 #include <algorithm>
 #include <limits>
 
+#include <tolvi/foundation/consts.h>
+#include <tolvi/model/dbstruc.h>
 #include <tolvi/ui/panels/linklabel.h>
 #include <tolvi/ui/panels/qpdrag.h>
 #include <tolvi/ui/panels/qprow.h>
 #include <tolvi/ui/panels/querpnlview.h>
+#include <tolvi/ui/qtext.h>
 
 namespace tolvi {
 
@@ -269,7 +272,12 @@ bool TJQueryPanelView::RunKey(QKeyEvent& event) {
     return false;
   }
   if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) return false;
-  RunCommand(*command);
+  const TJCustomDBStructure* model = command == pcAddCond && FPanel ? FPanel->GetDBStruct() : nullptr;
+  if (model != nullptr && model->GetEmpty()) {
+    ShowError(ToQString(SStructureIsEmpty.Text));
+  } else {
+    RunCommand(*command);
+  }
   return true;
 }
 
