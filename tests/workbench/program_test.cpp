@@ -18,7 +18,9 @@
 #include "apps/workbench/window/mainwindow.h"
 #include "apps/workbench/window/notebar.h"
 #include "apps/workbench/window/openingdlg.h"
+#include "apps/workbench/window/queryarea.h"
 #include "apps/workbench/workspace/sample.h"
+#include "tests/workbench/passwordserver.h"
 #include "tests/workbench/silentserver.h"
 #include <tolvi/foundation/files.h>
 #include <tolvi/ui/qtext.h>
@@ -74,6 +76,10 @@ class Program : public testing::Test {
     }
     ADD_FAILURE() << FromQString(choice);
   }
+  void UseLanguage(const QString& code) {
+    const auto call = Window().Requests.UseLanguage;  // which goes with its window
+    call(code);
+  }
   QString Path(const char* name) const { return FHome.filePath(QLatin1String(name)); }
   TSource Copy(const char* name) {
     QFile::copy(QStringLiteral(TOLVI_SHOP_DATABASE), Path(name));
@@ -122,7 +128,7 @@ TEST_F(Program, WaitsForASilentServerOnlySoLong) {
   try {
     OpenWorkspace(nullptr, Silent(server), "s3cret", Path("db"), {}, {.Dialog = 50, .Server = 1000});
     FAIL() << "nobody has answered";
-  } catch (const ENoAnswerError& error) {
+  } catch (const EConnectError& error) {
     EXPECT_EQ(error.Message(), "There was no answer within a second: check host and port.");
   }
 }
@@ -141,22 +147,55 @@ TEST_F(Program, KeepsAPasswordOnceItHasWorked) {
   const TSource source{"odbc:Driver={SQLite3};Database=" + FromQString(Path("late/shop.sqlite")) + ";UID=anna"};
   const TConnectionUrl url = ParseConnectionUrl(source.Url);
   Start();
-  const auto answer = [&](QWidget& dialog, const char* password) {
-    QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("password.password")), QLatin1String(password));
-    QTest::keyClick(&dialog, Qt::Key_Return);
+  {
+    const TUser user({[](QWidget& dialog) {
+      EXPECT_EQ(FromQString(dialog.objectName()), "fault") << "no password mends it";
+      return dialog.close();
+    }});
+    EXPECT_FALSE(FProgram->Open(source, TGivenPassword{"s3cret"}));
+  }
+  EXPECT_EQ(FProgram->Secrets().InSession(url), std::nullopt);
+  QDir().mkpath(Path("late"));
+  EXPECT_TRUE(FProgram->Open(source, TGivenPassword{"s3cret"}));
+  EXPECT_EQ(FProgram->Secrets().InSession(url), "s3cret");
+  EXPECT_NE(Note().find("The database has no tables that can be read."), std::string::npos) << Note();
+  UseLanguage(QStringLiteral("de"));
+  EXPECT_EQ(Note(), "") << "it is told once";
+}
+
+TEST_F(Program, AsksForAPasswordOnlyWhereTheServerWantsOne) {
+  const TPasswordServer server;
+  const TSource source{"postgresql://anna@127.0.0.1:" + std::to_string(server.Port()) + "/shop"};
+  const auto fault = [](QWidget& dialog) {
+    const auto* label = dialog.findChild<QLabel*>(QStringLiteral("password.fault"));
+    return label == nullptr ? std::string() : FromQString(label->text());
+  };
+  const auto answer = [](QWidget& dialog, const char* password, Qt::Key key = Qt::Key_Return) {
+    auto* line = dialog.findChild<QLineEdit*>(QStringLiteral("password.password"));
+    if (line == nullptr || !line->text().isEmpty()) return false;
+    QTest::keyClicks(line, QLatin1String(password));
+    QTest::keyClick(&dialog, key);
     return true;
   };
-  const TUser user({[&](QWidget& dialog) { return answer(dialog, "wrong"); },
-                    [&](QWidget& dialog) {
-                      auto* line = dialog.findChild<QLineEdit*>(QStringLiteral("password.password"));
-                      if (line == nullptr || !line->text().isEmpty()) return false;
-                      EXPECT_EQ(FProgram->Secrets().InSession(url), std::nullopt);
-                      QDir().mkpath(Path("late"));
-                      return answer(dialog, "right");
-                    }});
-  EXPECT_TRUE(FProgram->Open(source));
-  EXPECT_EQ(FProgram->Secrets().InSession(url), "right");
-  EXPECT_NE(Note().find("The database has no tables that can be read."), std::string::npos) << Note();
+  {
+    const TUser user({[&](QWidget& dialog) {
+                        EXPECT_EQ(fault(dialog), "") << "none was given";
+                        return answer(dialog, "wrong");
+                      },
+                      [&](QWidget& dialog) {
+                        if (fault(dialog).empty()) return false;
+                        EXPECT_NE(fault(dialog).find("Passwort-Authentifizierung"), std::string::npos);
+                        return answer(dialog, "", Qt::Key_Escape);
+                      }});
+    Start({.Source = source});
+  }
+  EXPECT_NE(Note().find("Passwort-Authentifizierung"), std::string::npos) << Note();
+  {
+    const TUser user({[&](QWidget& dialog) { return answer(dialog, "right"); }});
+    Choose(QStringLiteral("Try again"));
+  }
+  EXPECT_NE(Note().find("database \"shop\" does not exist"), std::string::npos) << Note();
+  EXPECT_EQ(FProgram->Secrets().InSession(ParseConnectionUrl(source.Url)), std::nullopt);
 }
 
 TEST_F(Program, SaysThatTheNamedDatabaseCannotBeOpenedAndOpensNoOther) {
@@ -179,6 +218,42 @@ TEST_F(Program, SaysThatTheNamedDatabaseCannotBeOpenedAndOpensNoOther) {
   EXPECT_EQ(SourceName(Window().GetWorkspace()->GetSource()), QStringLiteral("shop"));
 }
 
+TEST_F(Program, TellsAllThatIsWrongOneAfterTheOther) {
+  WriteFileAtomically(ToPath(Path("settings.json")), "{");
+  Start({.Source = SourceOf(Path("none.sqlite"))});
+  EXPECT_NE(Note().find("settings.json"), std::string::npos) << Note();
+  Click(Window(), "note.close");
+  EXPECT_NE(Note().find("none.sqlite"), std::string::npos) << Note();
+  UseLanguage(QStringLiteral("en"));
+  Copy("none.sqlite");
+  Choose(QStringLiteral("Try again"));
+  ASSERT_NE(Window().GetWorkspace(), nullptr);
+  EXPECT_EQ(Note(), "");
+}
+
+TEST_F(Program, SaysWhyNothingCanBeAskedOfADatabaseWithoutTables) {
+  const TSource source = SourceOf(Path("empty.sqlite"));
+  TSqlConnection(ParseConnectionUrl(source.Url), {.MustExist = false}).Execute("PRAGMA user_version = 1");
+  Start({.Source = source});
+  TJQueryPanelView& conditions = Window().QueryArea().Conditions();
+  QAbstractButton* addColumn = nullptr;
+  for (QAbstractButton* button : Window().QueryArea().Columns().findChildren<QAbstractButton*>()) {
+    if (button->isVisible() && addColumn == nullptr) addColumn = button;
+  }
+  ASSERT_NE(addColumn, nullptr);
+  const std::function<void()> tries[] = {[&] { QTest::keyClick(&conditions, Qt::Key_Insert); },
+                                         [&] { QTest::mouseClick(addColumn, Qt::LeftButton); }};
+  for (const auto& tried : tries) {
+    Click(Window(), "note.close");
+    EXPECT_EQ(Note(), "");
+    tried();
+    EXPECT_NE(Note().find("The database has no tables that can be read."), std::string::npos);
+  }
+  TSqlConnection(ParseConnectionUrl(source.Url)).Execute("CREATE TABLE orders (order_no INTEGER PRIMARY KEY)");
+  Choose(QStringLiteral("Read new tables from the data&base"));
+  EXPECT_EQ(Window().GetWorkspace()->Model().GetTableCount(), 1U);
+}
+
 TEST_F(Program, OffersUnsavedWorkOfAnotherDatabaseThanTheNamedOne) {
   const TSource source = Copy("other.sqlite");
   Start();
@@ -188,12 +263,46 @@ TEST_F(Program, OffersUnsavedWorkOfAnotherDatabaseThanTheNamedOne) {
   EXPECT_FALSE(Window().isWindowModified());
   EXPECT_EQ(Note(), "The program ended before changes of “" + work.QueryName +
                         "” in shop were saved. They are kept until you take them or discard them.");
+  // It waits for an answer, whatever else is told and done.
+  const std::string offer = Note();
+  Window().Tell(QStringLiteral("for a moment"));
+  EXPECT_EQ(Note(), "for a moment");
+  TJStoredQueryBase& store = Window().GetWorkspace()->Store();
+  store.SetItemIndex(store.AddQuery("Another", {}));
+  EXPECT_EQ(Note(), offer);
+  UseLanguage(QStringLiteral("de"));
+  EXPECT_NE(Note(), "");
+  EXPECT_NE(Note(), offer);
+  UseLanguage(QStringLiteral("en"));
+  EXPECT_EQ(Note(), offer);
   // Not answered, they are there the next time.
   Start({.Source = source});
   Choose(QStringLiteral("Open shop with them"));
   EXPECT_EQ(Window().GetWorkspace()->GetSource(), work.Source);
   EXPECT_EQ(Window().GetWorkspace()->QueryText(), *work.QueryText);
   EXPECT_NE(Note().find("Here they are again"), std::string::npos);
+}
+
+TEST_F(Program, LeavesUnsavedWorkWhereItIsUntilItIsKeptAnew) {
+  const TSource source = Copy("other.sqlite");
+  Start();
+  Lose();
+  Start({.Source = source});
+  QDir unsaved(Path("unsaved"));
+  const QStringList work = unsaved.entryList({QStringLiteral("*.work")});
+  ASSERT_EQ(work.size(), 1);
+  // In the way of this program's own file.
+  QString own;
+  for (const QString& lock : unsaved.entryList({QStringLiteral("*.lock")})) {
+    if (!lock.startsWith(work.front())) own = lock.chopped(5);
+  }
+  ASSERT_TRUE(unsaved.mkpath(own + QStringLiteral("/full")));
+  Choose(QStringLiteral("Open shop with them"));
+  EXPECT_NE(Note().find("Here they are again"), std::string::npos) << Note();
+  EXPECT_TRUE(unsaved.exists(work.front()));
+  QDir(unsaved.filePath(own)).removeRecursively();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !unsaved.exists(work.front()); }, 2 * TProgram::KeepMilliseconds));
+  EXPECT_TRUE(unsaved.exists(own));
 }
 
 TEST_F(Program, DropsUnsavedWorkThatNobodyWants) {

@@ -26,6 +26,7 @@ class TSilentServer final {
   TSilentServer& operator=(const TSilentServer&) = delete;
 
   int Port = 0;
+  int Socket() const { return FSocket; }
 
  private:
   const int FSocket = socket(AF_INET, SOCK_STREAM, 0);

@@ -324,6 +324,9 @@ TEST_F(Workbench, PutsWorkBackOnlyIfTheUserWants) {
   }
   Wait([this] { return !Window().isWindowModified(); }, "as stored");
   EXPECT_FALSE(Shown("query.conditions").contains(QStringLiteral("Atlantis")));
+  Window().Restore(work);
+  Window().SetWorkspace(nullptr);
+  EXPECT_EQ(note->GetWords(), QString()) << "there is nothing to save any more";
 }
 
 TEST_F(Workbench, FitsSmallScreensAndGrowsItsSignsWithTheLetters) {

@@ -147,7 +147,7 @@ void TMainWindow::SetWorkspace(std::unique_ptr<TWorkspace> workspace, const QStr
     FWorkspace->Store().AfterScroll = nullptr;
   }
   FWorkspace = std::move(workspace);
-  // The note stays of use.
+  FNote->Pass();
   FColumns->setEnabled(FWorkspace != nullptr);
   RefreshTitle();
   RefreshCommands();
@@ -173,7 +173,6 @@ void TMainWindow::SetWorkspace(std::unique_ptr<TWorkspace> workspace, const QStr
   FWorkspace->Model().OnChange = [this](TJCustomDBStructure&) { ModelChanged(); };
   QueryLoaded();
   FQueryArea->Conditions().setFocus();
-  if (!FWorkspace->GetNotes().Empty()) Tell(ToQString(FWorkspace->GetNotes().Joined(" ")));
 }
 
 std::unique_ptr<TWorkspace> TMainWindow::TakeWorkspace() {
@@ -261,18 +260,21 @@ bool TMainWindow::Restore(const TUnsavedWork& work) {
                                             "are again.");
   Tell(words, {{tr("Save"),
                 [this] {
+                  if (!FWorkspace) return;
                   if (FWorkspace->IsModelModified()) SaveModel();
                   if (FWorkspace->IsQueryModified()) SaveQuery();
                 }},
                {tr("Discard"), [this] {
+                  if (!FWorkspace) return;
                   if (FWorkspace->IsModelModified()) Try([this] { FWorkspace->RevertModel(); });
                   RevertQuery();
                 }}});
   return true;
 }
 
-void TMainWindow::Tell(const QString& words, const std::vector<std::pair<QString, std::function<void()>>>& choices) {
-  FNote->Tell(words, choices);
+void TMainWindow::Tell(const QString& words, const std::vector<std::pair<QString, std::function<void()>>>& choices,
+                       const QString& topic) {
+  FNote->Tell(words, choices, topic);
 }
 
 void TMainWindow::TellFault(const QString& words) {

@@ -47,7 +47,7 @@ class TMainWindow final : public QMainWindow {
   };
   TRequests Requests;
 
-  /// Null for none. `why` is shown in its place.
+  /// Null for none. `why` is shown in its place. The notes of its opening are told by who has opened it, once.
   void SetWorkspace(std::unique_ptr<TWorkspace> workspace, const QString& why = {});
   TWorkspace* GetWorkspace() const { return FWorkspace.get(); }
   /// For another window; this one is then empty.
@@ -61,7 +61,10 @@ class TMainWindow final : public QMainWindow {
   /// Puts work back that a program left which did not come to its end; whether that worked.
   bool Restore(const TUnsavedWork& work);
 
-  void Tell(const QString& words, const std::vector<std::pair<QString, std::function<void()>>>& choices = {});
+  /// See `TNoteBar`.
+  void Tell(const QString& words, const std::vector<std::pair<QString, std::function<void()>>>& choices = {},
+            const QString& topic = {});
+  TNoteBar& Note() const { return *FNote; }
   /// What the user tried could not be done.
   void TellFault(const QString& words);
 

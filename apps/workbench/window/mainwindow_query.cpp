@@ -96,7 +96,7 @@ void TMainWindow::ShowQuery() {
 void TMainWindow::QueryLoaded() {
   FQueryArea->ForgetSteps();
   FChartPane->SetTitle(QueryName());
-  FNote->hide();
+  FNote->Pass();
   if (!FResultPane->GetPreview()) FResultPane->ShowNothing(tr("Rows appear here when you run the query."));
   RefreshCommands();
   QueryChanged();

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
+#include <algorithm>
 
 #include <tolvi/ui/dialogs/signicon.h>
 
@@ -21,7 +22,7 @@ TNoteBar::TNoteBar(QWidget* parent) : QFrame(parent), FWords(new QLabel), FChoic
   FWords->setTextFormat(Qt::PlainText);
   FWords->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   auto* closing = new QAction(SignIcon(sgTimes, *this), tr("Close this note"), this);
-  connect(closing, &QAction::triggered, this, &QWidget::hide);
+  connect(closing, &QAction::triggered, this, &TNoteBar::Answered);
   QToolButton* close = MakeSignButton(*closing, *this);
   close->setObjectName(QStringLiteral("note.close"));
   auto* line = new QHBoxLayout(this);
@@ -32,18 +33,57 @@ TNoteBar::TNoteBar(QWidget* parent) : QFrame(parent), FWords(new QLabel), FChoic
   hide();
 }
 
-void TNoteBar::Tell(const QString& words, const std::vector<TChoice>& choices) {
-  FWords->setText(words);
+void TNoteBar::Tell(const QString& words, const std::vector<TChoice>& choices, const QString& topic) {
+  const TNote note{topic, words, choices, ++FTold};
+  const auto same = std::find_if(FNotes.begin(), FNotes.end(), [&](const TNote& told) { return told.Topic == topic; });
+  if (same != FNotes.end()) {
+    *same = note;
+  } else {
+    FNotes.insert(topic.isEmpty() ? FNotes.begin() : FNotes.end(), note);
+  }
+  ShowFirst();
+}
+
+void TNoteBar::Withdraw(const QString& topic) {
+  std::erase_if(FNotes, [&](const TNote& note) { return note.Topic == topic; });
+  ShowFirst();
+}
+
+void TNoteBar::Answered() {
+  std::erase_if(FNotes, [this](const TNote& note) { return note.Number == FShown; });
+  ShowFirst();
+}
+
+QStringList TNoteBar::GetTopics() const {
+  QStringList topics;
+  for (const TNote& note : FNotes) {
+    if (!note.Topic.isEmpty()) topics << note.Topic;
+  }
+  return topics;
+}
+
+void TNoteBar::ShowFirst() {
+  if (FNotes.empty()) {
+    FShown = 0;
+    return hide();
+  }
+  if (FNotes.front().Number == FShown) return;
+  FShown = FNotes.front().Number;
+  ShowNote(FNotes.front());
+}
+
+void TNoteBar::ShowNote(const TNote& note) {
+  FWords->setText(note.Words);
   while (QLayoutItem* item = FChoices->takeAt(0)) {
     // A choice may be what tells the next note.
     item->widget()->hide();
     item->widget()->deleteLater();
     delete item;
   }
-  for (const auto& [caption, run] : choices) {
+  for (const auto& [caption, run] : note.Choices) {
     auto* button = new QPushButton(caption);
     connect(button, &QPushButton::clicked, this, [this, call = run] {
-      hide();
+      Answered();
       if (call) call();
     });
     FChoices->addWidget(button);

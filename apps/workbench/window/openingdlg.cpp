@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "apps/workbench/connection/connectiontest.h"
 #include "apps/workbench/workspace/opening.h"
 #include <tolvi/ui/controls/waitcursor.h>
 #include <tolvi/ui/qtext.h>
@@ -19,6 +20,7 @@ namespace tolvi {
 namespace {
 
 constexpr int MillisecondsPerSecond = 1000;
+static_assert(TOpeningPatience{}.Server < TWorkspace::ServerSeconds * MillisecondsPerSecond);
 
 class TOpeningDialog final : public QDialog {
   Q_DECLARE_TR_FUNCTIONS(tolvi::TOpeningDialog)
@@ -94,9 +96,8 @@ std::unique_ptr<TWorkspace> OpenWorkspace(QWidget* parent, const TSource& source
   opening.OnEnd = [&dialog] { dialog.accept(); };
   if (dialog.exec() == QDialog::Accepted) return opening.Take();
   if (!dialog.IsLate()) return nullptr;
-  throw ENoAnswerError(FromQString(QCoreApplication::translate(
-      "tolvi::TConnectionTest", "There was no answer within %n second(s): check host and port.", nullptr,
-      patience.Server / MillisecondsPerSecond)));
+  throw EConnectError(FromQString(
+      TConnectionTest::NoAnswer(ParseConnectionUrl(source.Url).Kind, patience.Server / MillisecondsPerSecond)));
 }
 
 }  // namespace tolvi

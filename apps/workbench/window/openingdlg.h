@@ -10,20 +10,15 @@ class QWidget;
 
 namespace tolvi {
 
-/// How long an opening may take, in milliseconds: until a dialog says that it goes on, and until the server answers.
+/// How long an opening may take, in milliseconds: until a dialog says that it goes on, and until the server answers,
+/// which is less than drivers wait: their words say little.
 struct TOpeningPatience {
   int Dialog = 300;
-  int Server = 20'000;
-};
-
-/// A server that does not answer: another password would not help.
-class ENoAnswerError final : public EConnectError {
- public:
-  using EConnectError::EConnectError;
+  int Server = 15'000;
 };
 
 /// Opens the workspace in the background. Where that takes longer, a dialog shows it and can cancel it; the parent
-/// takes no input meanwhile. Null: the user gave up. Raises as `TWorkspace`, and `ENoAnswerError`.
+/// takes no input meanwhile. Null: the user gave up. Raises as `TWorkspace`.
 std::unique_ptr<TWorkspace> OpenWorkspace(QWidget* parent, const TSource& source, const std::string& password,
                                           const QString& folder, const TFormatSettings& formats,
                                           const TOpeningPatience& patience = {});

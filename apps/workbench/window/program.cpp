@@ -10,6 +10,7 @@
 #include "apps/workbench/store/storepane.h"
 #include "apps/workbench/window/languages.h"
 #include "apps/workbench/window/mainwindow.h"
+#include "apps/workbench/window/notebar.h"
 #include "apps/workbench/window/openingdlg.h"
 #include "apps/workbench/window/themes.h"
 #include "apps/workbench/workspace/sample.h"
@@ -27,6 +28,9 @@ QString SettingsFile(const QString& home) {
   const QString folder = home.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) : home;
   return QDir(folder).filePath(QStringLiteral("settings.json"));
 }
+
+// What notes that stay are about.
+constexpr QLatin1String NotOpened("notopened"), Offered("offered"), BrokenSettings("settings"), NotKept("notkept");
 
 }  // namespace
 
@@ -48,6 +52,9 @@ void TProgram::Start() {
   if (FOptions.Source && !FOptions.Password.empty()) {
     FSecrets.KeepInSession(ParseConnectionUrl(FOptions.Source->Url), FOptions.Password);
   }
+  if (const QString note = FSettingsFile.GetNote(); !note.isEmpty()) {
+    TellLasting(BrokenSettings, [this, note] { FWindow->Tell(note, {}, BrokenSettings); });
+  }
   const std::optional<TUnsavedWork> work = FRecovery.Find();
   try {
     const std::optional<TSource> named = NamedSource();
@@ -58,7 +65,6 @@ void TProgram::Start() {
   } catch (const std::exception& error) {
     FWindow->Tell(QString::fromUtf8(error.what()));
   }
-  if (!FSettingsFile.GetNote().isEmpty()) FWindow->Tell(FSettingsFile.GetNote());
   FKeep.start(KeepMilliseconds);
 }
 
@@ -74,17 +80,26 @@ TSource TProgram::LastSource() {
 void TProgram::OpenFirst(const TSource& source) {
   try {
     if (auto workspace = Opened(source)) return Show(std::move(workspace));
-    TellNotOpened(source, tr("%1 is not open.").arg(ToQString(source.Url)));
+    TellNotOpened(source, FRefusal.isEmpty() ? tr("%1 is not open.").arg(ToQString(source.Url)) : FRefusal);
   } catch (const std::exception& error) {
     TellNotOpened(source, QString::fromUtf8(error.what()));
   }
 }
 
 void TProgram::TellNotOpened(const TSource& source, const QString& why) {
-  FWindow->SetWorkspace(nullptr, why);
-  FWindow->Tell(why, {{tr("Try again"), [this, source] { OpenFirst(source); }},
-                      {tr("Open another one..."), [this] { Connect(); }},
-                      {tr("Open the sample"), [this] { OpenSample(); }}});
+  TellLasting(NotOpened, [this, source, why] {
+    FWindow->SetWorkspace(nullptr, why);
+    FWindow->Tell(why,
+                  {{tr("Try again"), [this, source] { OpenFirst(source); }},
+                   {tr("Open another one..."), [this] { Connect(); }},
+                   {tr("Open the sample"), [this] { OpenSample(); }}},
+                  NotOpened);
+  });
+}
+
+void TProgram::TellLasting(const QString& topic, std::function<void()> tell) {
+  tell();
+  FLasting[topic] = std::move(tell);
 }
 
 void TProgram::MakeWindow() {
@@ -102,7 +117,9 @@ void TProgram::MakeWindow() {
   if (workspace) window->SetWorkspace(std::move(workspace));
   // The program would end with its last window.
   window->show();
+  const QStringList topics = FWindow ? FWindow->Note().GetTopics() : QStringList();
   FWindow = std::move(window);
+  for (const QString& topic : topics) FLasting.at(topic)();
 }
 
 void TProgram::UseLanguage(const QString& code) {
@@ -114,28 +131,25 @@ std::unique_ptr<TWorkspace> TProgram::Opened(const TSource& source, std::optiona
   // A keychain may ask its user; one that does not answer is not waited for.
   constexpr int keychainPatience = 5'000;
   const TConnectionUrl url = ParseConnectionUrl(source.Url);
+  FRefusal.clear();
   while (true) {
-    QString fault;
+    std::string password;
+    if (given) {
+      password = given->Password;
+    } else if (url.Kind != dkSQLite) {
+      password = FSecrets.WaitFor(url, keychainPatience).value_or(std::string());
+    }
     try {
-      std::string password;
-      if (given) {
-        password = given->Password;
-      } else if (url.Kind != dkSQLite) {
-        password = FSecrets.WaitFor(url, keychainPatience).value_or(std::string());
-      }
       auto workspace = OpenWorkspace(FWindow.get(), source, password, FolderOf(source, FData), SystemFormats());
       if (workspace && given) {
         KeepPassword(FSecrets, url, *given, [this](const QString& words) { FWindow->Tell(words); });
       }
       return workspace;
-    } catch (const ENoAnswerError&) {
-      throw;
-    } catch (const EConnectError& error) {
-      // A server may want another password; nothing else can be mended by one.
-      if (url.Kind == dkSQLite) throw;
-      fault = QString::fromUtf8(error.what());
+    } catch (const EPasswordError& error) {
+      // That there was none is no fault of a user who was not asked.
+      if (given || !password.empty()) FRefusal = QString::fromUtf8(error.what());
     }
-    given = AskPassword(FWindow.get(), url, FSecrets, fault);
+    given = AskPassword(FWindow.get(), url, FSecrets, FRefusal, given);
     if (!given) return nullptr;
   }
 }
@@ -164,7 +178,10 @@ void TProgram::Show(std::unique_ptr<TWorkspace> workspace) {
       // It cannot be shown any more: the first one is.
     }
   }
+  const QString notes = ToQString(workspace->GetNotes().Joined(" "));
   FWindow->SetWorkspace(std::move(workspace));
+  FWindow->Note().Withdraw(NotOpened);
+  if (!notes.isEmpty()) FWindow->Tell(notes);
 }
 
 void TProgram::Connect() {
@@ -213,41 +230,50 @@ bool TProgram::Recover(const TUnsavedWork& work) {
             .arg(file));
     return false;
   }
+  FIsPutBack = true;
   Keep();
-  FRecovery.Drop();
   return true;
 }
 
 void TProgram::Offer(const TUnsavedWork& work) {
-  const QString source = SourceName(work.Source);
-  const QString words =
-      work.QueryText
-          ? tr("The program ended before changes of “%1” in %2 were saved. They are kept until you take them or "
-               "discard them.")
-                .arg(ToQString(work.QueryName), source)
-          : tr("The program ended before changes of the data model of %1 were saved. They are kept until you take them "
-               "or discard them.")
-                .arg(source);
-  FWindow->Tell(words, {{tr("Open %1 with them").arg(source),
-                         [this, work] {
-                           if (FWindow->MayLeaveQuery() && FWindow->MayLeaveModel()) {
-                             Recover(work);
-                           } else {
-                             Offer(work);
-                           }
-                         }},
-                        {tr("Discard"), [this] { FRecovery.Drop(); }}});
+  TellLasting(Offered, [this, work] {
+    const QString source = SourceName(work.Source);
+    const QString words =
+        work.QueryText
+            ? tr("The program ended before changes of “%1” in %2 were saved. They are kept until you take them or "
+                 "discard them.")
+                  .arg(ToQString(work.QueryName), source)
+            : tr("The program ended before changes of the data model of %1 were saved. They are kept until you take "
+                 "them or discard them.")
+                  .arg(source);
+    FWindow->Tell(words,
+                  {{tr("Open %1 with them").arg(source),
+                    [this, work] {
+                      if (FWindow->MayLeaveQuery() && FWindow->MayLeaveModel()) {
+                        Recover(work);
+                      } else {
+                        Offer(work);
+                      }
+                    }},
+                   {tr("Discard"), [this] { FRecovery.Drop(); }}},
+                  Offered);
+  });
 }
 
 void TProgram::Keep() {
   try {
-    if (const std::optional<TUnsavedWork> work = FWindow->Unsaved()) FRecovery.Keep(*work);
+    if (const std::optional<TUnsavedWork> work = FWindow->Unsaved()) {
+      FRecovery.Keep(*work);
+      if (std::exchange(FIsPutBack, false)) FRecovery.Drop();
+    }
     FSettingsFile.Save();
-    FKeepFailed = false;
+    if (std::exchange(FKeepFailed, false)) FWindow->Note().Withdraw(NotKept);
   } catch (const std::exception& error) {
     if (!std::exchange(FKeepFailed, true)) {
-      FWindow->Tell(tr("Unsaved work cannot be kept for the case that the program ends: %1")
-                        .arg(QString::fromUtf8(error.what())));
+      const QString why = QString::fromUtf8(error.what());
+      TellLasting(NotKept, [this, why] {
+        FWindow->Tell(tr("Unsaved work cannot be kept for the case that the program ends: %1").arg(why), {}, NotKept);
+      });
     }
   }
 }

@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -62,6 +64,8 @@ class TProgram final : public QObject {
   std::optional<TSource> NamedSource() const;
   TSource LastSource();
   void OpenFirst(const TSource& source);
+  // Tells a note that stays, in the language of the window, now and in windows that are made later.
+  void TellLasting(const QString& topic, std::function<void()> tell);
   void TellNotOpened(const TSource& source, const QString& why);
   void UseLanguage(const QString& code);
   void Connect();
@@ -80,6 +84,12 @@ class TProgram final : public QObject {
   TSecrets FSecrets;
   std::unique_ptr<TMainWindow> FWindow;
   QTimer FKeep;
+  // What was found is shown again; its file goes once the work is kept in this program's own.
+  bool FIsPutBack = false;
+  // What the server said to the last password of the source that was opened last.
+  QString FRefusal;
+  // Those that stay, by their topics.
+  std::map<QString, std::function<void()>> FLasting;
   // A failure to keep unsaved work is told once.
   bool FKeepFailed = false;
 };
