@@ -68,6 +68,37 @@ TEST_F(FaultFinder, FindsTheColumnThatTheDatabaseRefuses) {
   EXPECT_EQ(Find(), "0") << "also alone";
 }
 
+TEST_F(FaultFinder, FindsAColumnThatNamesNoTable) {
+  FQuery.RFields().AddBySQLExpr("no_such_function(1)");
+  EXPECT_EQ(Find(), "1");
+  FQuery.RFields().Move(1, 0);
+  EXPECT_EQ(Find(), "0");
+  // One that is asked for beside it is not taken for it.
+  FQuery.RFields().AddBySQLExpr("no_such_function(Customers.City)");
+  static_cast<void>(FQuery.RFields().Delete(1));
+  FQuery.RFields().Add(*FModel.FieldByName(fnFullName, "Customers.City"));
+  EXPECT_EQ(Find(), "1");
+}
+
+TEST_F(FaultFinder, BlamesNoColumnForWhatAllOfThemLack) {
+  FQuery.RFields().AddBySQLExpr("upper(Customers.City)");
+  FModel.TableByName(tnName, "Customers")->SetTableName("Gone");
+  EXPECT_EQ(Find(), "none") << "the table is not in the database";
+}
+
+TEST_F(FaultFinder, LooksIntoConditionsThoughThereAreManyColumns) {
+  FQuery.AddSQLFragment(*FInner, "no_such_function(Customers.City) > 1");
+  for (int i = 0; i < 50; ++i) FQuery.RFields().Add(*FModel.FieldByName(fnFullName, "Customers.City"));
+  EXPECT_EQ(Find(), ".1.2");
+}
+
+TEST_F(FaultFinder, LooksIntoColumnsThoughThereAreManyConditions) {
+  FQuery.RFields().AddBySQLExpr("no_such_function(Customers.City)");
+  TDSField& city = *FModel.FieldByName(fnFullName, "Customers.City");
+  for (int i = 0; i < 50; ++i) FQuery.AddSimpleCond(*FInner, city, *FModel.OperatorByName("Equal"), "Paris");
+  EXPECT_EQ(Find(), "1");
+}
+
 TEST_F(FaultFinder, IsSilentWhenEachPartAloneIsTaken) { EXPECT_EQ(Find(), "none"); }
 
 }  // namespace
