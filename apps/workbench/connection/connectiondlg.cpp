@@ -205,7 +205,7 @@ void T_dlgConnection::SetRecent(std::vector<TConnectionUrl> urls) {
   FRecentList->clear();
   for (const TConnectionUrl& url : FRecent) {
     auto* item = new QListWidgetItem(NameOf(url) + u'\n' + ToQString(url.Shown()), FRecentList);
-    item->setToolTip(ToQString(url.Shown()));
+    item->setToolTip(PlainToolTip(ToQString(url.Shown())));
   }
   FRecentList->setVisible(!FRecent.empty());
   Resize();

@@ -302,9 +302,8 @@ void TChartPane::AddAxes(QChart& chart, QAbstractSeries& series, double first, d
 void TChartPane::ShowPoint(bool isOn, int index) {
   if (!isOn || index < 0 || static_cast<std::size_t>(index) >= FData.Values.size()) return QToolTip::hideText();
   const QString value = QLocale().toString(FData.Values[static_cast<std::size_t>(index)], 'g', 12);
-  // What has no tag would be shown as it is, with the signs that stand for others.
-  const QString words = QStringLiteral("%1: %2").arg(FData.Labels[index], value).toHtmlEscaped();
-  QToolTip::showText(QCursor::pos(), QStringLiteral("<p>%1</p>").arg(words), FView);
+  const QString words = QStringLiteral("%1: %2").arg(FData.Labels[index], value);
+  QToolTip::showText(QCursor::pos(), PlainToolTip(words), FView);
 }
 
 void TChartPane::Dress(QChart& chart) {

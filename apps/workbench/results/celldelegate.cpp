@@ -6,6 +6,7 @@
 
 #include "apps/workbench/results/resultmodel.h"
 #include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/qtext.h>
 
 namespace tolvi {
 namespace {
@@ -55,11 +56,7 @@ bool TCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
   constexpr qsizetype most = 1000;
   const QString whole = cell.Kind == svBytes || cell.Kind == svNull ? QString() : FModel.Texts().Whole(cell);
   const QString shown = whole.size() > most ? whole.left(most) + QChar(0x2026) : whole;
-  // Rich text is broken into lines.
-  QToolTip::showText(
-      event->globalPos(),
-      shown.isEmpty() ? QString() : QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(shown.toHtmlEscaped()),
-      view->viewport(), option.rect);
+  QToolTip::showText(event->globalPos(), PlainToolTip(shown), view->viewport(), option.rect);
   return true;
 }
 

@@ -26,7 +26,7 @@ TStatusLine::TStatusLine(QWidget* parent) : QLabel(parent) {
 
 void TStatusLine::SetWords(const QString& words) {
   setText(words);
-  setToolTip(words);
+  setToolTip(PlainToolTip(words));
   setAccessibleName(words);
 }
 

@@ -191,7 +191,7 @@ QVariant TStoreModel::data(const QModelIndex& index, int role) const {
       if (row.IsCurrent && FModified) lines << tr("Has changes that are not saved");
       if (!row.Outside.isEmpty()) lines << row.Outside;
       if (!row.Description.isEmpty()) lines << row.Description;
-      return QStringLiteral("<p>%1</p>").arg(lines.join(u'\n').toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+      return PlainToolTip(lines.join(u'\n'));
     }
     case Qt::AccessibleTextRole:
       return AccessibleText(row);

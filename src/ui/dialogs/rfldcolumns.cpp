@@ -387,7 +387,7 @@ void TRFColumnsPage::RefreshActions() {
     QAction& action = *FActions[command];
     action.setEnabled(fault.isEmpty());
     const QString key = action.shortcut().toString(QKeySequence::NativeText);
-    action.setToolTip(fault.isEmpty() ? action.text() + QStringLiteral(" (") + key + u')' : fault);
+    action.setToolTip(fault.isEmpty() ? action.text() + QStringLiteral(" (") + key + u')' : PlainToolTip(fault));
   }
   for (const TCommand command : {cmDelete, cmSort}) FActions[command]->setEnabled(current.has_value());
   FActions[cmUp]->setEnabled(current && *current > 0);
