@@ -30,8 +30,7 @@ using TRowFileProgress = std::function<bool(std::size_t rows)>;
 /// False when `progress` stopped it. Nobody may add rows meanwhile. May run in any thread.
 ///
 /// rfCsv           RFC 4180 with a header line, UTF-8; NULL is an empty field, an empty text "". In a table of one
-/// column
-///                 both are "", as readers take an empty line for none.
+///                 column both are "", as readers take an empty line for none.
 /// rfCsvSemicolon  the same with ";" and a byte order mark at the beginning.
 /// rfTsv           the same as rfCsv with tabs, lines end with LF.
 /// rfJson          an array of objects with the columns in their order; equal names get "_2", "_3". Numbers are written

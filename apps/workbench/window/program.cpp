@@ -7,7 +7,6 @@
 
 #include "apps/workbench/connection/connectiondlg.h"
 #include "apps/workbench/connection/passworddlg.h"
-#include "apps/workbench/store/storepane.h"
 #include "apps/workbench/window/languages.h"
 #include "apps/workbench/window/mainwindow.h"
 #include "apps/workbench/window/notebar.h"
