@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -291,6 +292,52 @@ TEST_F(Workbench, DrawsAllRowsOnDemandAndStaysAtTheChart) {
   Wait([this] { return Window().ChartPane().isVisible() && Window().ChartPane().GetData().Values.size() > 3; }, "all");
   Wait([this] { return Shown("chart.readall").isEmpty(); }, "no more");
   EXPECT_TRUE(Shown("chart.told").isEmpty()) << Shown("chart.told").toStdString();
+}
+
+TEST_F(Workbench, StaysAtTheChartWhenNoValuesAreGiven) {
+  const TJDBStructure& model = Window().GetWorkspace()->Model();
+  Panel()
+      .AddSimpleCond(Panel().RootBracket(), *model.FieldByName(fnFullName, "Products.ProductName"),
+                     *model.OperatorByName("Equal"), "")
+      .SetValueIsParam(1, true);
+  Window().findChild<QAction*>(QStringLiteral("view.chart"))->trigger();
+  FAnswered.clear();
+  QTimer::singleShot(0, &Window(), [this] {
+    FAnswered = QApplication::activeModalWidget()->objectName();
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+  });
+  Window().ResultPane().OnRunRequest();
+  EXPECT_EQ(FAnswered, QStringLiteral("params"));
+  EXPECT_TRUE(Window().ChartPane().isVisible());
+}
+
+TEST_F(Workbench, AsksForAColumnInThePlaceOfRowsAlone) {
+  while (Panel().RootBracket().GetRowCount() > 0) Panel().RootBracket().DeleteRow(0);
+  Panel().RFields().Clear();
+  QString box;
+  QTimer::singleShot(0, &Window(), [&box] {
+    QWidget* open = QApplication::activeModalWidget();
+    if (open == nullptr) return;
+    box = TextOf(*open);
+    open->close();
+  });
+  Window().ResultPane().OnRunRequest();
+  EXPECT_EQ(Shown("results.empty"), QStringLiteral("Add a column to the result to see rows."));
+  QTest::qWait(0);
+  EXPECT_EQ(box, QString());
+}
+
+TEST_F(Workbench, TellsFaultsAsTheyAreWritten) {
+  const QString words = QStringLiteral("no such table: <b>Products</b>");
+  Qt::TextFormat format = Qt::AutoText;
+  QTimer::singleShot(0, &Window(), [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    EXPECT_EQ(box->text(), words);
+    format = box->textFormat();
+    box->accept();
+  });
+  Window().TellFault(words);
+  EXPECT_EQ(format, Qt::PlainText);
 }
 
 TEST_F(Workbench, KeepsTheSourceOpenWhenAnotherCannotBeOpened) {

@@ -45,6 +45,7 @@ TMainWindow::TMainWindow(TSettings& settings, const QString& language) : FSettin
     FParams.Set(settings.Params[i].toString(), settings.Params[i + 1].toString());
   }
   BuildPanes();
+  ConnectPanes();
   BuildMenus();
   FRefresh.setSingleShot(true);
   FRefresh.setInterval(0);
@@ -94,7 +95,9 @@ void TMainWindow::BuildPanes() {
   rows->addWidget(FColumns, 1);
   setCentralWidget(central);
   statusBar()->setObjectName(QStringLiteral("status"));
+}
 
+void TMainWindow::ConnectPanes() {
   FQueryArea->OnChange = [this] { QueryChanged(); };
   FQueryArea->OnError = [this](const QString& words) {
     if (!FWorkspace || !FWorkspace->Model().GetEmpty()) return TellFault(words);
@@ -280,6 +283,8 @@ void TMainWindow::Tell(const QString& words, const std::vector<std::pair<QString
 void TMainWindow::TellFault(const QString& words) {
   QMessageBox box(QMessageBox::Warning, QGuiApplication::applicationDisplayName(), words, QMessageBox::Ok, this);
   box.setObjectName(QStringLiteral("fault"));
+  // The words may be a database's, or hold the name of a file.
+  box.setTextFormat(Qt::PlainText);
   box.exec();
 }
 

@@ -81,6 +81,7 @@ class TMainWindow final : public QMainWindow {
  private:
   // The window.
   void BuildPanes();
+  void ConnectPanes();
   void BuildMenus();
   QMenu* AddMenu(const QString& name, const QString& caption);
   void BuildDatabaseMenu();
@@ -91,6 +92,8 @@ class TMainWindow final : public QMainWindow {
   void BuildEditMenu();
   void BuildModelMenu();
   void BuildViewMenu();
+  void BuildLanguageMenu(QMenu& parent);
+  void BuildThemeMenu(QMenu& parent);
   void BuildHelpMenu();
   QAction* AddCommand(QMenu& menu, const QString& name, const QString& caption, const QKeySequence& keys,
                       const std::function<void()>& run);
@@ -121,6 +124,8 @@ class TMainWindow final : public QMainWindow {
   bool SettleConflict(const EQueryConflictError& conflict);
   void RevertQuery();
   void PasteSql(const std::string& sql = {});
+  // Why there is no statement; leads to the condition that is to blame, if one is.
+  void ShowQueryFault(const EException& error);
   void ShowDatabaseFault(const QString& words);
   void ShowFaultOfRow(const QString& words, const std::string& rowID);
   void ShowFaultOfColumn(const QString& words, std::size_t column);

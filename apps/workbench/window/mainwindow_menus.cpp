@@ -85,7 +85,7 @@ void TMainWindow::FillRecentMenu(QMenu& menu) {
   for (const TSource& source : FSettings.Recent) {
     try {
       QAction* action = menu.addAction(SourceName(source).replace(u'&', QStringLiteral("&&")));
-      action->setToolTip(ToQString(source.Url));
+      action->setToolTip(PlainToolTip(ToQString(source.Url)));
       connect(
           action, &QAction::triggered, this,
           [this, source] {
@@ -252,7 +252,20 @@ void TMainWindow::BuildViewMenu() {
      FChartPane->findChild<QWidget*>(QStringLiteral("chart.kind")), FChartPane);
   go(QStringLiteral("view.sql"), tr("Go to the &SQL"), 6, FSqlPane->findChild<QWidget*>(QStringLiteral("sql.view")));
   menu.addSeparator();
-  QMenu* languages = menu.addMenu(tr("L&anguage"));
+  BuildLanguageMenu(menu);
+  BuildThemeMenu(menu);
+  menu.addSeparator();
+  AddCommand(menu, QStringLiteral("view.settings"), tr("S&ettings..."), QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] {
+    if (!EditSettings(this, FSettings)) return;
+    if (FWorkspace) FWorkspace->Panel().SetAllowSQLFragments(FSettings.AllowSQLFragments);
+    FResultPane->SetPreview(FSettings.Preview);
+    if (Requests.UseTheme) Requests.UseTheme();
+    if (FWorkspace) FRefresh.start();
+  });
+}
+
+void TMainWindow::BuildLanguageMenu(QMenu& parent) {
+  QMenu* languages = parent.addMenu(tr("L&anguage"));
   languages->setObjectName(QStringLiteral("menu.language"));
   for (const TLanguage& language : Languages()) {
     QAction* action = languages->addAction(language.Name);
@@ -268,7 +281,10 @@ void TMainWindow::BuildViewMenu() {
         },
         Qt::QueuedConnection);
   }
-  QMenu* themes = menu.addMenu(tr("&Colours"));
+}
+
+void TMainWindow::BuildThemeMenu(QMenu& parent) {
+  QMenu* themes = parent.addMenu(tr("&Colours"));
   themes->setObjectName(QStringLiteral("menu.theme"));
   auto* group = new QActionGroup(themes);
   const std::pair<TTheme, QString> captions[] = {
@@ -285,14 +301,6 @@ void TMainWindow::BuildViewMenu() {
       if (Requests.UseTheme) Requests.UseTheme();
     });
   }
-  menu.addSeparator();
-  AddCommand(menu, QStringLiteral("view.settings"), tr("S&ettings..."), QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] {
-    if (!EditSettings(this, FSettings)) return;
-    if (FWorkspace) FWorkspace->Panel().SetAllowSQLFragments(FSettings.AllowSQLFragments);
-    FResultPane->SetPreview(FSettings.Preview);
-    if (Requests.UseTheme) Requests.UseTheme();
-    if (FWorkspace) FRefresh.start();
-  });
 }
 
 void TMainWindow::BuildHelpMenu() {

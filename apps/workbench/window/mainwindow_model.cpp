@@ -156,6 +156,7 @@ void TMainWindow::TellModelNews(const TFillReport& report) {
                   QMessageBox box(QMessageBox::Information, QGuiApplication::applicationDisplayName(), words,
                                   QMessageBox::Ok, this);
                   box.setObjectName(QStringLiteral("news"));
+                  box.setTextFormat(Qt::PlainText);
                   box.setDetailedText(lines.join(u'\n'));
                   // Shown for its details.
                   for (QAbstractButton* button : box.buttons()) {

@@ -19,6 +19,7 @@
 #include "apps/workbench/window/mainwindow.h"
 #include "apps/workbench/window/notebar.h"
 #include "apps/workbench/window/queryarea.h"
+#include <tolvi/foundation/consts.h>
 #include <tolvi/foundation/text.h>
 #include <tolvi/panel/paneleditor.h>
 #include <tolvi/query/explain.h>
@@ -153,31 +154,38 @@ void TMainWindow::ShowRows(TJQueryPanel& copy) {
     }
     FResultPane->Preview(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),
                          static_cast<std::size_t>(FSettings.PreviewRows), KnownColumns(copy.RFields()));
-  } catch (const EQueryRowError& error) {
-    FResultPane->ShowFault(QString::fromUtf8(error.what()));
-    FResultPane->SetFaultAction(tr("Show in query"), [this, id = error.RowID()] { FQueryArea->GoToRow(id); });
   } catch (const EException& error) {
-    FResultPane->ShowFault(QString::fromUtf8(error.what()));
+    ShowQueryFault(error);
   }
 }
 
 void TMainWindow::RunQuery() {
   if (!FWorkspace) return;
-  FFaultFinder->Stop();
-  FResultTabs->setCurrentWidget(FResultPane);
   try {
     const std::unique_ptr<TJQueryPanel> copy = CopyOfQuery();
     copy->SetQueryName(FromQString(QueryName()));
     if (!AskParams(this, *copy, FParams, SourceKey(FWorkspace->GetSource()))) return;
+    FFaultFinder->Stop();
+    FResultTabs->setCurrentWidget(FResultPane);
     TBoundStatement statement = copy->GetBoundStatement(msQuestion);
     TakeGiven(statement, *copy);
     FResultPane->Run(statement, FWorkspace->Model().SQLFormats().GetQuoteBool(),
                      FSettings.MaxRows == 0 ? SIZE_MAX : static_cast<std::size_t>(FSettings.MaxRows),
                      KnownColumns(copy->RFields()));
   } catch (const EException& error) {
-    FResultPane->ShowFault(QString::fromUtf8(error.what()));
-    FQueryArea->Conditions().ReportError(error);
+    FResultTabs->setCurrentWidget(FResultPane);
+    ShowQueryFault(error);
   }
+}
+
+void TMainWindow::ShowQueryFault(const EException& error) {
+  if (FWorkspace->Panel().RFields().Empty() && error.Message() == std::string(SNotEnoughInfo)) {
+    return FResultPane->ShowNothing(tr("Add a column to the result to see rows."));
+  }
+  FResultPane->ShowFault(QString::fromUtf8(error.what()));
+  const auto* ofRow = dynamic_cast<const EQueryRowError*>(&error);
+  if (ofRow == nullptr) return;
+  FResultPane->SetFaultAction(tr("Show in query"), [this, id = ofRow->RowID()] { FQueryArea->GoToRow(id); });
 }
 
 void TMainWindow::ShowDatabaseFault(const QString& words) {
