@@ -11,6 +11,7 @@
 #include "support/models.h"
 #include "uitest.h"
 #include <tolvi/foundation/errors.h>
+#include <tolvi/ui/controls/contrast.h>
 #include <tolvi/ui/panels/rfldpnl.h>
 
 namespace tolvi {
@@ -183,6 +184,35 @@ TEST_F(ResultFieldsPanel, PlacesRowsByTheFormulasAtAnyFontAndScrollPosition) {
   EXPECT_FALSE(Row(1).GetButton().GetFlat() || Row(1).GetButton().GetRounded());
   Panel->ClearAll();
   CheckPlaces();
+}
+
+TEST_F(ResultFieldsPanel, TellsHiddenColumnsFromShownOnes) {
+  TRFieldList fields(Model.get());
+  fields.Assign(*Panel->GetResultFields());
+  fields[1].SetHidden(true);
+  Panel->SetResultFields(fields);
+  const auto contrast = [this](const QLabel& label) {
+    return ContrastRatio(label.palette().color(label.foregroundRole()), Panel->palette().color(QPalette::Base));
+  };
+  for (const bool isDark : {false, true}) {
+    QPalette colors = Panel->palette();
+    colors.setColor(QPalette::Base, isDark ? Qt::black : Qt::white);
+    colors.setColor(QPalette::Text, isDark ? Qt::white : Qt::black);
+    Panel->setPalette(colors);
+    EXPECT_LT(contrast(*Row(1).GetTextLabel1()), contrast(*Row(2).GetTextLabel1())) << isDark;
+    EXPECT_GE(contrast(*Row(1).GetTextLabel2()), 4.5) << isDark;
+  }
+  EXPECT_TRUE(Row(1).GetFieldLabel()->font().italic());
+  EXPECT_FALSE(Row(0).GetFieldLabel()->font().italic());
+  QFont large = Panel->font();
+  large.setPointSize(20);
+  Panel->setFont(large);
+  EXPECT_EQ(Row(1).GetFieldLabel()->font().pointSize(), 20);
+  CheckPlaces();
+  EXPECT_EQ(Row(1).GetPhrase(), QStringLiteral("2: SUM( Total ), Descending, not shown"));
+  EXPECT_EQ(Row(1).GetButton().accessibleName(), Row(1).GetPhrase());
+  EXPECT_TRUE(Row(1).GetFieldLabel()->toolTip().contains(QStringLiteral("not shown")));
+  EXPECT_EQ(Row(2).GetPhrase(), QStringLiteral("3: COUNT(*), Not Sorted"));
 }
 
 TEST_F(ResultFieldsPanel, TakesFieldAndSortingFromTheLabels) {

@@ -77,6 +77,9 @@ void TJResultFieldsPanel::resizeEvent(QResizeEvent* event) {
 void TJResultFieldsPanel::changeEvent(QEvent* event) {
   QScrollArea::changeEvent(event);
   const QEvent::Type type = event->type();
+  if (type == QEvent::PaletteChange && FAddRowLabel != nullptr) {
+    for (TResultFieldRow& row : FRows) row.Colour();
+  }
   if (type != QEvent::FontChange && type != QEvent::StyleChange && type != QEvent::LayoutDirectionChange) return;
   // The base class may tell of changes before the panel is complete.
   if (FAddRowLabel != nullptr) ArrangeAll();

@@ -5,6 +5,8 @@
 #include <tolvi/foundation/consts.h>
 #include <tolvi/foundation/errors.h>
 #include <tolvi/query/resultfields.h>
+#include <tolvi/ui/controls/contrast.h>
+#include <tolvi/ui/dialogs/rfldcolumns.h>
 #include <tolvi/ui/panels/rfldpnl.h>
 #include <tolvi/ui/panels/rfldrow.h>
 #include <tolvi/ui/qtext.h>
@@ -17,6 +19,9 @@ std::string UpperCase(std::string_view text) { return FromQString(ToQString(text
 std::optional<int> WidthOf(const QWidget* label) {
   return label != nullptr ? std::optional(label->sizeHint().width()) : std::nullopt;
 }
+
+// In the words of the dialog that hides columns.
+QString NotShown() { return TRFColumnsPage::tr("not shown"); }
 
 }  // namespace
 
@@ -96,7 +101,8 @@ QWidget* TResultFieldRow::GetFocusedPart() const {
 }
 
 QString TResultFieldRow::GetPhrase() const {
-  return ToQString(ResultRowPhrase(FTexts, FromQString(FSortLabel->GetCaption())));
+  const QString phrase = ToQString(ResultRowPhrase(FTexts, FromQString(FSortLabel->GetCaption())));
+  return FIsHidden ? phrase + QStringLiteral(", ") + NotShown() : phrase;
 }
 
 std::unique_ptr<QLabel> TResultFieldRow::MakeTextLabel(const std::string& text) const {
@@ -152,7 +158,42 @@ void TResultFieldRow::Place() {
   for (const auto& label : {FTextLabel1.get(), FTextLabel2.get()}) {
     if (label != nullptr) label->setToolTip(PlainToolTip(ToQString(FTexts.Tip)));
   }
+  FButton->setToolTip({});
+  FIsHidden = field->GetHidden();
+  if (FIsHidden) TellIsHidden();
+  Colour();
   Arrange();
+}
+
+void TResultFieldRow::TellIsHidden() {
+  const QString tip = ToQString(FTexts.Tip);
+  // Of the panel's font all but that, also when it changes.
+  QFont slanted;
+  slanted.setItalic(true);
+  for (QWidget* label : {static_cast<QWidget*>(FTextLabel1.get()), static_cast<QWidget*>(FFieldLabel.get()),
+                         static_cast<QWidget*>(FTextLabel2.get())}) {
+    if (label == nullptr) continue;
+    label->setFont(slanted);
+    label->setToolTip(PlainToolTip(tip.isEmpty() ? NotShown() : tip + QStringLiteral(" (") + NotShown() + u')'));
+  }
+  if (FFieldLabel != nullptr) FFieldLabel->setAccessibleDescription(NotShown());
+  FButton->setToolTip(NotShown());
+}
+
+void TResultFieldRow::Colour() {
+  if (!FIsHidden) return;
+  constexpr double part = 0.7;
+  const TJResultFieldsPanel& panel = GetRFPanel();
+  const QColor base = panel.palette().color(QPalette::Base), text = panel.palette().color(QPalette::Text);
+  for (QLabel* label : {FTextLabel1.get(), FTextLabel2.get()}) {
+    if (label == nullptr) continue;
+    QPalette weak;
+    weak.setColor(label->foregroundRole(), ReadableColor(MixedColor(text, base, part), base));
+    label->setPalette(weak);
+  }
+  if (FFieldLabel == nullptr) return;
+  const QColor link = ReadableLinkColor(panel.GetAppearance().GetFieldColor(), panel.palette(), base);
+  FFieldLabel->SetLinkColor(MixedColor(link, base, part));
 }
 
 void TResultFieldRow::Arrange() {

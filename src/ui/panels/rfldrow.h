@@ -72,10 +72,13 @@ class TOLVI_WIDGETS_API TResultFieldRow final {
   QWidget& GetPart(TRFRowPart part) const;
   /// The element that has the focus, or whose list has it; null when none has.
   QWidget* GetFocusedPart() const;
+  /// With ", not shown" for a hidden column, whose texts are slanted and weaker.
   QString GetPhrase() const;
 
   /// Shows the column anew. Does nothing while the row has none.
   void Place();
+  /// Takes the colours of a hidden column from the palette as it is now.
+  void Colour();
   /// Moves what there is to its place, as font and number may have changed.
   void Arrange();
   /// The places in the panel's content, from the left in any language; where they end on the right.
@@ -90,12 +93,13 @@ class TOLVI_WIDGETS_API TResultFieldRow final {
   std::unique_ptr<QLabel> MakeTextLabel(const std::string& text) const;
   std::unique_ptr<TDropDownList> MakeFieldLabel() const;
   void Watch(TDropDownList& label, TRFRowPart part);
+  void TellIsHidden();
 
   TResultFieldRows& FList;
   TResultField* FRField = nullptr;
   TRFRowTexts FTexts;
   TRFRowPlaces FPlaces;
-  bool FVisible = false;
+  bool FVisible = false, FIsHidden = false;
   // The labels go before the button.
   std::unique_ptr<TRFRowButton> FButton;
   std::unique_ptr<TDropDownPopup> FSortLabel;
