@@ -345,7 +345,7 @@ TEST_F(ResultFieldsDialog, MarksWhatCannotBeBuiltAndSaysWhy) {
   EXPECT_NE(List().viewport()->grab(List().visualItemRect(List().item(1))).toImage(), sound) << "more than a colour";
   Tree().clearSelection();
   Tree().setCurrentIndex(QModelIndex());
-  EXPECT_EQ(Named<QToolButton>(u"Multiply by result field"_s).toolTip(), u"Select a field first."_s);
+  EXPECT_EQ(Named<QToolButton>(u"Multiply by result field"_s).accessibleDescription(), u"Select a field first."_s);
   EXPECT_EQ(Named<QPushButton>(u"as is"_s).width(), Named<QPushButton>(u"Sum"_s).width()) << "in equal columns";
   Click(*Only<QDialogButtonBox>().button(QDialogButtonBox::Ok));
   EXPECT_FALSE(Dialog->isVisible());

@@ -28,6 +28,8 @@ void TStatusLine::SetWords(const QString& words) {
   setText(words);
   setToolTip(PlainToolTip(words));
   setAccessibleName(words);
+  // Else the tip would be read out with its markup.
+  setAccessibleDescription(words);
 }
 
 QSize TStatusLine::minimumSizeHint() const {

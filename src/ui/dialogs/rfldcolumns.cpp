@@ -388,6 +388,10 @@ void TRFColumnsPage::RefreshActions() {
     action.setEnabled(fault.isEmpty());
     const QString key = action.shortcut().toString(QKeySequence::NativeText);
     action.setToolTip(fault.isEmpty() ? action.text() + QStringLiteral(" (") + key + u')' : PlainToolTip(fault));
+    // Else the tip would be read out with its markup.
+    for (QObject* shown : action.associatedObjects()) {
+      if (auto* button = qobject_cast<QToolButton*>(shown)) button->setAccessibleDescription(fault);
+    }
   }
   for (const TCommand command : {cmDelete, cmSort}) FActions[command]->setEnabled(current.has_value());
   FActions[cmUp]->setEnabled(current && *current > 0);
