@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -107,7 +108,6 @@ TEST_F(Params, AreAskedForByTheirTypesAndGivenToTheQuery) {
   Add("Customers.City", "InList", "Cities");
   Add("Customers.Company", "Equal", "Company");
   EXPECT_TRUE(Ask([this] {
-    EXPECT_FALSE(Ok().isEnabled());
     EXPECT_EQ(Fault("Least"), "") << "nothing is complained of beforehand";
     for (const char* words : {"Least", "Total is greater than …", "Since when?"}) {
       const QList<QLabel*> labels = FDialog->findChildren<QLabel*>();
@@ -126,7 +126,7 @@ TEST_F(Params, AreAskedForByTheirTypesAndGivenToTheQuery) {
     Editor<QComboBox>("Active").setFocus();
     QTest::keyClick(&Editor<QComboBox>("Active"), Qt::Key_Down);
     Editor<QPlainTextEdit>("Cities").setPlainText(QStringLiteral("Köln\n\nKing's Lynn, Norfolk"));
-    EXPECT_TRUE(Ok().isEnabled()) << "an empty text is a value";
+    // An empty text is a value.
     QTest::mouseClick(&Ok(), Qt::LeftButton);
   }));
   const std::vector<std::string> values{
@@ -149,12 +149,50 @@ TEST_F(Params, BeginWithTheirOwnValueOrElseTheLastOne) {
     EXPECT_EQ(ToEditForm("45000", ListParams(Panel)[1], Panel), QStringLiteral("2023-03-15"));
     EXPECT_NE(Fault("Other"), "") << "what is wrong from the start is told";
     EXPECT_EQ(FDialog->focusWidget(), &Editor<QLineEdit>("Other"));
-    EXPECT_FALSE(Ok().isEnabled());
+    QTest::mouseClick(&Ok(), Qt::LeftButton);
+    EXPECT_TRUE(FDialog->isVisible());
     Type("Least", QStringLiteral("8"));
     QTest::keyClick(FDialog, Qt::Key_Escape);
   }));
   EXPECT_EQ(ListParams(Panel)[0].Value, "");
   EXPECT_EQ(Remembered("Least"), QStringLiteral("7.25"));
+}
+
+TEST_F(Params, ThatAreMissingAreLedToAndExplained) {
+  Add("Orders.SaleDate", "Equal", "First").SetValue("45000");
+  for (int i = 0; i < 40; ++i) Add("Orders.SaleDate", "Equal", ("Day" + std::to_string(i)).c_str());
+  EXPECT_FALSE(Ask([this] {
+    EXPECT_TRUE(Editor<QLineEdit>("Day0").placeholderText().contains(QStringLiteral("example"))) << "not a value";
+    Editor<QLineEdit>("First").setFocus();
+    const auto isSeen = [this](const char* param) {
+      const auto* label =
+          FDialog->findChild<QLabel*>(QStringLiteral("params.") + QLatin1String(param) + QStringLiteral(".fault"));
+      return label->visibleRegion().boundingRect() == label->rect();
+    };
+    const auto isLedTo = [&](const char* param) {
+      return QTest::qWaitFor([&] { return isSeen(param); }) && FDialog->focusWidget() == &Editor<QLineEdit>(param);
+    };
+    QTest::mouseClick(&Ok(), Qt::LeftButton);
+    EXPECT_EQ(Fault("Day0"), "A value is needed.");
+    EXPECT_TRUE(isLedTo("Day0"));
+    for (int i = 0; i < 39; ++i) {
+      Editor<QLineEdit>(("Day" + std::to_string(i)).c_str()).setText(QStringLiteral("2025-02-28"));
+    }
+    EXPECT_FALSE(isSeen("Day39"));
+    QTest::keyClick(&Editor<QLineEdit>("Day0"), Qt::Key_Return);
+    EXPECT_TRUE(FDialog->isVisible());
+    EXPECT_TRUE(isLedTo("Day39"));
+  }));
+}
+
+TEST_F(Params, GiveTheirFaultRoomInTheDialog) {
+  Add("Orders.SaleDate", "Equal", "Day");
+  EXPECT_FALSE(Ask([this] {
+    Type("Day", QStringLiteral("2025-02-31"));
+    const auto* area = FDialog->findChild<QScrollArea*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return area->widget()->height() <= area->viewport()->height(); }));
+    EXPECT_NE(Fault("Day"), "");
+  }));
 }
 
 TEST_F(Params, AreChosenFromTheListOfTheField) {
@@ -199,7 +237,6 @@ TEST_F(Params, ThatAreListsAreRememberedTheSameInEveryLanguage) {
   EXPECT_TRUE(Ask([this] {
     Editor<QPlainTextEdit>("Totals").setPlainText(QStringLiteral("12,5\n7"));
     Editor<QPlainTextEdit>("Days").setPlainText(QStringLiteral("2025-02-28\n2025-03-01"));
-    EXPECT_TRUE(Ok().isEnabled());
     QTest::mouseClick(&Ok(), Qt::LeftButton);
   }));
   EXPECT_EQ(Remembered("Totals"), QStringLiteral("12.5,7"));
@@ -210,7 +247,7 @@ TEST_F(Params, ThatAreListsAreRememberedTheSameInEveryLanguage) {
   for (const char* name : {"Totals", "Days"}) SetParamValue(Panel, name, "");
   EXPECT_FALSE(Ask([this] {
     EXPECT_EQ(Editor<QPlainTextEdit>("Totals").toPlainText(), QStringLiteral("12,5\n7"));
-    EXPECT_TRUE(Ok().isEnabled()) << Fault("Days");
+    EXPECT_EQ(Fault("Totals") + Fault("Days"), "");
   }));
 }
 

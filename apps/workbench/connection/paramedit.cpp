@@ -146,7 +146,8 @@ class TDateLine final : public TParamEdit {
  public:
   TDateLine(TDateKind kind, QWidget* parent) : TParamEdit(parent), FLine(new QLineEdit(this)), FKind(kind) {
     FFormat = LocaleFormat(kind, locale());
-    FLine->setPlaceholderText(WriteDate(Now(), FFormat));
+    // A date alone would look like a value.
+    FLine->setPlaceholderText(TParamEdit::tr("For example %1").arg(WriteDate(Now(), FFormat)));
     connect(FLine, &QLineEdit::textChanged, this, [this] {
       if (OnChange) OnChange();
     });

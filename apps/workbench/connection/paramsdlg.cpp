@@ -1,5 +1,6 @@
 #include "apps/workbench/connection/paramsdlg.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -7,6 +8,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <vector>
@@ -47,21 +49,28 @@ class TParamsDialog final : public QDialog {
   };
   const std::vector<TRow>& Rows() const { return FRows; }
 
+  /// While a value is missing or wrong, goes to it and says why.
+  void accept() override;
+
  private:
   void AddRow(QVBoxLayout& form, const TParamInfo& param, const QString& value);
   QLabel* AddText(QVBoxLayout& form, const QString& text, const QColor& color);
   void Check();
+  bool IsWrong(const TRow& row) const { return !FaultOfParam(row.Edit->GetValue(), row.Param, FPanel).isEmpty(); }
+  // As high as its rows are, if the screen is: a fault is shown below its value.
+  void FitHeight();
+  void ShowFault(const TRow& row);
 
   const TJQueryPanel& FPanel;
   std::vector<TRow> FRows;
-  QPushButton* FOk;
+  QScrollArea* FArea;
+  QDialogButtonBox* FButtons;
 };
 
 TParamsDialog::TParamsDialog(QWidget* parent, TJQueryPanel& panel, const std::vector<TParamInfo>& params,
                              const TParamMemory& last, const QString& source)
     : QDialog(parent), FPanel(panel) {
   constexpr int Columns = 64;
-  constexpr double MostOfScreen = 0.8;
   setObjectName(QStringLiteral("params"));
   const QString name = ToQString(panel.GetQueryName());
   setWindowTitle(name.isEmpty() ? QObject::tr("Values of the query") : QObject::tr("Values of “%1”").arg(name));
@@ -77,26 +86,48 @@ TParamsDialog::TParamsDialog(QWidget* parent, TJQueryPanel& panel, const std::ve
   }
   rows->addStretch(1);
   UseCheckStyle(*form);
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  FOk = buttons->button(QDialogButtonBox::Ok);
-  FOk->setObjectName(QStringLiteral("params.ok"));
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  FButtons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  FButtons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("params.ok"));
+  connect(FButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(FButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* layout = new QVBoxLayout(this);
-  QScrollArea* area = Scrolled(form, this);
-  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  layout->addWidget(area, 1);
-  layout->addWidget(buttons);
+  FArea = Scrolled(form, this);
+  FArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  layout->addWidget(FArea, 1);
+  layout->addWidget(FButtons);
+  resize(Columns * fontMetrics().averageCharWidth(), 1);
   Check();
-  const int width = Columns * fontMetrics().averageCharWidth();
-  const int needed =
-      form->layout()->totalHeightForWidth(width) + buttons->sizeHint().height() + 4 * fontMetrics().height();
-  resize(width, std::min(needed, static_cast<int>(screen()->availableGeometry().height() * MostOfScreen)));
   // The first one that needs a value.
-  const auto first = std::find_if(FRows.begin(), FRows.end(), [this](const TRow& row) {
-    return !FaultOfParam(row.Edit->GetValue(), row.Param, FPanel).isEmpty() || row.Edit->GetValue().isEmpty();
-  });
+  const auto first = std::find_if(FRows.begin(), FRows.end(),
+                                  [this](const TRow& row) { return IsWrong(row) || row.Edit->GetValue().isEmpty(); });
   (first != FRows.end() ? first : FRows.begin())->Edit->setFocus();
+}
+
+void TParamsDialog::FitHeight() {
+  constexpr double MostOfScreen = 0.8;
+  const int rows = FArea->widget()->layout()->totalHeightForWidth(width());
+  const int needed = rows + FButtons->sizeHint().height() + 4 * fontMetrics().height();
+  const int most = static_cast<int>(screen()->availableGeometry().height() * MostOfScreen);
+  if (const int fitting = std::min(needed, most); fitting > height()) resize(width(), fitting);
+}
+
+void TParamsDialog::ShowFault(const TRow& row) {
+  // The label has its place once the layout has been made.
+  QTimer::singleShot(0, row.Fault, [this, label = row.Fault, edit = row.Edit] {
+    FArea->ensureWidgetVisible(label);
+    FArea->ensureWidgetVisible(edit);
+  });
+}
+
+void TParamsDialog::accept() {
+  const auto first = std::find_if(FRows.begin(), FRows.end(), [this](const TRow& row) { return IsWrong(row); });
+  if (first == FRows.end()) return QDialog::accept();
+  for (TRow& row : FRows) row.IsTouched = true;
+  Check();
+  first->Edit->setFocus(Qt::OtherFocusReason);
+  ShowFault(*first);
+  QAccessibleEvent event(first->Fault, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
 }
 
 QLabel* TParamsDialog::AddText(QVBoxLayout& form, const QString& text, const QColor& color) {
@@ -136,20 +167,19 @@ void TParamsDialog::AddRow(QVBoxLayout& form, const TParamInfo& param, const QSt
   edit->OnChange = [this, number] {
     FRows[number].IsTouched = true;
     Check();
+    if (FRows[number].Fault->isVisible()) ShowFault(FRows[number]);
   };
 }
 
-// A value that is missing is not complained of before the user has come to it.
+// A value that is missing is not complained of before the user has come to it, or has pressed OK.
 void TParamsDialog::Check() {
-  bool isGood = true;
   for (const TRow& row : FRows) {
     const QString fault = FaultOfParam(row.Edit->GetValue(), row.Param, FPanel);
-    isGood = isGood && fault.isEmpty();
     row.Fault->setText(row.IsTouched ? fault : QString());
     row.Fault->setVisible(!row.Fault->text().isEmpty());
     row.Edit->focusProxy()->setAccessibleDescription(fault);
   }
-  FOk->setEnabled(isGood);
+  FitHeight();
 }
 
 }  // namespace
