@@ -185,13 +185,14 @@ TEST_F(Params, ThatAreMissingAreLedToAndExplained) {
   }));
 }
 
-TEST_F(Params, GiveTheirFaultRoomInTheDialog) {
-  Add("Orders.SaleDate", "Equal", "Day");
+TEST_F(Params, GiveTheirFaultsRoomInTheDialog) {
+  for (const char* name : {"A", "B", "C", "D", "E", "F"}) Add("Orders.SaleDate", "Equal", name);
   EXPECT_FALSE(Ask([this] {
-    Type("Day", QStringLiteral("2025-02-31"));
+    QTest::mouseClick(&Ok(), Qt::LeftButton);
+    EXPECT_NE(Fault("F"), "");
     const auto* area = FDialog->findChild<QScrollArea*>();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return area->widget()->height() <= area->viewport()->height(); }));
-    EXPECT_NE(Fault("Day"), "");
+    QTest::qWait(50);
+    EXPECT_LE(area->widget()->height(), area->viewport()->height());
   }));
 }
 
