@@ -49,7 +49,11 @@ void TJQPBaseLink::QueryListChanged(TQBOperation operation, int index) {
   if (operation != qboItemDeleted || !FQueryPanel || GetQueryBase() == nullptr) return;
   if (index != GetQueryBase()->GetItemIndex()) return;
   *FIsOld = false;
-  FQueryPanel->ClearAll();
+  TRef<TJQueryPanel> panel;
+  panel.Set(FQueryPanel.Get());
+  panel->ClearAll();
+  // Nothing is shown that could be saved.
+  if (panel) panel->SetModified(false);
 }
 
 bool TJQPBaseLink::GetQueryContent(TStrings& strings) {

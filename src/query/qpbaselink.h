@@ -30,7 +30,7 @@ class TOLVI_CORE_API TJQPBaseLink : public TJQueryBaseLink {
   /// its view refreshes its titles.
   void QueryChanged(int index) override;
   void QueryIndexChanged() override;
-  /// The panel's query is cleared when the current one has been deleted.
+  /// The panel's query is cleared when the current one has been deleted, and has nothing to save then.
   void QueryListChanged(TQBOperation operation, int index) override;
   bool GetQueryContent(TStrings& strings) override;
   bool PutQueryContent(const TStrings& strings) override;

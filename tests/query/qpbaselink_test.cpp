@@ -97,6 +97,7 @@ TEST_F(QPBaseLink, ClearsThePanelWhenItsQueryIsDeleted) {
   base.AddItem(std::make_unique<TStoredItem>(store, "last"));
   base.DeleteQuery(0);
   EXPECT_EQ(Shown(), "0") << "the next query is the current one, unseen";
+  EXPECT_FALSE(panel->GetModified()) << "nothing is to be saved over it";
   EXPECT_EQ(base.GetCurrentQuery()->GetQueryName(), "rest");
   link->LoadCurBaseQuery();
   base.Close();

@@ -188,6 +188,22 @@ TEST_F(Workbench, AsksBeforeChangesAreLost) {
   Wait([this] { return Shown("query.conditions").contains(QStringLiteral("Atlantis")); }, "stored");
 }
 
+TEST_F(Workbench, HasNothingToSaveOnceTheLastQueryIsDeleted) {
+  TJStoredQueryBase& store = Window().GetWorkspace()->Store();
+  while (store.Count() > 1) store.EraseQuery(1 - store.GetItemIndex());
+  AddCondition();
+  QTimer::singleShot(100, &Window(), [] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+      box->button(QMessageBox::Yes)->click();
+  });
+  Window().StorePane().Erase();
+  EXPECT_EQ(store.Count(), 0);
+  Wait([this] { return !Window().isWindowModified(); }, "as stored");
+  EXPECT_FALSE(Window().GetWorkspace()->IsQueryModified());
+  QTest::mouseClick(Window().findChild<QAbstractButton*>(QStringLiteral("store.noteButton")), Qt::LeftButton);
+  EXPECT_TRUE(Window().GetWorkspace()->QueryText().find("Atlantis") != std::string::npos);
+}
+
 TEST_F(Workbench, UndoesChangesOfColumnsAndKnowsWhatIsSaved) {
   QApplication::setActiveWindow(&Window());
   TResultFieldRows& rows = Window().QueryArea().Columns().GetRows();

@@ -179,6 +179,7 @@ TEST_F(Workspace, CopiesTheQueriesOfAnotherPlaceOnce) {
   workspace->SaveQuery();
   EXPECT_EQ(workspace->CopyQueries(sample), 1);
   EXPECT_GE(workspace->Store().IndexByName("Best customers (2)"), 0);
+  EXPECT_EQ(workspace->CopyQueries(sample), 0) << "the copy with another name is known";
   // The other way round, out of a database that is open for reading only.
   EXPECT_EQ(Open(sample)->CopyQueries(database), 3);
 }

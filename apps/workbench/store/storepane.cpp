@@ -279,6 +279,7 @@ void TStorePane::IdChanged(int index) {
   if (id == FIds[index]) return;
   const QString former = std::exchange(FIds[index], id);
   if (FEditedId == former) FEditedId = id;
+  ReplaceErasedId(former, id);
   if (FRows->ReplaceId(former, id) && OnOrderChange) OnOrderChange();
 }
 

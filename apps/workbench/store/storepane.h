@@ -140,12 +140,15 @@ class TStorePane final : public QWidget {
   void TellError(const QString& words);
   // The text of a query, as the views show it or as it is stored.
   TStrings TextOf(int index);
+  bool CanBeRead(int index);
   std::string FreeName(const QString& name, const std::function<QString(int number)>& next) const;
   int Add(const std::string& name, const TStrings& text, const QString& behind = {});
   QString TakeName(const QString& id, const QString& name);
   // Offers to bring back what was deleted last, then what was before it.
   void ShowErased();
   void BringBack();
+  // In the orders of before: a query that was brought back, or renamed, may have another ID.
+  void ReplaceErasedId(const QString& former, const QString& id);
   void PutInOrder(const QString& id, const TErased& erased);
 
   std::unique_ptr<TLink> FLink;

@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <exception>
 #include <optional>
 #include <utility>
@@ -63,6 +64,10 @@ std::optional<QString> AskDescription(QWidget& parent, const QString& name, cons
 QString NeighbourOf(const TStoreModel& rows, const QString& id) {
   const int row = rows.RowOfId(id), below = row + 1 < rows.rowCount() ? row + 1 : row - 1;
   return row >= 0 && below >= 0 ? rows.Row(below).Id : QString();
+}
+
+std::function<QString(int number)> NumberedName(const QString& name) {
+  return [name](int number) { return QStringLiteral("%1 %2").arg(name, QString::number(number)); };
 }
 
 bool IsQueryText(const TStrings& text) {
@@ -156,6 +161,18 @@ TStrings TStorePane::TextOf(int index) {
   return text;
 }
 
+bool TStorePane::CanBeRead(int index) {
+  if (index == GetQueryBase()->GetItemIndex() && OnShownText && !OnShownText().Empty()) return true;
+  TStrings text;
+  try {
+    // Not of the base: views that are asked for their text take it for saved.
+    GetQueryBase()->GetQuery(index).LoadContent(text);
+  } catch (const EException&) {
+    return false;
+  }
+  return !text.Empty();
+}
+
 std::string TStorePane::FreeName(const QString& name, const std::function<QString(int number)>& next) const {
   return FreeQueryName(*GetQueryBase(), [&](int number) { return FromQString(number == 1 ? name : next(number)); });
 }
@@ -163,10 +180,13 @@ std::string TStorePane::FreeName(const QString& name, const std::function<QStrin
 int TStorePane::Add(const std::string& name, const TStrings& text, const QString& behind) {
   const QPointer<TStorePane> self = this;
   QString id;
-  if (!Try([&] { id = ToQString(GetQueryBase()->GetStoredQuery(GetQueryBase()->AddQuery(name, text)).Entry().Id); }) ||
-      !self) {
-    return -1;
-  }
+  const bool isDone = Try([&] {
+    TJStoredQueryBase& base = *GetQueryBase();
+    const int index = base.AddQuery(name, text);
+    // Whoever is told of it may have put another base in its place.
+    if (self && GetQueryBase() == &base) id = ToQString(base.GetStoredQuery(index).Entry().Id);
+  });
+  if (!isDone || !self || id.isEmpty()) return -1;
   if (!behind.isEmpty()) FRows->PlaceBehind(id, behind);
   FNeedsRead = true;
   if (!FSearch->text().isEmpty()) FSearch->clear();
@@ -248,8 +268,13 @@ void TStorePane::Erase() {
   const QString id = FIds[index];
   const std::string name = GetQueryBase()->GetQuery(index).GetQueryName();
   const QString question = tr("Delete the query “%1”?").arg(ToQString(name));
+  const bool canReturn = CanBeRead(IndexOfId(id));
+  if (!self || IndexOfId(id) < 0) return;
   const QString further =
-      tr("It is deleted for everybody who uses this store. You can take that back until the note about it is closed.");
+      canReturn
+          ? tr("It is deleted for everybody who uses this store. You can take that back until the note about it is "
+               "closed.")
+          : tr("It is deleted for everybody who uses this store. It cannot be read: you cannot take that back.");
   if (Ask(*this, QMessageBox::Question, question, further, QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes ||
       !self || IndexOfId(id) < 0) {
     return;
@@ -292,16 +317,28 @@ void TStorePane::BringBack() {
   if (FErased.empty()) return;
   const QPointer<TStorePane> self = this;
   const TErased erased = FErased.back();
-  if (!MayLeave()) {
-    if (self) ShowErased();
+  // Handlers may set another base, for which nothing was deleted.
+  const auto isOffered = [&] { return self && !FErased.empty() && FErased.back().Id == erased.Id; };
+  const bool mayLeave = MayLeave();
+  if (!isOffered()) return;
+  const QString name = ToQString(erased.Name);
+  // Another query may have got its name since.
+  const int index = mayLeave ? Add(FreeName(name, NumberedName(name)), erased.Text) : -1;
+  if (!isOffered()) return;
+  if (index < 0) {
+    // Behind a fault that is told here, the offer comes when it is closed.
+    if (FNote->isHidden()) ShowErased();
     return;
   }
-  if (GetQueryBase() == nullptr) return;
-  const int index = Add(erased.Name, erased.Text);
-  if (!self || index < 0) return;
+  const QString id = FIds[index];
   FErased.pop_back();
+  ReplaceErasedId(erased.Id, id);
   ShowErased();
-  PutInOrder(FIds[index], erased);
+  PutInOrder(id, erased);
+}
+
+void TStorePane::ReplaceErasedId(const QString& former, const QString& id) {
+  for (TErased& erased : FErased) std::replace(erased.Order.begin(), erased.Order.end(), former, id);
 }
 
 // Behind what it stood behind.
@@ -354,8 +391,7 @@ void TStorePane::PasteText() {
   if (!MayLeave() || !self || GetQueryBase() == nullptr) return;
   const QString name = ToQString(ReadQueryHead(text.GetText()).Name).trimmed();
   const QString plain = name.isEmpty() ? tr("New query") : name;
-  const auto next = [&plain](int number) { return QStringLiteral("%1 %2").arg(plain, QString::number(number)); };
-  Add(FreeName(plain, next), text);
+  Add(FreeName(plain, NumberedName(plain)), text);
 }
 
 void TStorePane::Move(int step) {

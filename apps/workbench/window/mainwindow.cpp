@@ -105,11 +105,7 @@ void TMainWindow::ConnectPanes() {
          {{CommandOf(QStringLiteral("model.refresh"))->text(), [this] { RefreshModel(); }}});
   };
   FStorePane->OnMayLeave = [this] { return MayLeaveQuery(); };
-  FStorePane->OnShownText = [this] {
-    TStrings lines;
-    lines.SetText(FWorkspace->QueryText());
-    return lines;
-  };
+  FStorePane->OnShownText = [this] { return FWorkspace ? FWorkspace->ShownText() : TStrings(); };
   FStorePane->OnSettled = [this] { QueryLoaded(); };
   FStorePane->OnOrderChange = [this] {
     if (!FWorkspace) return;

@@ -177,9 +177,12 @@ void TMainWindow::TellFormerQueries(const TSource& former) {
            if (Requests.Open) Requests.Open(former);
          }},
         {tr("Copy them here"), [this, former] {
-           int count = 0;
-           if (!FWorkspace || !Try([&] { count = FWorkspace->CopyQueries(former); })) return;
-           statusBar()->showMessage(tr("%n query(ies) copied.", nullptr, count), 10'000);
+           if (!FWorkspace) return;
+           const int before = FWorkspace->Store().Count();
+           const bool isDone = Try([&] { FWorkspace->CopyQueries(former); });
+           const int count = FWorkspace ? FWorkspace->Store().Count() - before : 0;
+           // A fault half-way leaves those before it here.
+           if (isDone || count > 0) statusBar()->showMessage(tr("%n query(ies) copied.", nullptr, count), 10'000);
          }}});
 }
 

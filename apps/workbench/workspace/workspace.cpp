@@ -9,6 +9,7 @@
 #include <tolvi/foundation/files.h>
 #include <tolvi/model/formatpresets.h>
 #include <tolvi/model/modelfill.h>
+#include <tolvi/query/queryhead.h>
 #include <tolvi/store/fileqrybase.h>
 #include <tolvi/ui/qtext.h>
 #include <tolvi/xml/modelxml.h>
@@ -57,6 +58,10 @@ void AddFirstColumns(TJQueryPanel& panel, TJDBStructure& model) {
     panel.RFields().Add(field);
     ++count;
   }
+}
+
+std::string NumberedName(const std::string& name, int number) {
+  return number == 1 ? name : name + " (" + std::to_string(number) + ")";
 }
 
 }  // namespace
@@ -239,15 +244,28 @@ int TWorkspace::CopyQueries(const TSource& from) {
   int count = 0;
   for (int i = 0; i < store->Count(); ++i) {
     TJStoredQuery& query = store->GetStoredQuery(i);
-    TStrings text, here;
+    const std::string name = query.GetQueryName();
+    TStrings text;
     query.LoadContent(text);
-    const int known = FStore->IndexByName(query.GetQueryName());
-    if (known >= 0) FStore->GetStoredQuery(known).LoadContent(here);
-    if (known >= 0 && here == text) continue;
-    FStore->AddQuery(FreeName(query.GetQueryName()), text);
+    if (HasCopy(name, text)) continue;
+    FStore->AddQuery(FreeName(name), text);
     ++count;
   }
   return count;
+}
+
+bool TWorkspace::HasCopy(const std::string& name, const TStrings& text) const {
+  const auto named = [&name](const TStrings& lines) {
+    return WithQueryHead(lines, {.Name = name, .Description = ReadQueryHead(lines.GetText()).Description});
+  };
+  const TStrings wanted = named(text);
+  for (int number = 1;; ++number) {
+    const int known = FStore->IndexByName(NumberedName(name, number));
+    if (known < 0) return false;
+    TStrings here;
+    FStore->GetStoredQuery(known).LoadContent(here);
+    if (named(here) == wanted) return true;
+  }
 }
 
 TJStoredQuery* TWorkspace::CurrentQuery() const {
@@ -257,8 +275,7 @@ TJStoredQuery* TWorkspace::CurrentQuery() const {
 
 std::string TWorkspace::FreeName(const std::string& wanted) const {
   const std::string base = wanted.empty() ? "New query" : wanted;
-  return FreeQueryName(*FStore,
-                       [&](int number) { return number == 1 ? base : base + " (" + std::to_string(number) + ")"; });
+  return FreeQueryName(*FStore, [&](int number) { return NumberedName(base, number); });
 }
 
 void TWorkspace::SaveQuery() {
@@ -282,6 +299,14 @@ std::string TWorkspace::QueryText() {
   std::string text = FPanel.SaveToText();
   FPanel.SetModified(isModified);
   return text;
+}
+
+TStrings TWorkspace::ShownText() {
+  const bool isModified = FPanel.GetModified();
+  TStrings lines;
+  FLink.GetQueryContent(lines);
+  FPanel.SetModified(isModified);
+  return lines;
 }
 
 void TWorkspace::RevertQuery() {

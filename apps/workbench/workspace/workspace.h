@@ -68,6 +68,8 @@ class TWorkspace final {
 
   /// The text of the query as it is, be it stored or not.
   std::string QueryText();
+  /// The same for the current query of the store; empty when something else is shown, as the query cannot be read.
+  TStrings ShownText();
   /// Whether the query differs from the stored one.
   bool IsQueryModified() const { return FPanel.GetModified(); }
   /// Stores the query; one that no query of the store is shown for becomes a new one. Raises `EQueryConflictError` and
@@ -79,7 +81,8 @@ class TWorkspace final {
   /// Where the source's queries are, for people: a folder, or "" for the database itself. The source is one of this
   /// database.
   QString QueryFolderOf(const TSource& source) const;
-  /// Adds the queries that are kept where that source has them, but for those that are here already; how many.
+  /// Adds the queries that are kept where that source has them, but for those that are here already, be it with a
+  /// number behind the name; how many. Those before one that cannot be copied stay.
   int CopyQueries(const TSource& from);
 
   /// What is not stored; puts back what was not. A query that the store lost becomes a new one there.
@@ -97,6 +100,7 @@ class TWorkspace final {
   void KeepNewModel();
   TJStoredQuery* CurrentQuery() const;
   std::string FreeName(const std::string& wanted) const;
+  bool HasCopy(const std::string& name, const TStrings& text) const;
 
   TSource FSource;
   const QString FFolder;
