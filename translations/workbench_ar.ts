@@ -626,7 +626,7 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <translation>مساعدة (&amp;H)</translation>
     </message>
     <message>
-        <source>&amp;Keyboard short cuts</source>
+        <source>&amp;Keyboard shortcuts</source>
         <translation>اختصارات لوحة المفاتيح (&amp;K)</translation>
     </message>
     <message>
@@ -909,7 +909,7 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <translation>عدد الصفوف %1. هل تريد طباعتها كلها أم أول %2 منها؟</translation>
     </message>
     <message>
-        <source>&amp;First %1 Rows</source>
+        <source>&amp;First %1 rows</source>
         <translation>أول %1 من الصفوف (&amp;F)</translation>
     </message>
     <message>
@@ -920,7 +920,7 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
 <context>
     <name>tolvi::TProgram</name>
     <message>
-        <source>The sample is as new. The former one is in %1.</source>
+        <source>The sample is as good as new. The former one is in %1.</source>
         <translation>عادت القاعدة التجريبية كما كانت في البداية. النسخة السابقة في %1.</translation>
     </message>
     <message>
@@ -1018,7 +1018,7 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <translation>نسخ (&amp;C)</translation>
     </message>
     <message>
-        <source>Copy with &amp;Headers</source>
+        <source>Copy with &amp;headers</source>
         <translation>نسخ مع العناوين (&amp;H)</translation>
     </message>
     <message>
@@ -1312,7 +1312,7 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <translation>ضمن الشروط</translation>
     </message>
     <message>
-        <source>Keyboard short cuts</source>
+        <source>Keyboard shortcuts</source>
         <translation>اختصارات لوحة المفاتيح</translation>
     </message>
     <message>
@@ -1386,11 +1386,11 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <translation>نسخ العبارة كاملة</translation>
     </message>
     <message>
-        <source>Copy with &amp;Values</source>
+        <source>Copy with &amp;values</source>
         <translation>نسخ مع القيم (&amp;V)</translation>
     </message>
     <message>
-        <source>Copy with &amp;Parameters as ?</source>
+        <source>Copy with &amp;parameters as ?</source>
         <translation>نسخ مع كتابة المعلمات بالشكل ? (&amp;P)</translation>
     </message>
     <message>

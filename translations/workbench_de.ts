@@ -606,7 +606,7 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>&amp;Keyboard short cuts</source>
+        <source>&amp;Keyboard shortcuts</source>
         <translation>&amp;Tastenkürzel</translation>
     </message>
     <message>
@@ -857,7 +857,7 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <translation>Es sind %1 Zeilen. Alle drucken oder nur die ersten %2?</translation>
     </message>
     <message>
-        <source>&amp;First %1 Rows</source>
+        <source>&amp;First %1 rows</source>
         <translation>&amp;Erste %1 Zeilen</translation>
     </message>
     <message>
@@ -868,7 +868,7 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
 <context>
     <name>tolvi::TProgram</name>
     <message>
-        <source>The sample is as new. The former one is in %1.</source>
+        <source>The sample is as good as new. The former one is in %1.</source>
         <translation>Das Beispiel ist wie neu. Das bisherige liegt in %1.</translation>
     </message>
     <message>
@@ -966,7 +966,7 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <translation>&amp;Kopieren</translation>
     </message>
     <message>
-        <source>Copy with &amp;Headers</source>
+        <source>Copy with &amp;headers</source>
         <translation>&amp;Mit Überschriften kopieren</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <translation>In den Bedingungen</translation>
     </message>
     <message>
-        <source>Keyboard short cuts</source>
+        <source>Keyboard shortcuts</source>
         <translation>Tastenkürzel</translation>
     </message>
     <message>
@@ -1314,11 +1314,11 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <translation>Die ganze Anweisung kopieren</translation>
     </message>
     <message>
-        <source>Copy with &amp;Values</source>
+        <source>Copy with &amp;values</source>
         <translation>Mit &amp;Werten kopieren</translation>
     </message>
     <message>
-        <source>Copy with &amp;Parameters as ?</source>
+        <source>Copy with &amp;parameters as ?</source>
         <translation>Mit &amp;Parametern als ? kopieren</translation>
     </message>
     <message>

@@ -606,7 +606,7 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <translation>A&amp;yuda</translation>
     </message>
     <message>
-        <source>&amp;Keyboard short cuts</source>
+        <source>&amp;Keyboard shortcuts</source>
         <translation>&amp;Atajos de teclado</translation>
     </message>
     <message>
@@ -857,7 +857,7 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <translation>Hay %1 filas. ¿Desea imprimirlas todas o solo las primeras %2?</translation>
     </message>
     <message>
-        <source>&amp;First %1 Rows</source>
+        <source>&amp;First %1 rows</source>
         <translation>&amp;Primeras %1 filas</translation>
     </message>
     <message>
@@ -868,7 +868,7 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
 <context>
     <name>tolvi::TProgram</name>
     <message>
-        <source>The sample is as new. The former one is in %1.</source>
+        <source>The sample is as good as new. The former one is in %1.</source>
         <translation>La base de datos de ejemplo está como nueva. La anterior está en %1.</translation>
     </message>
     <message>
@@ -966,7 +966,7 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <translation>&amp;Copiar</translation>
     </message>
     <message>
-        <source>Copy with &amp;Headers</source>
+        <source>Copy with &amp;headers</source>
         <translation>Copiar con &amp;encabezados</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <translation>En las condiciones</translation>
     </message>
     <message>
-        <source>Keyboard short cuts</source>
+        <source>Keyboard shortcuts</source>
         <translation>Atajos de teclado</translation>
     </message>
     <message>
@@ -1314,11 +1314,11 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <translation>Copiar la instrucción completa</translation>
     </message>
     <message>
-        <source>Copy with &amp;Values</source>
+        <source>Copy with &amp;values</source>
         <translation>Copiar con &amp;valores</translation>
     </message>
     <message>
-        <source>Copy with &amp;Parameters as ?</source>
+        <source>Copy with &amp;parameters as ?</source>
         <translation>Copiar con &amp;parámetros como ?</translation>
     </message>
     <message>

@@ -606,7 +606,7 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <translation>A&amp;ide</translation>
     </message>
     <message>
-        <source>&amp;Keyboard short cuts</source>
+        <source>&amp;Keyboard shortcuts</source>
         <translation>&amp;Raccourcis clavier</translation>
     </message>
     <message>
@@ -857,7 +857,7 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <translation>Il y a %1 lignes. Les imprimer toutes, ou seulement les %2 premières&#xa0;?</translation>
     </message>
     <message>
-        <source>&amp;First %1 Rows</source>
+        <source>&amp;First %1 rows</source>
         <translation>Les %1 &amp;premières lignes</translation>
     </message>
     <message>
@@ -868,7 +868,7 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
 <context>
     <name>tolvi::TProgram</name>
     <message>
-        <source>The sample is as new. The former one is in %1.</source>
+        <source>The sample is as good as new. The former one is in %1.</source>
         <translation>L’exemple est comme neuf. L’ancien se trouve dans %1.</translation>
     </message>
     <message>
@@ -966,7 +966,7 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <translation>&amp;Copier</translation>
     </message>
     <message>
-        <source>Copy with &amp;Headers</source>
+        <source>Copy with &amp;headers</source>
         <translation>Copier avec les &amp;en-têtes</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <translation>Dans les conditions</translation>
     </message>
     <message>
-        <source>Keyboard short cuts</source>
+        <source>Keyboard shortcuts</source>
         <translation>Raccourcis clavier</translation>
     </message>
     <message>
@@ -1314,11 +1314,11 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <translation>Copier l’instruction entière</translation>
     </message>
     <message>
-        <source>Copy with &amp;Values</source>
+        <source>Copy with &amp;values</source>
         <translation>Copier avec les &amp;valeurs</translation>
     </message>
     <message>
-        <source>Copy with &amp;Parameters as ?</source>
+        <source>Copy with &amp;parameters as ?</source>
         <translation>Copier avec les &amp;paramètres en ?</translation>
     </message>
     <message>

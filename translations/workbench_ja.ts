@@ -601,7 +601,7 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
-        <source>&amp;Keyboard short cuts</source>
+        <source>&amp;Keyboard shortcuts</source>
         <translation>キーボードショートカット(&amp;K)</translation>
     </message>
     <message>
@@ -844,7 +844,7 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>%1 行あります。すべて印刷しますか、それとも最初の %2 行だけ印刷しますか？</translation>
     </message>
     <message>
-        <source>&amp;First %1 Rows</source>
+        <source>&amp;First %1 rows</source>
         <translation>最初の %1 行(&amp;F)</translation>
     </message>
     <message>
@@ -855,7 +855,7 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
 <context>
     <name>tolvi::TProgram</name>
     <message>
-        <source>The sample is as new. The former one is in %1.</source>
+        <source>The sample is as good as new. The former one is in %1.</source>
         <translation>サンプルを作り直しました。以前のサンプルは %1 にあります。</translation>
     </message>
     <message>
@@ -953,7 +953,7 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>コピー(&amp;C)</translation>
     </message>
     <message>
-        <source>Copy with &amp;Headers</source>
+        <source>Copy with &amp;headers</source>
         <translation>見出し付きでコピー(&amp;H)</translation>
     </message>
     <message>
@@ -1222,7 +1222,7 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>条件で</translation>
     </message>
     <message>
-        <source>Keyboard short cuts</source>
+        <source>Keyboard shortcuts</source>
         <translation>キーボードショートカット</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>SQL 文全体をコピーします</translation>
     </message>
     <message>
-        <source>Copy with &amp;Values</source>
+        <source>Copy with &amp;values</source>
         <translation>値を含めてコピー(&amp;V)</translation>
     </message>
     <message>
-        <source>Copy with &amp;Parameters as ?</source>
+        <source>Copy with &amp;parameters as ?</source>
         <translation>パラメーターを ? にしてコピー(&amp;P)</translation>
     </message>
     <message>

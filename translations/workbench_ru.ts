@@ -611,7 +611,7 @@ Tolvi распространяется по лицензии MIT. Посколь
         <translation>&amp;Справка</translation>
     </message>
     <message>
-        <source>&amp;Keyboard short cuts</source>
+        <source>&amp;Keyboard shortcuts</source>
         <translation>Сочетания &amp;клавиш</translation>
     </message>
     <message>
@@ -870,7 +870,7 @@ Tolvi распространяется по лицензии MIT. Посколь
         <translation>Число строк: %1. Напечатать все или только первые %2?</translation>
     </message>
     <message>
-        <source>&amp;First %1 Rows</source>
+        <source>&amp;First %1 rows</source>
         <translation>&amp;Первые %1 строк</translation>
     </message>
     <message>
@@ -881,7 +881,7 @@ Tolvi распространяется по лицензии MIT. Посколь
 <context>
     <name>tolvi::TProgram</name>
     <message>
-        <source>The sample is as new. The former one is in %1.</source>
+        <source>The sample is as good as new. The former one is in %1.</source>
         <translation>Пример восстановлен. Прежний находится в %1.</translation>
     </message>
     <message>
@@ -979,7 +979,7 @@ Tolvi распространяется по лицензии MIT. Посколь
         <translation>&amp;Копировать</translation>
     </message>
     <message>
-        <source>Copy with &amp;Headers</source>
+        <source>Copy with &amp;headers</source>
         <translation>Копировать с &amp;заголовками</translation>
     </message>
     <message>
@@ -1258,7 +1258,7 @@ Tolvi распространяется по лицензии MIT. Посколь
         <translation>В условиях</translation>
     </message>
     <message>
-        <source>Keyboard short cuts</source>
+        <source>Keyboard shortcuts</source>
         <translation>Сочетания клавиш</translation>
     </message>
     <message>
@@ -1332,11 +1332,11 @@ Tolvi распространяется по лицензии MIT. Посколь
         <translation>Копировать инструкцию целиком</translation>
     </message>
     <message>
-        <source>Copy with &amp;Values</source>
+        <source>Copy with &amp;values</source>
         <translation>Копировать со &amp;значениями</translation>
     </message>
     <message>
-        <source>Copy with &amp;Parameters as ?</source>
+        <source>Copy with &amp;parameters as ?</source>
         <translation>Копировать с &amp;параметрами как ?</translation>
     </message>
     <message>

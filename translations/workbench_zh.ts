@@ -601,7 +601,7 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
-        <source>&amp;Keyboard short cuts</source>
+        <source>&amp;Keyboard shortcuts</source>
         <translation>键盘快捷键(&amp;K)</translation>
     </message>
     <message>
@@ -844,7 +844,7 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>共有 %1 行。要全部打印，还是仅打印前 %2 行？</translation>
     </message>
     <message>
-        <source>&amp;First %1 Rows</source>
+        <source>&amp;First %1 rows</source>
         <translation>前 %1 行(&amp;F)</translation>
     </message>
     <message>
@@ -855,7 +855,7 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
 <context>
     <name>tolvi::TProgram</name>
     <message>
-        <source>The sample is as new. The former one is in %1.</source>
+        <source>The sample is as good as new. The former one is in %1.</source>
         <translation>示例已恢复原样。原来的示例保存在 %1。</translation>
     </message>
     <message>
@@ -953,7 +953,7 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>复制(&amp;C)</translation>
     </message>
     <message>
-        <source>Copy with &amp;Headers</source>
+        <source>Copy with &amp;headers</source>
         <translation>连同标题复制(&amp;H)</translation>
     </message>
     <message>
@@ -1222,7 +1222,7 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>在条件中</translation>
     </message>
     <message>
-        <source>Keyboard short cuts</source>
+        <source>Keyboard shortcuts</source>
         <translation>键盘快捷键</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>复制整个语句</translation>
     </message>
     <message>
-        <source>Copy with &amp;Values</source>
+        <source>Copy with &amp;values</source>
         <translation>连同值复制(&amp;V)</translation>
     </message>
     <message>
-        <source>Copy with &amp;Parameters as ?</source>
+        <source>Copy with &amp;parameters as ?</source>
         <translation>复制，参数写作 ?(&amp;P)</translation>
     </message>
     <message>

@@ -455,7 +455,7 @@ TEST_F(Workbench, ListsTheKeysOfMenusAndPanes) {
   });
   Window().findChild<QAction*>(QStringLiteral("help.shortcuts"))->trigger();
   for (const char* wanted : {"Query|Save|Ctrl+S", "Among the conditions|Undo|Ctrl+Z",
-                             "In the list of queries|Move up|Alt+Up", "Among the rows|Copy with Headers|Ctrl+Shift+C",
+                             "In the list of queries|Move up|Alt+Up", "Among the rows|Copy with headers|Ctrl+Shift+C",
                              "Among the rows|Show value|F2  ·  Return  ·  Enter", "In the SQL|Select all|Ctrl+A"}) {
     EXPECT_TRUE(lines.contains(QString::fromUtf8(wanted))) << wanted << '\n' << lines.join(u'\n').toStdString();
   }

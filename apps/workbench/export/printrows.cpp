@@ -155,7 +155,7 @@ size_t AskCount(QWidget* parent, size_t count) {
   const QString all = locale.toString(qulonglong{count}), some = locale.toString(qulonglong{PrintedRowsUnasked});
   const auto answer = AskChoice(parent, QStringLiteral("print"),
                                 TTexts::tr("There are %1 rows. Print them all, or the first %2?").arg(all, some),
-                                {{QStringLiteral("first"), TTexts::tr("&First %1 Rows").arg(some)},
+                                {{QStringLiteral("first"), TTexts::tr("&First %1 rows").arg(some)},
                                  {QStringLiteral("all"), TTexts::tr("&All rows")}});
   if (!answer) return 0;
   return *answer == 0 ? PrintedRowsUnasked : count;

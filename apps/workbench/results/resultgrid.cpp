@@ -41,7 +41,7 @@ const std::vector<TGridCommand>& GridCommands() {
   static const std::vector<TGridCommand> commands{
       {TGridKey::Copy, QT_TRANSLATE_NOOP("tolvi::TResultGrid", "&Copy"), {QKeySequence(QKeySequence::Copy)}},
       {TGridKey::CopyWithHeaders,
-       QT_TRANSLATE_NOOP("tolvi::TResultGrid", "Copy with &Headers"),
+       QT_TRANSLATE_NOOP("tolvi::TResultGrid", "Copy with &headers"),
        {Qt::CTRL | Qt::SHIFT | Qt::Key_C}},
       {TGridKey::SelectAll,
        QT_TRANSLATE_NOOP("tolvi::TResultGrid", "Select &all"),

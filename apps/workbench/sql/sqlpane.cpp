@@ -113,7 +113,7 @@ void TSqlPane::FillCopyMenu() {
   FCopy->setPopupMode(QToolButton::MenuButtonPopup);
   FCopy->setFocusPolicy(Qt::StrongFocus);
   auto* menu = new QMenu(FCopy);
-  QAction* values = menu->addAction(tr("Copy with &Values"));
+  QAction* values = menu->addAction(tr("Copy with &values"));
   values->setObjectName(QStringLiteral("sql.copy.values"));
   connect(values, &QAction::triggered, this, &TSqlPane::Copy);
   menu->addSeparator();
@@ -122,7 +122,7 @@ void TSqlPane::FillCopyMenu() {
     QString caption;
     const char* name;
   };
-  const TMarkers markers[] = {{msQuestion, tr("Copy with &Parameters as ?"), "sql.copy.question"},
+  const TMarkers markers[] = {{msQuestion, tr("Copy with &parameters as ?"), "sql.copy.question"},
                               {msColonName, tr("Copy with parameters as :&Name"), "sql.copy.colon"},
                               {msDollarNumber, tr("Copy with parameters as $&1"), "sql.copy.dollar"}};
   for (const TMarkers& entry : markers) {

@@ -308,7 +308,7 @@ void TMainWindow::BuildThemeMenu(QMenu& parent) {
 
 void TMainWindow::BuildHelpMenu() {
   QMenu& menu = *AddMenu(QStringLiteral("menu.help"), tr("&Help"));
-  AddCommand(menu, QStringLiteral("help.shortcuts"), tr("&Keyboard short cuts"), QKeySequence::HelpContents, [this] {
+  AddCommand(menu, QStringLiteral("help.shortcuts"), tr("&Keyboard shortcuts"), QKeySequence::HelpContents, [this] {
     QList<QAction*> conditions;
     for (const TPanelCommandInfo& info : PanelCommands()) {
       conditions << &FQueryArea->Conditions().GetAction(info.Command);

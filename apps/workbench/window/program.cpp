@@ -213,7 +213,7 @@ void TProgram::RestoreSample() {
     const QString kept = tolvi::RestoreSample(SampleFolder());
     OpenSample();
     if (!kept.isEmpty())
-      FWindow->Tell(tr("The sample is as new. The former one is in %1.").arg(QDir::toNativeSeparators(kept)));
+      FWindow->Tell(tr("The sample is as good as new. The former one is in %1.").arg(QDir::toNativeSeparators(kept)));
   } catch (const EException& error) {
     FWindow->TellFault(QString::fromUtf8(error.what()));
   }

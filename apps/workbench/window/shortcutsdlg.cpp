@@ -62,7 +62,7 @@ void ShowFound(QTreeWidget& tree, const QString& wanted) {
 void ShowShortcuts(QMainWindow& window, const TPaneKeys& panes) {
   QDialog dialog(&window);
   dialog.setObjectName(QStringLiteral("shortcuts"));
-  dialog.setWindowTitle(TTexts::tr("Keyboard short cuts"));
+  dialog.setWindowTitle(TTexts::tr("Keyboard shortcuts"));
   auto* search = new QLineEdit;
   search->setObjectName(QStringLiteral("shortcuts.search"));
   search->setPlaceholderText(TTexts::tr("Search"));
