@@ -1,7 +1,6 @@
 #include "apps/workbench/controls/askchoice.h"
 
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
 
@@ -21,8 +20,7 @@ std::optional<std::size_t> AskChoice(QWidget* parent, const QString& name, const
   };
   std::vector<QAbstractButton*> buttons;
   for (const TChoice& choice : choices) {
-    const auto role = buttons.empty() ? QMessageBox::AcceptRole : QMessageBox::DestructiveRole;
-    QPushButton* button = add(choice.Name, choice.Caption, role);
+    QPushButton* button = add(choice.Name, choice.Caption, choice.Role);
     if (buttons.empty()) box.setDefaultButton(button);
     buttons.push_back(button);
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMessageBox>
 #include <QString>
 #include <cstddef>
 #include <optional>
@@ -13,6 +14,8 @@ struct TChoice {
   /// Of the button, for scripts, behind the name of the box and a point.
   QString Name;
   QString Caption;
+  /// What the system places and marks the button by.
+  QMessageBox::ButtonRole Role = QMessageBox::AcceptRole;
 };
 
 /// Asks in a message box of that name. The number of the choice, of which the first is the default; nothing for Cancel,

@@ -31,8 +31,9 @@ namespace {
 enum TLeaving : std::uint8_t { lvSave, lvDiscard, lvStay };
 
 TLeaving AskToLeave(QWidget* parent, const QString& question, const QString& save, const QString& discard) {
-  const auto answer = AskChoice(parent, QStringLiteral("ask"), question,
-                                {{QStringLiteral("save"), save}, {QStringLiteral("discard"), discard}});
+  const auto answer =
+      AskChoice(parent, QStringLiteral("ask"), question,
+                {{QStringLiteral("save"), save}, {QStringLiteral("discard"), discard, QMessageBox::DestructiveRole}});
   if (!answer) return lvStay;
   return *answer == 0 ? lvSave : lvDiscard;
 }
