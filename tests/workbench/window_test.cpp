@@ -442,6 +442,33 @@ TEST_F(Workbench, LeadsByKeyToWhatIsSeen) {
   EXPECT_EQ(press(Qt::Key_4), QStringLiteral("results.run"));
 }
 
+TEST_F(Workbench, LeadsByTabToAllThatCanBeUsed) {
+  Window().Tell(QStringLiteral("Words"), {{QStringLiteral("One"), {}}, {QStringLiteral("Two"), {}}});
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  user::Press(Window(), Qt::Key_0, Qt::AltModifier);
+  QWidget* const begin = QApplication::focusWidget();
+  ASSERT_EQ(begin->objectName(), QStringLiteral("note.choice1"));
+  for (const bool back : {false, true}) {
+    QStringList way;
+    begin->setFocus();
+    constexpr int Most = 100;
+    for (int i = 0; i < Most && (i == 0 || QApplication::focusWidget() != begin); ++i) {
+      const QString name = QApplication::focusWidget()->objectName();
+      const bool isColumn = Window().QueryArea().Columns().isAncestorOf(QApplication::focusWidget());
+      way << (isColumn ? QStringLiteral("column") : name);
+      user::Press(Window(), back ? Qt::Key_Backtab : Qt::Key_Tab);
+    }
+    EXPECT_EQ(QApplication::focusWidget(), begin) << "not all round";
+    // Each row of the columns has three parts; the label that adds one comes behind them.
+    EXPECT_EQ(way.count(QStringLiteral("column")), 3 * Panel().RFields().Count() + 1);
+    for (const char* name :
+         {"note.choice2", "note.close", "store.search", "store.list", "store.moreButton", "value2", "addRowLabel",
+          "results.run", "results.grid", "sql.dialect", "sql.copy", "sql.paste", "sql.view"}) {
+      EXPECT_EQ(way.count(QLatin1String(name)), 1) << name << (back ? " back" : "");
+    }
+  }
+}
+
 TEST_F(Workbench, ListsTheKeysOfMenusAndPanes) {
   QStringList lines;
   QTimer::singleShot(0, &Window(), [&] {

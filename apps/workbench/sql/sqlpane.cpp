@@ -64,7 +64,6 @@ TSqlPane::TSqlPane(QWidget* parent) : QWidget(parent) {
   layout->addWidget(FView, 1);
   MakeTold();
   layout->addWidget(FToldArea);
-  setFocusProxy(FView);
   SetStatement({});
 }
 

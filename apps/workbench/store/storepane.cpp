@@ -87,7 +87,6 @@ TStorePane::TStorePane(QWidget* parent)
   connect(FSyncTimer, &QTimer::timeout, this, &TStorePane::Sync);
   connect(FActivateTimer, &QTimer::timeout, this, &TStorePane::Activate);
   FNote->OnClose = [this] { FNote->IsFault() ? ShowErased() : FErased.clear(); };
-  setFocusProxy(FList);
   Sync();
 }
 

@@ -18,6 +18,7 @@
 #include "apps/workbench/window/aboutdlg.h"
 #include "apps/workbench/window/languages.h"
 #include "apps/workbench/window/mainwindow.h"
+#include "apps/workbench/window/notebar.h"
 #include "apps/workbench/window/queryarea.h"
 #include "apps/workbench/window/settingsdlg.h"
 #include "apps/workbench/window/shortcutsdlg.h"
@@ -254,6 +255,8 @@ void TMainWindow::BuildViewMenu() {
   go(QStringLiteral("view.chart"), tr("Go to the c&hart"), 5,
      FChartPane->findChild<QWidget*>(QStringLiteral("chart.kind")), FChartPane);
   go(QStringLiteral("view.sql"), tr("Go to the &SQL"), 6, FSqlPane->findChild<QWidget*>(QStringLiteral("sql.view")));
+  AddCommand(menu, QStringLiteral("view.note"), tr("Go to the &note"), QKeySequence(QStringLiteral("Alt+0")),
+             [this] { FNote->GoThere(); });
   menu.addSeparator();
   BuildLanguageMenu(menu);
   BuildThemeMenu(menu);

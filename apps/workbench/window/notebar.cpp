@@ -23,13 +23,13 @@ TNoteBar::TNoteBar(QWidget* parent) : QFrame(parent), FWords(new QLabel), FChoic
   FWords->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   auto* closing = new QAction(SignIcon(sgTimes, *this), tr("Close this note"), this);
   connect(closing, &QAction::triggered, this, &TNoteBar::Answered);
-  QToolButton* close = MakeSignButton(*closing, *this);
-  close->setObjectName(QStringLiteral("note.close"));
+  FClose = MakeSignButton(*closing, *this);
+  FClose->setObjectName(QStringLiteral("note.close"));
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(8, 4, 4, 4);
   line->addWidget(FWords, 1);
   line->addLayout(FChoices);
-  line->addWidget(close);
+  line->addWidget(FClose);
   hide();
 }
 
@@ -77,20 +77,32 @@ void TNoteBar::ShowNote(const TNote& note) {
   while (QLayoutItem* item = FChoices->takeAt(0)) {
     // A choice may be what tells the next note.
     item->widget()->hide();
+    item->widget()->setObjectName({});
     item->widget()->deleteLater();
     delete item;
   }
+  QWidget* before = FWords;
+  int number = 0;
   for (const auto& [caption, run] : note.Choices) {
     auto* button = new QPushButton(caption);
+    button->setObjectName(QStringLiteral("note.choice%1").arg(++number));
     connect(button, &QPushButton::clicked, this, [this, call = run] {
       Answered();
       if (call) call();
     });
     FChoices->addWidget(button);
+    setTabOrder(before, button);
+    before = button;
   }
+  setTabOrder(before, FClose);
   show();
   QAccessibleEvent event(FWords, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
+}
+
+void TNoteBar::GoThere() {
+  QWidget* first = FChoices->isEmpty() ? FClose : FChoices->itemAt(0)->widget();
+  if (!isHidden()) first->setFocus(Qt::ShortcutFocusReason);
 }
 
 QString TNoteBar::GetWords() const { return isHidden() ? QString() : FWords->text(); }

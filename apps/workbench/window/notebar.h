@@ -22,7 +22,8 @@ class TNoteBar final : public QFrame {
 
   explicit TNoteBar(QWidget* parent = nullptr);
 
-  /// In the place of the note before of the same topic.
+  /// In the place of the note before of the same topic. The buttons are "note.choice1", "note.choice2", ..., for
+  /// scripts.
   void Tell(const QString& words, const std::vector<TChoice>& choices = {}, const QString& topic = {});
   /// The note of the moment goes.
   void Pass() { Withdraw({}); }
@@ -32,6 +33,8 @@ class TNoteBar final : public QFrame {
   QStringList GetTopics() const;
   /// Of the note that is shown; empty for none.
   QString GetWords() const;
+  /// Gives the focus to the first of the things to do, if there is a note.
+  void GoThere();
 
  private:
   struct TNote {
@@ -47,6 +50,7 @@ class TNoteBar final : public QFrame {
 
   QLabel* FWords;
   QHBoxLayout* FChoices;
+  QWidget* FClose;
   // The first one is shown; that of the moment goes before those that stay.
   std::vector<TNote> FNotes;
   unsigned FShown = 0, FTold = 0;

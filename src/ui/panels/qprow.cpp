@@ -25,6 +25,10 @@ constexpr double offPart = 0.55;                        // of the text colour in
 constexpr std::size_t collapsedLimit = 400;             // bytes of the rows' sentences in a collapsed bracket
 
 /// Whether the part can be changed. Words of SQL and of what the model lacks stay as they are.
+/// The view leads from part to part. In the order of the window, where new widgets come behind all others, the view
+/// stands for them.
+void LeaveTabToView(QWidget& part) { part.setFocusPolicy(Qt::ClickFocus); }
+
 bool IsLabel(TPhraseKind kind) { return kind != pkText && kind != pkSQL; }
 
 }  // namespace
@@ -35,6 +39,7 @@ TQPRow::TQPRow(TJQueryPanelView& view, TFilterRow& row, QWidget* parent)
   // A role that editors which take the palette over do not draw with.
   setBackgroundRole(QPalette::ToolTipBase);
   FButton->setObjectName(QStringLiteral("rowButton"));
+  LeaveTabToView(*FButton);
   FButton->OnClick = [this](TJRndBtn& button) {
     if (FRow != nullptr) FView.OpenRowMenu(*this, button.mapToGlobal(QPoint(0, button.height())));
   };
@@ -42,6 +47,7 @@ TQPRow::TQPRow(TJQueryPanelView& view, TFilterRow& row, QWidget* parent)
   view.Drag().Watch(*FButton);
   if (row.GetParentBracket() == nullptr) return;
   FCheckBox = new TJFlatCheckBox(this);
+  LeaveTabToView(*FCheckBox);
   FCheckBox->OnClick = [this](TJFlatCheckBox& box) {
     if (FRow == nullptr) return;
     const bool on = box.isChecked();
@@ -110,6 +116,7 @@ TDropDownLabel* TQPRow::MakeLabel(const TPart& part) {
     label = new TDropDownListBox(this);
     label->setObjectName(part.Kind == pkOperator ? QStringLiteral("operator") : QStringLiteral("linkWord"));
   }
+  LeaveTabToView(*label);
   if (auto* action = qobject_cast<TQPActionLabel*>(label)) {
     action->OnOpen = [this, action] {
       const TPart* own = PartOf(*action);

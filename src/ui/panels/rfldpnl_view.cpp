@@ -88,12 +88,13 @@ void TJResultFieldsPanel::changeEvent(QEvent* event) {
 // Focus
 
 void TJResultFieldsPanel::ChainTabs(std::size_t from) {
-  QWidget* previous = from > 0 && from <= FRows.Count() ? &FRows[from - 1].GetSortLabel() : nullptr;
+  // The first row comes behind the panel itself, so that Tab finds it between its neighbours in the window.
+  QWidget* previous = from > 0 && from <= FRows.Count() ? static_cast<QWidget*>(&FRows[from - 1].GetSortLabel()) : this;
   for (std::size_t i = from; i < FRows.Count(); ++i) {
     for (const TRFRowPart part : {rpButton, rpField, rpSorting}) {
       QWidget* next = &FRows[i].GetPart(part);
       if (next == previous) continue;
-      if (previous != nullptr) QWidget::setTabOrder(previous, next);
+      QWidget::setTabOrder(previous, next);
       previous = next;
     }
   }
