@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -113,6 +114,7 @@ TEST_F(Program, StaysAliveWhileAServerIsSilentAndCanStopWaiting) {
     const TUser user({[&](QWidget& dialog) {
       const auto* words = dialog.findChild<QLabel*>(QStringLiteral("opening.words"));
       EXPECT_EQ(FromQString(words->text()), "Waiting for " + Silent(server).Url + "...");
+      EXPECT_EQ(dialog.findChild<QProgressBar*>()->accessibleName(), QStringLiteral("Open a database"));
       return Click(dialog, "opening.cancel");
     }});
     EXPECT_FALSE(FProgram->Open(Silent(server)));

@@ -166,6 +166,7 @@ QWidget* T_dlgConnection::MakeTestRow() {
   FBusy = new QProgressBar(row);
   FBusy->setRange(0, 0);
   FBusy->setTextVisible(false);
+  FBusy->setAccessibleName(windowTitle());
   FBusy->hide();
   FTold = new QLabel(row);
   FTold->setObjectName(QStringLiteral("connection.told"));

@@ -1,5 +1,6 @@
 #include "apps/workbench/window/openingdlg.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -40,6 +41,7 @@ class TOpeningDialog final : public QDialog {
     auto* busy = new QProgressBar(this);
     busy->setRange(0, 0);
     busy->setTextVisible(false);
+    busy->setAccessibleName(windowTitle());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("opening.cancel"));
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -57,10 +59,17 @@ class TOpeningDialog final : public QDialog {
 
  private:
   void Look() {
-    if (FOpening.IsConnected()) return FWords->setText(FReading);
+    if (FOpening.IsConnected()) return SetWords(FReading);
     if (!FSince.hasExpired(FServerPatience)) return;
     FIsLate = true;
     reject();
+  }
+
+  void SetWords(const QString& words) {
+    if (words == FWords->text()) return;
+    FWords->setText(words);
+    QAccessibleEvent event(FWords, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
   }
 
   const TOpening& FOpening;
