@@ -28,6 +28,7 @@
 #include "apps/workbench/window/queryarea.h"
 #include "apps/workbench/window/themes.h"
 #include "tests/ui/userevents.h"
+#include <tolvi/foundation/files.h>
 #include <tolvi/panel/paneleditor.h>
 #include <tolvi/ui/qtext.h>
 
@@ -171,6 +172,31 @@ TEST_F(Workbench, TellsInAFewWordsWhatIsNewInTheDatabase) {
   const QString words = Shown("note.words");
   EXPECT_TRUE(words.startsWith(QStringLiteral("New in the model: 1 new table"))) << words.toStdString();
   EXPECT_FALSE(words.contains(QStringLiteral("ft"))) << words.toStdString();
+}
+
+TEST_F(Workbench, ShowsNothingUnderTheNameOfAQueryThatCannotBeRead) {
+  const QString file = FHome.filePath(QStringLiteral("sample/queries/Bad.qry"));
+  WriteFileAtomically(ToPath(file), "no query at all");
+  Window().GetWorkspace()->Store().Refresh();
+  for (const bool atStart : {false, true}) {
+    if (atStart) FProgram->Window().close();
+    if (atStart) {
+      FProgram = std::make_unique<TProgram>(TProgram::TOptions{FHome.path()});
+      FProgram->Start();
+      EXPECT_NE(Shown("note.words"), QString());
+    } else {
+      TJStoredQueryBase& store = Window().GetWorkspace()->Store();
+      EXPECT_THROW(store.SetItemIndex(store.IndexByName("Bad")), EException);
+    }
+    EXPECT_EQ(Window().GetWorkspace()->Store().GetCurrentQuery()->GetQueryName(), "Bad");
+    EXPECT_FALSE(Window().QueryArea().isEnabled());
+    EXPECT_EQ(Panel().RootBracket().GetRowCount(), 0) << "nothing of the query before";
+    EXPECT_TRUE(Panel().RFields().Empty());
+    EXPECT_FALSE(Window().GetWorkspace()->IsQueryModified());
+  }
+  Window().GetWorkspace()->Store().SetItemIndex(0);
+  EXPECT_TRUE(Window().QueryArea().isEnabled());
+  EXPECT_EQ(ReadFile(ToPath(file)), "no query at all");
 }
 
 TEST_F(Workbench, AsksBeforeChangesAreLost) {

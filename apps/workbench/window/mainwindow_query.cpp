@@ -95,6 +95,9 @@ void TMainWindow::ShowQuery() {
 }
 
 void TMainWindow::QueryLoaded() {
+  // What would be composed there could not be saved.
+  FQueryArea->setEnabled(FWorkspace->ShowsCurrentQuery());
+  FSqlPane->SetStatement({});
   FQueryArea->ForgetSteps();
   FChartPane->SetTitle(QueryName());
   FNote->Pass();

@@ -170,14 +170,15 @@ void TProgram::Show(std::unique_ptr<TWorkspace> workspace) {
   Settings().Remember(workspace->GetSource());
   TJStoredQueryBase& store = workspace->Store();
   const QString last = Settings().LastQueries.value(SourceKey(workspace->GetSource())).toString();
+  QString notes = ToQString(workspace->GetNotes().Joined(" "));
   if (const int index = store.IndexByName(FromQString(last)); index > 0) {
     try {
       store.SetItemIndex(index);
-    } catch (const EException&) {
-      // It cannot be shown any more: the first one is.
+    } catch (const EException& error) {
+      if (!notes.isEmpty()) notes += u' ';
+      notes += ToQString(error.Message());
     }
   }
-  const QString notes = ToQString(workspace->GetNotes().Joined(" "));
   FWindow->SetWorkspace(std::move(workspace));
   FWindow->Note().Withdraw(NotOpened);
   if (!notes.isEmpty()) FWindow->Tell(notes);

@@ -309,6 +309,13 @@ TStrings TWorkspace::ShownText() {
   return lines;
 }
 
+bool TWorkspace::ShowsCurrentQuery() {
+  if (!ShownText().Empty()) return true;
+  FPanel.ClearAll();
+  FPanel.SetModified(false);
+  return false;
+}
+
 void TWorkspace::RevertQuery() {
   if (CurrentQuery() == nullptr) {
     FPanel.ClearAll();

@@ -70,6 +70,8 @@ class TWorkspace final {
   std::string QueryText();
   /// The same for the current query of the store; empty when something else is shown, as the query cannot be read.
   TStrings ShownText();
+  /// False when the current query could not be read: the panel, which may hold the one before, is emptied then.
+  bool ShowsCurrentQuery();
   /// Whether the query differs from the stored one.
   bool IsQueryModified() const { return FPanel.GetModified(); }
   /// Stores the query; one that no query of the store is shown for becomes a new one. Raises `EQueryConflictError` and
