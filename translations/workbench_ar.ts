@@ -376,6 +376,28 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
             <numerusform>الاتصال يعمل؛ عُثر على %n جدول.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check that the file can be read and no program locks it.</source>
+        <translation>
+            <numerusform>لم يرد أي جواب: تحقق من إمكانية قراءة الملف ومن أن لا برنامج يقفله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال ثانية واحدة: تحقق من إمكانية قراءة الملف ومن أن لا برنامج يقفله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال ثانيتين: تحقق من إمكانية قراءة الملف ومن أن لا برنامج يقفله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال %n ثوانٍ: تحقق من إمكانية قراءة الملف ومن أن لا برنامج يقفله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال %n ثانية: تحقق من إمكانية قراءة الملف ومن أن لا برنامج يقفله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال %n ثانية: تحقق من إمكانية قراءة الملف ومن أن لا برنامج يقفله.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check the data source and its driver.</source>
+        <translation>
+            <numerusform>لم يرد أي جواب: تحقق من مصدر البيانات ومشغّله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال ثانية واحدة: تحقق من مصدر البيانات ومشغّله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال ثانيتين: تحقق من مصدر البيانات ومشغّله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال %n ثوانٍ: تحقق من مصدر البيانات ومشغّله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال %n ثانية: تحقق من مصدر البيانات ومشغّله.</numerusform>
+            <numerusform>لم يرد أي جواب خلال %n ثانية: تحقق من مصدر البيانات ومشغّله.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TExportDialog</name>
@@ -830,6 +852,10 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
             <numerusform>حُفظ %Ln صف في %1.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Go to the &amp;note</source>
+        <translation>الانتقال إلى الملاحظة (&amp;N)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -885,6 +911,10 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
     <message>
         <source>A value is needed.</source>
         <translation>يجب إدخال قيمة.</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>على سبيل المثال %1</translation>
     </message>
 </context>
 <context>
@@ -1587,6 +1617,10 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
             <numerusform>حُذف «%1»، وقبله %n استعلامًا.</numerusform>
             <numerusform>حُذف «%1»، وقبله %n استعلام.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. It cannot be read: you cannot take that back.</source>
+        <translation>سيُحذف لدى كل من يستخدم هذا المخزن. ولا يمكن قراءته، لذا لا يمكنك التراجع عن ذلك.</translation>
     </message>
 </context>
 <context>

@@ -356,6 +356,20 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
             <numerusform>Die Verbindung funktioniert; %n Tabellen gefunden.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check that the file can be read and no program locks it.</source>
+        <translation>
+            <numerusform>Innerhalb von %n Sekunde kam keine Antwort: Prüfen Sie, ob die Datei gelesen werden kann und kein Programm sie sperrt.</numerusform>
+            <numerusform>Innerhalb von %n Sekunden kam keine Antwort: Prüfen Sie, ob die Datei gelesen werden kann und kein Programm sie sperrt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check the data source and its driver.</source>
+        <translation>
+            <numerusform>Innerhalb von %n Sekunde kam keine Antwort: Prüfen Sie die Datenquelle und ihren Treiber.</numerusform>
+            <numerusform>Innerhalb von %n Sekunden kam keine Antwort: Prüfen Sie die Datenquelle und ihren Treiber.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TExportDialog</name>
@@ -782,6 +796,10 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
             <numerusform>%Ln Zeilen stehen in %1.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Go to the &amp;note</source>
+        <translation>Zum &amp;Hinweis</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -837,6 +855,10 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
     <message>
         <source>A value is needed.</source>
         <translation>Ein Wert ist erforderlich.</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>Zum Beispiel %1</translation>
     </message>
 </context>
 <context>
@@ -1507,6 +1529,10 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
             <numerusform>„%1“ wurde gelöscht, davor %n weitere.</numerusform>
             <numerusform>„%1“ wurde gelöscht, davor %n weitere.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. It cannot be read: you cannot take that back.</source>
+        <translation>Sie wird für alle gelöscht, die diese Sammlung benutzen. Sie kann nicht gelesen werden: Das können Sie nicht zurücknehmen.</translation>
     </message>
 </context>
 <context>

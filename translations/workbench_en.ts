@@ -44,6 +44,20 @@
             <numerusform>The connection works; %n tables found.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check that the file can be read and no program locks it.</source>
+        <translation>
+            <numerusform>There was no answer within a second: check that the file can be read and no program locks it.</numerusform>
+            <numerusform>There was no answer within %n seconds: check that the file can be read and no program locks it.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check the data source and its driver.</source>
+        <translation>
+            <numerusform>There was no answer within a second: check the data source and its driver.</numerusform>
+            <numerusform>There was no answer within %n seconds: check the data source and its driver.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TMainWindow</name>

@@ -356,6 +356,20 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
             <numerusform>La conexión funciona; se han encontrado %n tablas.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check that the file can be read and no program locks it.</source>
+        <translation>
+            <numerusform>No hubo respuesta en %n segundo: compruebe que el archivo se puede leer y que ningún programa lo bloquea.</numerusform>
+            <numerusform>No hubo respuesta en %n segundos: compruebe que el archivo se puede leer y que ningún programa lo bloquea.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check the data source and its driver.</source>
+        <translation>
+            <numerusform>No hubo respuesta en %n segundo: compruebe el origen de datos y su controlador.</numerusform>
+            <numerusform>No hubo respuesta en %n segundos: compruebe el origen de datos y su controlador.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TExportDialog</name>
@@ -782,6 +796,10 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
             <numerusform>%Ln filas guardadas en %1.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Go to the &amp;note</source>
+        <translation>Ir al a&amp;viso</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -837,6 +855,10 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
     <message>
         <source>A value is needed.</source>
         <translation>Se necesita un valor.</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>Por ejemplo, %1</translation>
     </message>
 </context>
 <context>
@@ -1507,6 +1529,10 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
             <numerusform>«%1» se ha eliminado, y antes %n más.</numerusform>
             <numerusform>«%1» se ha eliminado, y antes %n más.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. It cannot be read: you cannot take that back.</source>
+        <translation>Se elimina para todos los que usan este almacén. No se puede leer: no podrá deshacerlo.</translation>
     </message>
 </context>
 <context>

@@ -356,6 +356,20 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
             <numerusform>La connexion fonctionne&#xa0;; %n tables trouvées.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check that the file can be read and no program locks it.</source>
+        <translation>
+            <numerusform>Aucune réponse en %n seconde&#xa0;: vérifiez que le fichier est lisible et qu’aucun programme ne le verrouille.</numerusform>
+            <numerusform>Aucune réponse en %n secondes&#xa0;: vérifiez que le fichier est lisible et qu’aucun programme ne le verrouille.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check the data source and its driver.</source>
+        <translation>
+            <numerusform>Aucune réponse en %n seconde&#xa0;: vérifiez la source de données et son pilote.</numerusform>
+            <numerusform>Aucune réponse en %n secondes&#xa0;: vérifiez la source de données et son pilote.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TExportDialog</name>
@@ -782,6 +796,10 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
             <numerusform>%Ln lignes se trouvent dans %1.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Go to the &amp;note</source>
+        <translation>Aller à la &amp;note</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -837,6 +855,10 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
     <message>
         <source>A value is needed.</source>
         <translation>Une valeur est requise.</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>Par exemple %1</translation>
     </message>
 </context>
 <context>
@@ -1507,6 +1529,10 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
             <numerusform>«&#xa0;%1&#xa0;» a été supprimée, et %n autre avant elle.</numerusform>
             <numerusform>«&#xa0;%1&#xa0;» a été supprimée, et %n autres avant elle.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. It cannot be read: you cannot take that back.</source>
+        <translation>Elle est supprimée pour tous ceux qui utilisent cette collection. Elle ne peut pas être lue&#xa0;: vous ne pourrez pas annuler cela.</translation>
     </message>
 </context>
 <context>

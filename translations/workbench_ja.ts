@@ -351,6 +351,18 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
             <numerusform>接続できました。%n 個のテーブルが見つかりました。</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check that the file can be read and no program locks it.</source>
+        <translation>
+            <numerusform>%n 秒以内に応答がありませんでした。ファイルが読み取り可能で、ほかのプログラムにロックされていないことを確認してください。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check the data source and its driver.</source>
+        <translation>
+            <numerusform>%n 秒以内に応答がありませんでした。データソースとそのドライバーを確認してください。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TExportDialog</name>
@@ -770,6 +782,10 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
             <numerusform>%Ln 行を %1 に書き込みました。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Go to the &amp;note</source>
+        <translation>メッセージに移動(&amp;N)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -825,6 +841,10 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
     <message>
         <source>A value is needed.</source>
         <translation>値を入力してください。</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>例: %1</translation>
     </message>
 </context>
 <context>
@@ -1487,6 +1507,10 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>
             <numerusform>「%1」を削除しました (その前に削除したもの: %n 個)。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. It cannot be read: you cannot take that back.</source>
+        <translation>この保存先を使うすべてのユーザーから削除されます。読み取れないため、元に戻すことはできません。</translation>
     </message>
 </context>
 <context>

@@ -361,6 +361,22 @@ Tolvi распространяется по лицензии MIT. Посколь
             <numerusform>Подключение работает; найдено %n таблиц.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check that the file can be read and no program locks it.</source>
+        <translation>
+            <numerusform>Нет ответа в течение %n секунды: проверьте, что файл доступен для чтения и не заблокирован другой программой.</numerusform>
+            <numerusform>Нет ответа в течение %n секунд: проверьте, что файл доступен для чтения и не заблокирован другой программой.</numerusform>
+            <numerusform>Нет ответа в течение %n секунд: проверьте, что файл доступен для чтения и не заблокирован другой программой.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check the data source and its driver.</source>
+        <translation>
+            <numerusform>Нет ответа в течение %n секунды: проверьте источник данных и его драйвер.</numerusform>
+            <numerusform>Нет ответа в течение %n секунд: проверьте источник данных и его драйвер.</numerusform>
+            <numerusform>Нет ответа в течение %n секунд: проверьте источник данных и его драйвер.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TExportDialog</name>
@@ -794,6 +810,10 @@ Tolvi распространяется по лицензии MIT. Посколь
             <numerusform>%Ln строк записано в %1.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Go to the &amp;note</source>
+        <translation>Перейти к соо&amp;бщению</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -849,6 +869,10 @@ Tolvi распространяется по лицензии MIT. Посколь
     <message>
         <source>A value is needed.</source>
         <translation>Нужно указать значение.</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>Например, %1</translation>
     </message>
 </context>
 <context>
@@ -1527,6 +1551,10 @@ Tolvi распространяется по лицензии MIT. Посколь
             <numerusform>Запрос «%1» удалён, до него — ещё %n.</numerusform>
             <numerusform>Запрос «%1» удалён, до него — ещё %n.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. It cannot be read: you cannot take that back.</source>
+        <translation>Он будет удалён для всех, кто использует это хранилище. Его нельзя прочитать, поэтому удаление нельзя отменить.</translation>
     </message>
 </context>
 <context>

@@ -351,6 +351,18 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
             <numerusform>连接成功；找到 %n 个表。</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check that the file can be read and no program locks it.</source>
+        <translation>
+            <numerusform>%n 秒内没有响应：请检查文件是否可读，以及是否被其他程序锁定。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There was no answer within %n second(s): check the data source and its driver.</source>
+        <translation>
+            <numerusform>%n 秒内没有响应：请检查数据源及其驱动程序。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TExportDialog</name>
@@ -770,6 +782,10 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
             <numerusform>已将 %Ln 行写入 %1。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Go to the &amp;note</source>
+        <translation>转到提示(&amp;N)</translation>
+    </message>
 </context>
 <context>
     <name>tolvi::TNameEditor</name>
@@ -825,6 +841,10 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
     <message>
         <source>A value is needed.</source>
         <translation>需要填写值。</translation>
+    </message>
+    <message>
+        <source>For example %1</source>
+        <translation>例如 %1</translation>
     </message>
 </context>
 <context>
@@ -1487,6 +1507,10 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>
             <numerusform>“%1”已删除，此前还删除了 %n 个。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>It is deleted for everybody who uses this store. It cannot be read: you cannot take that back.</source>
+        <translation>所有使用此查询库的人都将失去该查询。该查询无法读取，因此无法撤消。</translation>
     </message>
 </context>
 <context>
