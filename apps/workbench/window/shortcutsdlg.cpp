@@ -9,8 +9,10 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace tolvi {
 namespace {
@@ -85,7 +87,12 @@ void ShowShortcuts(QMainWindow& window, const TPaneKeys& panes) {
   rows->addWidget(tree, 1);
   rows->addWidget(buttons);
   const QFontMetrics metrics = dialog.fontMetrics();
-  dialog.resize(QSize(metrics.averageCharWidth() * 80, metrics.height() * 32).boundedTo(window.size()));
+  // Both columns whole, in every language.
+  const QAbstractItemView& view = *tree;
+  const int keys = view.sizeHintForColumn(1) + tree->verticalScrollBar()->sizeHint().width();
+  const int around = 2 * tree->frameWidth() + rows->contentsMargins().left() + rows->contentsMargins().right();
+  const int width = std::max(metrics.averageCharWidth() * 80, tree->columnWidth(0) + keys + around);
+  dialog.resize(QSize(width, metrics.height() * 32).boundedTo(window.size()));
   dialog.exec();
 }
 
