@@ -326,7 +326,7 @@ TEST(ConnectionTest, EndsWhereAServerIsSilentAndIsNotHeardOnceStopped) {
   EXPECT_EQ(words, QStringLiteral("There was no answer within a second: check host and port."));
   EXPECT_LT(time.elapsed(), 3000);
   EXPECT_EQ(FromQString(TConnectionTest::NoAnswer(dkODBC, 2)),
-            "There was no answer within 2 second(s): check the data source and its driver.");
+            "There was no answer within 2 seconds: check the data source and its driver.");
   words.clear();
   test.Start({.Kind = dkSQLite, .Database = "/nowhere"}, 1);
   test.Stop();
