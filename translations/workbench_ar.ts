@@ -958,10 +958,6 @@ Tolvi comes under the MIT licence. As this program shows SQL with QScintilla and
         <translation>يتعذر الاحتفاظ بالعمل غير المحفوظ تحسبًا لانتهاء البرنامج: %1</translation>
     </message>
     <message>
-        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
-        <translation>لا يمكن الآن استعادة التغييرات التي لم تُحفظ. تبقى في %1، وستُعاد المحاولة عند بدء التشغيل التالي.</translation>
-    </message>
-    <message>
         <source>%1 is not open.</source>
         <translation>القاعدة %1 غير مفتوحة.</translation>
     </message>

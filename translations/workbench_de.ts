@@ -898,10 +898,6 @@ Tolvi steht unter der MIT-Lizenz. Da dieses Programm SQL mit QScintilla und Diag
         <translation>Ungespeicherte Arbeit kann nicht für den Fall gesichert werden, dass das Programm endet: %1</translation>
     </message>
     <message>
-        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
-        <translation>Nicht gespeicherte Änderungen können jetzt nicht wiederhergestellt werden. Sie bleiben in %1, und der nächste Start versucht es wieder.</translation>
-    </message>
-    <message>
         <source>%1 is not open.</source>
         <translation>%1 ist nicht geöffnet.</translation>
     </message>

@@ -898,10 +898,6 @@ Tolvi se distribuye con la licencia MIT. Como este programa muestra el SQL con Q
         <translation>El trabajo sin guardar no se puede conservar por si se cierra el programa: %1</translation>
     </message>
     <message>
-        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
-        <translation>Ahora no se pueden recuperar los cambios sin guardar. Siguen en %1, y el próximo inicio lo intentará de nuevo.</translation>
-    </message>
-    <message>
         <source>%1 is not open.</source>
         <translation>%1 no está abierta.</translation>
     </message>

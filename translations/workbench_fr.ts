@@ -898,10 +898,6 @@ Tolvi est distribué sous licence MIT. Comme ce programme affiche le SQL avec QS
         <translation>Le travail non enregistré ne peut pas être conservé en prévision d’une fin du programme&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
-        <translation>Des modifications non enregistrées ne peuvent pas être rétablies maintenant. Elles restent dans %1, et le prochain démarrage essaiera de nouveau.</translation>
-    </message>
-    <message>
         <source>%1 is not open.</source>
         <translation>%1 n’est pas ouverte.</translation>
     </message>

@@ -883,10 +883,6 @@ Tolvi は MIT ライセンスで提供されます。このプログラムは SQ
         <translation>プログラムの終了に備えた未保存の作業の保管ができません: %1</translation>
     </message>
     <message>
-        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
-        <translation>保存されていない変更を今は元に戻せません。%1 に残り、次の起動時に再び試みます。</translation>
-    </message>
-    <message>
         <source>%1 is not open.</source>
         <translation>%1 は開かれていません。</translation>
     </message>

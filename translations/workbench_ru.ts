@@ -913,10 +913,6 @@ Tolvi распространяется по лицензии MIT. Посколь
         <translation>Несохранённую работу не удаётся сберечь на случай завершения программы: %1</translation>
     </message>
     <message>
-        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
-        <translation>Несохранённые изменения сейчас нельзя вернуть. Они остаются в %1, и при следующем запуске попытка повторится.</translation>
-    </message>
-    <message>
         <source>%1 is not open.</source>
         <translation>База данных %1 не открыта.</translation>
     </message>

@@ -883,10 +883,6 @@ Tolvi 以 MIT 许可证发布。由于本程序使用 QScintilla 显示 SQL、�
         <translation>无法保存未完成的工作以防程序意外结束: %1</translation>
     </message>
     <message>
-        <source>Changes that were not saved cannot be put back now. They stay in %1, and the next start tries it again.</source>
-        <translation>现在无法恢复未保存的更改。它们保留在 %1 中，下次启动时会再次尝试。</translation>
-    </message>
-    <message>
         <source>%1 is not open.</source>
         <translation>%1 未打开。</translation>
     </message>

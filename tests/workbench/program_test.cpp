@@ -72,6 +72,7 @@ class Program : public testing::Test {
   TMainWindow& Window() { return FProgram->Window(); }
   std::string Note() { return FromQString(Window().findChild<TNoteBar*>()->GetWords()); }
   void Choose(const QString& choice) {
+    QCoreApplication::processEvents();  // shows the buttons
     for (QAbstractButton* button : Window().findChild<TNoteBar*>()->findChildren<QAbstractButton*>()) {
       if (button->text() == choice && button->isVisible()) return QTest::mouseClick(button, Qt::LeftButton);
     }
@@ -315,6 +316,25 @@ TEST_F(Program, DropsUnsavedWorkThatNobodyWants) {
   Choose(QStringLiteral("Discard"));
   Start({.Source = source});
   EXPECT_EQ(Note(), "");
+}
+
+TEST_F(Program, OffersUnsavedWorkOfADatabaseThatIsGoneUntilItIsBack) {
+  const TSource source = Copy("gone.sqlite");
+  const QString file = Path("gone.sqlite");
+  Start({.Source = source});
+  const TUnsavedWork work = Lose();
+  ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".away")));
+  // The source of the last time, and then the one that is named: no other one is opened.
+  for (const bool isNamed : {false, true}) {
+    Start(isNamed ? TProgram::TOptions{.Source = source} : TProgram::TOptions{});
+    EXPECT_EQ(Window().GetWorkspace(), nullptr);
+    EXPECT_NE(Note().find("gone.sqlite"), std::string::npos) << Note();
+  }
+  ASSERT_TRUE(QFile::rename(file + QStringLiteral(".away"), file));
+  Choose(QStringLiteral("Try again"));
+  EXPECT_NE(Note().find("were saved. They are kept"), std::string::npos) << Note();
+  Choose(QStringLiteral("Open %1 with them").arg(SourceName(source)));
+  EXPECT_EQ(Window().GetWorkspace()->QueryText(), *work.QueryText);
 }
 
 TEST_F(Program, BringsUnsavedWorkOfTheNamedDatabaseBack) {

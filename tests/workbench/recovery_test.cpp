@@ -27,7 +27,7 @@ TEST(Recovery, FindsTheWorkOfAProgramThatRunsNoMore) {
   }
   // It is not given up before it has been put back.
   second.Keep({});
-  EXPECT_TRUE(QFile::exists(second.FoundFile()));
+  EXPECT_EQ(QDir(folder.path()).entryList({QStringLiteral("*.work")}).size(), 1);
   second.Keep(Work);
   second.Drop();
   EXPECT_FALSE(second.Find());

@@ -163,6 +163,7 @@ void TFaultFinder::TellColumn() {
   Tell({{}, FRefused.front()});
 }
 
+// A copy, as the trial that it is of goes. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void TFaultFinder::Tell(TFaultPart part) {
   Stop();
   // The handler may ask for another search.

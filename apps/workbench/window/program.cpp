@@ -58,8 +58,11 @@ void TProgram::Start() {
   try {
     const std::optional<TSource> named = NamedSource();
     const bool isOther = named && work && work->Source != *named;
-    const bool isRecovered = work && !isOther && Recover(*work);
-    if (!isRecovered && FWindow->GetWorkspace() == nullptr) OpenFirst(named ? *named : LastSource());
+    if (work && !isOther) {
+      OpenWith(*work);
+    } else {
+      OpenFirst(named ? *named : LastSource());
+    }
     if (isOther) Offer(*work);
   } catch (const std::exception& error) {
     FWindow->Tell(QString::fromUtf8(error.what()));
@@ -79,10 +82,14 @@ TSource TProgram::LastSource() {
 void TProgram::OpenFirst(const TSource& source) {
   try {
     if (auto workspace = Opened(source)) return Show(std::move(workspace));
-    TellNotOpened(source, FRefusal.isEmpty() ? tr("%1 is not open.").arg(ToQString(source.Url)) : FRefusal);
+    TellNotOpened(source, WhyNotOpen(source));
   } catch (const std::exception& error) {
     TellNotOpened(source, QString::fromUtf8(error.what()));
   }
+}
+
+QString TProgram::WhyNotOpen(const TSource& source) const {
+  return FRefusal.isEmpty() ? tr("%1 is not open.").arg(ToQString(source.Url)) : FRefusal;
 }
 
 void TProgram::TellNotOpened(const TSource& source, const QString& why) {
@@ -220,19 +227,35 @@ void TProgram::RestoreSample() {
   }
 }
 
-bool TProgram::Recover(const TUnsavedWork& work) {
-  const QString file = QDir::toNativeSeparators(FRecovery.FoundFile());
-  if (!Open(work.Source) || !FWindow->Restore(work)) {
-    FRecovery.Leave();
-    FWindow->TellFault(
-        tr("Changes that were not saved cannot be put back now. They stay in %1, and the next start tries "
-           "it again.")
-            .arg(file));
-    return false;
-  }
+bool TProgram::PutBack(const TUnsavedWork& work) {
+  auto workspace = Opened(work.Source);
+  if (!workspace) return false;
+  Show(std::move(workspace));
+  if (!FWindow->Restore(work)) return false;
   FIsPutBack = true;
   Keep();
   return true;
+}
+
+void TProgram::OpenWith(const TUnsavedWork& work) {
+  QString why;
+  try {
+    if (PutBack(work)) return;
+    why = WhyNotOpen(work.Source);
+  } catch (const std::exception& error) {
+    why = QString::fromUtf8(error.what());
+  }
+  if (FWindow->GetWorkspace() == nullptr) TellNotOpened(work.Source, why);
+  Offer(work);
+}
+
+void TProgram::TakeOffer(const TUnsavedWork& work) {
+  try {
+    if (FWindow->MayLeaveQuery() && FWindow->MayLeaveModel() && PutBack(work)) return;
+  } catch (const std::exception& error) {
+    FWindow->TellFault(QString::fromUtf8(error.what()));
+  }
+  Offer(work);
 }
 
 void TProgram::Offer(const TUnsavedWork& work) {
@@ -247,14 +270,7 @@ void TProgram::Offer(const TUnsavedWork& work) {
                  "them or discard them.")
                   .arg(source);
     FWindow->Tell(words,
-                  {{tr("Open %1 with them").arg(source),
-                    [this, work] {
-                      if (FWindow->MayLeaveQuery() && FWindow->MayLeaveModel()) {
-                        Recover(work);
-                      } else {
-                        Offer(work);
-                      }
-                    }},
+                  {{tr("Open %1 with them").arg(source), [this, work] { TakeOffer(work); }},
                    {tr("Discard"), [this] { FRecovery.Drop(); }}},
                   Offered);
   });

@@ -66,6 +66,7 @@ class TProgram final : public QObject {
   void OpenFirst(const TSource& source);
   // Tells a note that stays, in the language of the window, now and in windows that are made later.
   void TellLasting(const QString& topic, std::function<void()> tell);
+  QString WhyNotOpen(const TSource& source) const;
   void TellNotOpened(const TSource& source, const QString& why);
   void UseLanguage(const QString& code);
   void Connect();
@@ -73,8 +74,12 @@ class TProgram final : public QObject {
   void RestoreSample();
   void Keep();
   void Quit();
-  bool Recover(const TUnsavedWork& work);
+  // Opens the source of the work and shows the work in it; false or as `Opened` raises when that cannot be.
+  bool PutBack(const TUnsavedWork& work);
+  // The same for the first source; what cannot be opened is told, and the work is offered.
+  void OpenWith(const TUnsavedWork& work);
   void Offer(const TUnsavedWork& work);
+  void TakeOffer(const TUnsavedWork& work);
   QString SampleFolder() const;
 
   const QString FData;

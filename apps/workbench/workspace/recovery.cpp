@@ -86,10 +86,6 @@ std::optional<TUnsavedWork> TRecovery::Find() {
 
 void TRecovery::Drop() {
   if (!FFound.isEmpty()) QFile::remove(FFound);
-  Leave();
-}
-
-void TRecovery::Leave() {
   FFound.clear();
   FFoundLock.reset();
 }

@@ -41,18 +41,14 @@ class TRecovery final {
   /// The latest work that a program left which runs no more. It stays in its file until `Drop`; a file that cannot be
   /// read is left alone. The same work is not found twice.
   std::optional<TUnsavedWork> Find();
-  /// The file of what `Find` has found, for people; empty for none.
-  const QString& FoundFile() const { return FFound; }
   /// Removes what `Find` has found, as it has been put back.
   void Drop();
-  /// Leaves it to the next program.
-  void Leave();
 
  private:
   QString FFolder, FFile;
   std::unique_ptr<QLockFile> FLock;
   std::optional<TUnsavedWork> FKept;
-  // The file that was found, and its lock.
+  // The file that was found, and its lock; the next program takes it when this one ends before `Drop`.
   QString FFound;
   std::unique_ptr<QLockFile> FFoundLock;
 };
